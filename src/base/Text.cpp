@@ -1,0 +1,77 @@
+#include "base/Text.h"
+
+#include <cstdint>
+#include <cstring>
+
+namespace sonavel {
+
+namespace {
+
+constexpr std::uint64_t highBits = 0x8080808080808080U;
+
+bool isContinuation(unsigned char byte)
+{
+    return (byte & 0xC0U) == 0x80U;
+}
+
+/// The length of the well-formed sequence at the head of `bytes`, 0 when there is none.
+std::size_t sequenceLength(std::string_view bytes)
+{
+    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(bytes[index]); };
+    const unsigned char first = byte(0);
+    if (first < 0x80)
+        return 1;
+    std::size_t length = 0;
+    unsigned char lowest = 0x80;
+    unsigned char highest = 0xBF;
+    if (first >= 0xC2 && first <= 0xDF) {
+        length = 2;
+    } else if (first >= 0xE0 && first <= 0xEF) {
+        length = 3;
+        lowest = first == 0xE0 ? 0xA0 : 0x80;
+        highest = first == 0xED ? 0x9F : 0xBF;
+    } else if (first >= 0xF0 && first <= 0xF4) {
+        length = 4;
+        lowest = first == 0xF0 ? 0x90 : 0x80;
+        highest = first == 0xF4 ? 0x8F : 0xBF;
+    }
+    if (length == 0 || bytes.size() < length || byte(1) < lowest || byte(1) > highest)
+        return 0;
+    for (std::size_t index = 2; index < length; ++index)
+        if (!isContinuation(byte(index)))
+            return 0;
+    return length;
+}
+
+} // namespace
+
+std::size_t Text::length() const
+{
+    std::size_t units = 0;
+    for (const char character : view_) {
+        const auto byte = static_cast<unsigned char>(character);
+        units += isContinuation(byte) ? 0 : 1;
+        units += byte >= 0xF0 ? 1 : 0;
+    }
+    return units;
+}
+
+bool isValidUtf8(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        std::uint64_t word = highBits;
+        if (bytes.size() >= sizeof word)
+            std::memcpy(&word, bytes.data(), sizeof word);
+        if ((word & highBits) == 0) {
+            bytes.remove_prefix(sizeof word);
+            continue;
+        }
+        const std::size_t length = sequenceLength(bytes);
+        if (length == 0)
+            return false;
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
+
+} // namespace sonavel

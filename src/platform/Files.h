@@ -1,0 +1,52 @@
+// The files of the user, as the program needs them.
+#pragma once
+
+#include "base/Text.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sonavel {
+
+/// Paths are absolute, in UTF-8. Links are followed. No operation throws; main thread.
+class Files {
+public:
+    Files() = default;
+    Files(const Files&) = delete;
+    Files& operator=(const Files&) = delete;
+    virtual ~Files() = default;
+
+    /// The folder under which the program's files lie, without a trailing "/".
+    [[nodiscard]] virtual Text homeDirectory() const = 0;
+
+    /// Whether anything of that name is there: a file, readable or not, or a folder.
+    [[nodiscard]] virtual bool fileExists(const Text& path) const = 0;
+
+    /// The whole content. Nothing when there is no such file, it is a folder, or it cannot be read to its end.
+    [[nodiscard]] virtual std::optional<std::string> contentsOfFile(const Text& path) const = 0;
+
+    /// Replaces the file, or makes it (readable by its owner alone), in one step: a reader, or a later run after a
+    /// crash or power cut, finds either the old content whole or the new. Answers false when it could not; the old
+    /// content then stands and no temporary file is left.
+    virtual bool writeAtomically(const Text& path, std::string_view bytes) = 0;
+
+    /// Gives the content of `path` a second name, which keeps it when `path` is replaced. False when `copy` is taken or
+    /// cannot be made; nothing has changed then.
+    virtual bool keepCopy(const Text& path, const Text& copy) = 0;
+
+    /// Renames a file or folder. False when it could not, or `newPath` is taken; nothing has changed then.
+    virtual bool moveFile(const Text& path, const Text& newPath) = 0;
+
+    /// Removes a file; false when it could not.
+    virtual bool removeFile(const Text& path) = 0;
+
+    /// Makes the folder and those above it where they are missing, for the owner alone. False when it could not.
+    virtual bool makeFolder(const Text& path) = 0;
+
+    /// The names in a folder, in no order; empty when it cannot be read.
+    [[nodiscard]] virtual std::vector<std::string> namesInFolder(const Text& path) const = 0;
+};
+
+} // namespace sonavel

@@ -1,0 +1,22 @@
+// The texts that the user sees, by their keys.
+#pragma once
+
+#include "base/Text.h"
+
+#include <string_view>
+
+namespace sonavel {
+
+class LocalizedStrings {
+public:
+    LocalizedStrings() = default;
+    LocalizedStrings(const LocalizedStrings&) = delete;
+    LocalizedStrings& operator=(const LocalizedStrings&) = delete;
+    virtual ~LocalizedStrings() = default;
+
+    /// The text in the user's language; the key itself when there is none. "%@" in it stands for a text, "%li" for a
+    /// number.
+    [[nodiscard]] virtual Text localizedStringForKey(std::string_view key) const = 0;
+};
+
+} // namespace sonavel

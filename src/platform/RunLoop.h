@@ -1,0 +1,19 @@
+// The application loop, as far as the core asks for it.
+#pragma once
+
+#include <functional>
+
+namespace sonavel {
+
+class RunLoop {
+public:
+    RunLoop() = default;
+    RunLoop(const RunLoop&) = delete;
+    RunLoop& operator=(const RunLoop&) = delete;
+    virtual ~RunLoop() = default;
+
+    /// Runs `action` on the loop's next turn, never before this call has returned.
+    virtual void performOnNextTurn(std::function<void()> action) = 0;
+};
+
+} // namespace sonavel

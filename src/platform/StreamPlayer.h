@@ -1,0 +1,58 @@
+// The player of one stream.
+//
+// The life of a player:
+//   1. `playerWithPlayerItem` makes it, silent and not connected to anything yet, at full volume, not muted;
+//   2. `setVolume` and `setMuted` say how it will sound;
+//   3. `play` connects and starts the sound as soon as there is any;
+//   4. `pause` holds the sound, `play` goes on, any number of times; volume and muting apply at any moment;
+//   5. destroying it ends its sound at once. Then, or while it lives, another one may be made.
+// Whatever the stream does meanwhile (breaks, ends, never answers) is the player's own business: it goes on trying and
+// posts the two notifications below with itself as the sender.
+#pragma once
+
+#include "base/Text.h"
+
+#include <memory>
+
+namespace sonavel {
+
+/// What a player plays: the address of a stream.
+struct PlayerItem {
+    Text address;
+};
+
+class StreamPlayer {
+public:
+    StreamPlayer() = default;
+    StreamPlayer(const StreamPlayer&) = delete;
+    StreamPlayer& operator=(const StreamPlayer&) = delete;
+    virtual ~StreamPlayer() = default;
+
+    /// Starts, or continues, the sound. Returns at once.
+    virtual void play() = 0;
+    /// Holds the sound; a later `play` continues the same stream.
+    virtual void pause() = 0;
+    /// 0.0 (silent) to 1.0 (full); heard at once.
+    virtual void setVolume(float volume) = 0;
+    /// Silences the sound without changing the volume; heard at once.
+    virtual void setMuted(bool muted) = 0;
+};
+
+class StreamPlayers {
+public:
+    StreamPlayers() = default;
+    StreamPlayers(const StreamPlayers&) = delete;
+    StreamPlayers& operator=(const StreamPlayers&) = delete;
+    virtual ~StreamPlayers() = default;
+
+    /// A new player bound to `item`, which is not absent. Never fails: a stream that cannot be played stays silent. The
+    /// players must be gone before this object is.
+    [[nodiscard]] virtual std::unique_ptr<StreamPlayer> playerWithPlayerItem(
+        std::shared_ptr<const PlayerItem> item) = 0;
+};
+
+/// Posted by a player when its stream runs dry, and when it meets an error.
+inline constexpr const char* playbackStalledNotification = "AVPlayerItemPlaybackStalledNotification";
+inline constexpr const char* newErrorLogEntryNotification = "AVPlayerItemNewErrorLogEntryNotification";
+
+} // namespace sonavel

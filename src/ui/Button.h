@@ -1,0 +1,66 @@
+// A push button or check box.
+#pragma once
+
+#include "base/Text.h"
+#include "ui/Rendered.h"
+
+namespace sonavel {
+
+/// The colour of a button's title. Black is whatever the palette writes its texts in.
+enum class TitleColor { Black, Red };
+
+struct ButtonState {
+    Text title;
+    TitleColor titleColor = TitleColor::Black;
+    /// The name of an image that is delivered with the program, such as "play.png"; absent for none.
+    Text image;
+    bool isEnabled = false;
+    /// Whether a check box is ticked.
+    bool isOn = false;
+
+    friend bool operator==(const ButtonState&, const ButtonState&) = default;
+};
+
+class Button : public Rendered<ButtonState> {
+public:
+    [[nodiscard]] Text title() const { return state().title; }
+
+    void setTitle(const Text& title)
+    {
+        update([&](ButtonState& state) { state.title = title; });
+    }
+    /// Colours the whole title; its text stays.
+    void setTitleColor(TitleColor color)
+    {
+        update([&](ButtonState& state) { state.titleColor = color; });
+    }
+    void setImage(const Text& name)
+    {
+        update([&](ButtonState& state) { state.image = name; });
+    }
+    void setEnabled(bool enabled)
+    {
+        update([&](ButtonState& state) { state.isEnabled = enabled; });
+    }
+    void setState(bool on)
+    {
+        update([&](ButtonState& state) { state.isOn = on; });
+    }
+
+    /// The user pressed it.
+    void pressedByUser()
+    {
+        if (state().isEnabled)
+            action.send();
+    }
+    /// The user ticked or cleared the check box.
+    void toggledByUser(bool on)
+    {
+        store([&](ButtonState& state) { state.isOn = on; });
+        action.send();
+    }
+
+    Action action;
+};
+
+} // namespace sonavel

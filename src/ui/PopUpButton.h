@@ -1,0 +1,67 @@
+// A pop-up list from which one item is chosen.
+#pragma once
+
+#include "base/Text.h"
+#include "ui/Rendered.h"
+
+#include <memory>
+#include <vector>
+
+namespace sonavel {
+
+/// The titles of a pop-up's items; long lists are shared between pop-ups and with whoever renders them.
+using ItemTitles = std::shared_ptr<const std::vector<Text>>;
+
+struct PopUpButtonState {
+    ItemTitles titles;
+    /// −1 when no item is selected.
+    int selectedIndex = 0;
+    bool isEnabled = false;
+
+    friend bool operator==(const PopUpButtonState&, const PopUpButtonState&) = default;
+};
+
+class PopUpButton : public Rendered<PopUpButtonState> {
+public:
+    [[nodiscard]] int numberOfItems() const { return state().titles ? static_cast<int>(state().titles->size()) : 0; }
+    [[nodiscard]] int indexOfSelectedItem() const { return state().selectedIndex; }
+
+    /// Absent when no item is selected.
+    [[nodiscard]] Text titleOfSelectedItem() const
+    {
+        const int index = indexOfSelectedItem();
+        return index >= 0 && index < numberOfItems() ? state().titles->at(static_cast<std::size_t>(index)) : Text();
+    }
+
+    /// Replaces all items at once and selects the first, or none when there is none.
+    void setItems(ItemTitles titles)
+    {
+        update([&](PopUpButtonState& state) {
+            state.selectedIndex = titles && !titles->empty() ? 0 : -1;
+            state.titles = std::move(titles);
+        });
+    }
+    /// Selects the item; an index beyond the items, such as −1, selects none.
+    void selectItemAtIndex(int index)
+    {
+        const bool exists = index >= 0 && index < numberOfItems();
+        update([&](PopUpButtonState& state) { state.selectedIndex = exists ? index : -1; });
+    }
+    void setEnabled(bool enabled)
+    {
+        update([&](PopUpButtonState& state) { state.isEnabled = enabled; });
+    }
+
+    /// The user chose an item, the selected one perhaps.
+    void chosenByUser(int index)
+    {
+        if (!state().isEnabled || index < 0 || index >= numberOfItems())
+            return;
+        store([&](PopUpButtonState& state) { state.selectedIndex = index; });
+        action.send();
+    }
+
+    Action action;
+};
+
+} // namespace sonavel

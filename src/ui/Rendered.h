@@ -1,0 +1,89 @@
+// What all controls have in common: a state that the program owns and a toolkit renders.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+namespace sonavel {
+
+/// The state of one control. Until a toolkit is attached, nothing said to the control leaves a trace, and what is read
+/// is the empty state. Main thread.
+template <class State> class Rendered {
+public:
+    using Render = std::function<void(const State&)>;
+
+    Rendered() = default;
+    Rendered(const Rendered&) = delete;
+    Rendered& operator=(const Rendered&) = delete;
+
+    [[nodiscard]] bool isConnected() const { return connected_; }
+    [[nodiscard]] const State& state() const { return state_; }
+
+    /// Attaches the toolkit: takes over what its layout says; from then on every change is rendered. `render` may be
+    /// empty where nobody looks.
+    void connect(State asLaidOut, Render render = {})
+    {
+        state_ = std::move(asLaidOut);
+        render_ = std::move(render);
+        connected_ = true;
+    }
+
+    /// Detaches it again, as when its window goes away.
+    void disconnect()
+    {
+        connected_ = false;
+        render_ = {};
+        state_ = State();
+    }
+
+protected:
+    ~Rendered() = default;
+
+    /// Applies `change` and renders once, or not at all if nothing changed.
+    template <class Change> void update(Change&& change)
+    {
+        if (!store(std::forward<Change>(change)) || !render_)
+            return;
+        render_(state_);
+    }
+
+    /// Applies a change that the toolkit shows already, because the user made it there. Whether anything changed.
+    template <class Change> bool store(Change&& change)
+    {
+        if (!connected_)
+            return false;
+        State next = state_;
+        std::forward<Change>(change)(next);
+        if (next == state_)
+            return false;
+        state_ = std::move(next);
+        return true;
+    }
+
+    void renderAgain() const
+    {
+        if (connected_ && render_)
+            render_(state_);
+    }
+
+private:
+    State state_;
+    Render render_;
+    bool connected_ = false;
+};
+
+/// What a control does when the user acts on it. Set by the wiring of the program.
+class Action {
+public:
+    void set(std::function<void()> action) { action_ = std::move(action); }
+    void send() const
+    {
+        if (action_)
+            action_();
+    }
+
+private:
+    std::function<void()> action_;
+};
+
+} // namespace sonavel

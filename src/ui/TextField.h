@@ -1,0 +1,25 @@
+// A line of text, for reading or for typing.
+#pragma once
+
+#include "base/Text.h"
+#include "ui/Rendered.h"
+
+namespace sonavel {
+
+struct TextFieldState {
+    Text stringValue;
+
+    friend bool operator==(const TextFieldState&, const TextFieldState&) = default;
+};
+
+class TextField : public Rendered<TextFieldState> {
+public:
+    [[nodiscard]] Text stringValue() const { return state().stringValue; }
+
+    void setStringValue(const Text& text)
+    {
+        update([&](TextFieldState& state) { state.stringValue = text; });
+    }
+};
+
+} // namespace sonavel
