@@ -98,7 +98,8 @@ std::optional<Moment> momentFromInternationalForm(const Text& text)
     if (year == 0 || !calendarDay.ok() || hours > 23 || minutes > 59 || seconds > 59)
         return std::nullopt;
     const std::int64_t days = std::chrono::sys_days(calendarDay).time_since_epoch().count();
-    return Moment::fromSeconds(days * 86'400 + hours * 3600 + minutes * 60 + seconds - *offset);
+    const std::int64_t secondOfDay = (hours * 60 + minutes) * 60 + seconds;
+    return Moment::fromSeconds(days * 86'400 + secondOfDay - *offset);
 }
 
 } // namespace sonavel
