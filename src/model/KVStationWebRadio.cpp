@@ -1,0 +1,33 @@
+#include "model/KVStationWebRadio.h"
+
+#include "model/KeyedArchive.h"
+
+namespace sonavel {
+
+KVStationWebRadio::KVStationWebRadio(std::uint64_t idRadio, Text radio, Text link)
+    : idRadio_(idRadio)
+    , radio_(std::move(radio))
+    , link_(std::move(link))
+{
+}
+
+KVStationWebRadio::KVStationWebRadio(const KeyedArchive& archive)
+    : KVStationWebRadio(archive.decodeInteger("idRadio"), archive.decodeObject("radio"), archive.decodeObject("link"))
+{
+}
+
+std::string KVStationWebRadio::returnPropertyIntoFormatDefaultCSV() const
+{
+    std::string line = std::to_string(idRadio_);
+    line.append(";").append(radio_.view()).append(";").append(link_.view()).append("\r");
+    return line;
+}
+
+void KVStationWebRadio::encodeWithCoder(KeyedArchive& archive) const
+{
+    archive.encodeInteger(idRadio_, "idRadio");
+    archive.encodeObject(radio_, "radio");
+    archive.encodeObject(link_, "link");
+}
+
+} // namespace sonavel

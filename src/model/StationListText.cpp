@@ -1,0 +1,84 @@
+#include "model/StationListText.h"
+
+#include "model/KVStationWebRadio.h"
+
+#include <algorithm>
+
+namespace sonavel {
+
+namespace {
+
+/// Cuts the part before `separator` off; the whole of `rest` when there is none.
+std::string_view takeUntil(std::string_view& rest, char separator)
+{
+    const std::size_t length = std::min(rest.find(separator), rest.size());
+    const std::string_view part = rest.substr(0, length);
+    rest.remove_prefix(std::min(length + 1, rest.size()));
+    return part;
+}
+
+bool isSkipped(std::string_view firstField)
+{
+    return firstField.empty() || firstField == "-" || firstField == "radio" || firstField == "link";
+}
+
+std::size_t lengthOfListText(const StationRecords& records)
+{
+    std::size_t length = 0;
+    for (const auto& record : records)
+        length += record->radio().view().size() + record->link().view().size() + 2;
+    return length;
+}
+
+} // namespace
+
+std::optional<StationListLine> StationListReader::next()
+{
+    if (ended_)
+        return std::nullopt;
+    const std::size_t end = rest_.find('\r');
+    ended_ = end == std::string_view::npos;
+    std::string_view line = rest_.substr(0, end);
+    rest_.remove_prefix(ended_ ? rest_.size() : end + 1);
+
+    StationListLine result;
+    result.number = number_++;
+    const std::size_t separator = line.find(';');
+    if (separator == std::string_view::npos || isSkipped(line.substr(0, separator)))
+        return result;
+    result.isStation = true;
+    result.name = takeUntil(line, ';');
+    result.link = takeUntil(line, ';');
+    return result;
+}
+
+StationRecords recordsFromListText(const Text& text)
+{
+    StationRecords records;
+    if (text.isAbsent())
+        return records;
+    StationListReader reader(text.view());
+    while (const auto line = reader.next())
+        if (line->isStation)
+            records.push_back(
+                std::make_shared<KVStationWebRadio>(line->number, text.slice(line->name), text.slice(line->link)));
+    return records;
+}
+
+std::string listTextFromRecords(const StationRecords& records, Heading heading)
+{
+    std::string text;
+    const Text fieldNames = KVStationWebRadio::returnPropertyNameListDefault();
+    text.reserve(fieldNames.view().size() + lengthOfListText(records));
+    if (heading == Heading::FieldNames)
+        text += fieldNames.view();
+    for (const auto& record : records) {
+        text += record->radio().view();
+        text += ';';
+        text += record->link().view();
+        text += '\r';
+    }
+    return text;
+}
+
+} // namespace sonavel

@@ -1,0 +1,26 @@
+// AES-256 over whole buffers, as station data is encrypted: cipher block chaining from an all-zero vector, PKCS#7
+// padding.
+#pragma once
+
+#include "storage/Bytes.h"
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace sonavel {
+
+using CipherKey = std::array<unsigned char, 32>;
+
+/// The first 32 bytes of the text, filled up with zero bytes.
+[[nodiscard]] CipherKey cipherKeyFromText(std::string_view keyText);
+
+/// Transforms the buffer in place, so hand it over with `std::move` where it is no longer needed; 16 bytes of spare
+/// capacity save `encrypted` a copy. Buffers of 2 GiB and above are refused with an absent result.
+[[nodiscard]] std::optional<Bytes> encrypted(Bytes plain, const CipherKey& key);
+
+/// Absent when the length is 0 or no multiple of 16, or the padding is not valid, as mostly with another key.
+[[nodiscard]] std::optional<Bytes> decrypted(Bytes cipherText, const CipherKey& key);
+
+} // namespace sonavel

@@ -1,0 +1,18 @@
+// Copies of files that would otherwise be lost: "list.damaged.rdb", "list.damaged-2.rdb", … beside "list.rdb".
+#pragma once
+
+#include "platform/Files.h"
+
+#include <string_view>
+
+namespace sonavel {
+
+/// Gives the content of `path` a further name in its folder, made of the file's own and of `reason` ("damaged"), and
+/// removes all but the newest three copies of that kind. A later copy has a higher number than those present, from "-2"
+/// on. False when the content could not be kept; nothing has changed then.
+[[nodiscard]] bool keepRescueCopy(Files& files, const Text& path, std::string_view reason);
+
+/// The same by renaming, so that nothing is left at `path`; takes folders too.
+[[nodiscard]] bool setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reason);
+
+} // namespace sonavel

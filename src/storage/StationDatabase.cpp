@@ -1,0 +1,97 @@
+#include "storage/StationDatabase.h"
+
+#include "model/StationList.h"
+#include "model/StationListText.h"
+#include "storage/AESCrypt.h"
+#include "storage/Passphrase.h"
+#include "storage/RescueCopies.h"
+
+#include <optional>
+#include <string>
+
+namespace sonavel {
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+Text legacyText(std::optional<std::string> content)
+{
+    if (!content || !isValidUtf8(*content))
+        return {};
+    const Text text(std::move(*content));
+    return text.view().starts_with(byteOrderMark) ? text.slice(text.view().substr(byteOrderMark.size())) : text;
+}
+
+/// Content that is not UTF-8 needs no look of its own: no character outside ASCII decodes.
+Text databaseText(std::optional<std::string> content)
+{
+    return content ? AES256DecryptWithKey(Text(std::move(*content)), stationDatabasePassphrase) : Text();
+}
+
+} // namespace
+
+StationDatabase::StationDatabase(Files& files, const StationList& list)
+    : files_(files)
+    , list_(list)
+    , folder_(files.homeDirectory().string() + "/Library/Preferences")
+    , databasePath_(folder_.string() + "/radiolist.rdb")
+    , legacyPath_(folder_.string() + "/radiolist.csv")
+{
+}
+
+bool StationDatabase::fileRadioDBVerify(bool legacy) const
+{
+    return files_.fileExists(legacy ? legacyPath_ : databasePath_);
+}
+
+Text StationDatabase::fileRadioDBreadCypted(bool crypted)
+{
+    if (!crypted)
+        return legacyText(files_.contentsOfFile(legacyPath_));
+    const Text text = databaseText(files_.contentsOfFile(databasePath_));
+    databaseMayBeReplaced_ = !text.isAbsent();
+    return text;
+}
+
+void StationDatabase::fileRadioDBupdate()
+{
+    if (writeList() && legacyRemovalDue_)
+        removeLegacyFile();
+}
+
+void StationDatabase::setAsideLegacyFile()
+{
+    // Where it cannot be renamed it stays as it is, which loses nothing.
+    (void)setAsideAsRescueCopy(files_, legacyPath_, "damaged");
+}
+
+bool StationDatabase::writeList()
+{
+    if (list_.listRadio == nullptr || !files_.makeFolder(folder_) || !keepUnreadDatabase())
+        return false;
+    const Text text = listTextFromRecords(*list_.listRadio, Heading::None);
+    const Text encryptedText = AES256EncryptWithKey(text, stationDatabasePassphrase);
+    if (encryptedText.isAbsent() || !files_.writeAtomically(databasePath_, encryptedText.view()))
+        return false;
+    databaseMayBeReplaced_ = true;
+    return true;
+}
+
+bool StationDatabase::keepUnreadDatabase()
+{
+    if (databaseMayBeReplaced_ || !fileRadioDBVerify(false))
+        return true;
+    const bool isReadable = !databaseText(files_.contentsOfFile(databasePath_)).isAbsent();
+    databaseMayBeReplaced_ = isReadable
+        ? keepRescueCopy(files_, databasePath_, "before-import")
+        : keepRescueCopy(files_, databasePath_, "damaged") || setAsideAsRescueCopy(files_, databasePath_, "damaged");
+    return databaseMayBeReplaced_;
+}
+
+void StationDatabase::removeLegacyFile()
+{
+    legacyRemovalDue_ = !files_.removeFile(legacyPath_) && fileRadioDBVerify(true);
+}
+
+} // namespace sonavel

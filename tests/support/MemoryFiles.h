@@ -1,0 +1,135 @@
+// Files in memory, whose operations fail as told.
+#pragma once
+
+#include "platform/Files.h"
+
+#include <map>
+#include <set>
+
+namespace sonavel {
+
+/// A file is an entry of `files`; a folder is an entry of `folders` or whatever has a file in it. Log and faults count
+/// the operations that can fail, that is all but `fileExists`.
+class MemoryFiles : public Files {
+public:
+    explicit MemoryFiles(Text home = "/home/listener")
+        : home_(std::move(home))
+    {
+    }
+
+    std::map<std::string, std::string> files;
+    std::set<std::string> folders;
+    /// Paths of files that are there and cannot be read.
+    std::set<std::string> unreadable;
+    /// "write PATH", "read PATH", "keep PATH COPY", "move PATH PATH", "remove PATH", "mkdir PATH", "list PATH".
+    mutable std::vector<std::string> log;
+
+    /// Lets the n-th operation from now fail, counted from 1.
+    void failOperation(std::size_t n) { failingOperation_ = log.size() + n; }
+    /// Lets every operation from now on whose log entry begins so fail; "" for none.
+    void failAll(std::string logEntry) { failingEntry_ = std::move(logEntry); }
+
+    [[nodiscard]] std::string inPreferences(std::string_view name) const
+    {
+        return home_.string() + "/Library/Preferences/" + std::string(name);
+    }
+
+    [[nodiscard]] Text homeDirectory() const override { return home_; }
+
+    [[nodiscard]] bool fileExists(const Text& path) const override
+    {
+        return files.contains(path.string()) || isFolder(path.string());
+    }
+
+    [[nodiscard]] std::optional<std::string> contentsOfFile(const Text& path) const override
+    {
+        if (fails("read " + path.string()) || !files.contains(path.string()) || unreadable.contains(path.string()))
+            return std::nullopt;
+        return files.at(path.string());
+    }
+
+    bool writeAtomically(const Text& path, std::string_view bytes) override
+    {
+        if (fails("write " + path.string()) || isFolder(path.string()) || !isFolder(folderOf(path.string())))
+            return false;
+        files[path.string()] = std::string(bytes);
+        unreadable.erase(path.string());
+        return true;
+    }
+
+    bool keepCopy(const Text& path, const Text& copy) override
+    {
+        if (fails("keep " + path.string() + " " + copy.string()) || !files.contains(path.string()) || fileExists(copy))
+            return false;
+        files[copy.string()] = files.at(path.string());
+        if (unreadable.contains(path.string()))
+            unreadable.insert(copy.string());
+        return true;
+    }
+
+    bool moveFile(const Text& path, const Text& newPath) override
+    {
+        if (fails("move " + path.string() + " " + newPath.string()) || fileExists(newPath))
+            return false;
+        if (isFolder(path.string()))
+            return folders.erase(path.string()) == 1 && folders.insert(newPath.string()).second;
+        if (!files.contains(path.string()))
+            return false;
+        files[newPath.string()] = files.at(path.string());
+        files.erase(path.string());
+        if (unreadable.erase(path.string()) == 1)
+            unreadable.insert(newPath.string());
+        return true;
+    }
+
+    bool removeFile(const Text& path) override
+    {
+        return !fails("remove " + path.string()) && files.erase(path.string()) == 1;
+    }
+
+    bool makeFolder(const Text& path) override
+    {
+        if (fails("mkdir " + path.string()) || files.contains(path.string()))
+            return false;
+        folders.insert(path.string());
+        return true;
+    }
+
+    [[nodiscard]] std::vector<std::string> namesInFolder(const Text& path) const override
+    {
+        std::vector<std::string> names;
+        if (fails("list " + path.string()))
+            return names;
+        const auto add = [&](const std::string& entry) {
+            if (folderOf(entry) + "/" == path.string() || folderOf(entry) == path.string())
+                names.push_back(entry.substr(entry.rfind('/') + 1));
+        };
+        for (const auto& [file, content] : files)
+            add(file);
+        for (const std::string& folder : folders)
+            add(folder);
+        return names;
+    }
+
+private:
+    static std::string folderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
+
+    bool isFolder(const std::string& path) const
+    {
+        const auto file = files.lower_bound(path + "/");
+        return folders.contains(path) || (file != files.end() && file->first.starts_with(path + "/"));
+    }
+
+    /// Logs an operation; true when it has to fail. Reading is logged too.
+    bool fails(const std::string& operation) const
+    {
+        log.push_back(operation);
+        return log.size() == failingOperation_ || (!failingEntry_.empty() && operation.starts_with(failingEntry_));
+    }
+
+    Text home_;
+    std::size_t failingOperation_ = 0;
+    std::string failingEntry_;
+};
+
+} // namespace sonavel
