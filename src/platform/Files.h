@@ -29,7 +29,8 @@ public:
 
     /// Replaces the file, or makes it (readable by its owner alone), in one step: a reader, or a later run after a
     /// crash or power cut, finds either the old content whole or the new. Answers false when it could not; the old
-    /// content then stands and no temporary file is left.
+    /// content then stands (or the new, whole, where only the last step failed, that makes it outlast a power cut) and
+    /// no temporary file is left.
     virtual bool writeAtomically(const Text& path, std::string_view bytes) = 0;
 
     /// Gives the content of `path` a second name, which keeps it when `path` is replaced. False when `copy` is taken or

@@ -1,0 +1,115 @@
+#include "adapters/FileCalls.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+auto untilNotInterrupted(auto call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+} // namespace
+
+int FileCalls::open(int folder, const char* name, int flags, mode_t mode)
+{
+    return untilNotInterrupted([&] { return ::openat(folder, name, flags | O_CLOEXEC, mode); });
+}
+
+ssize_t FileCalls::read(int file, void* buffer, std::size_t size)
+{
+    return untilNotInterrupted([&] { return ::read(file, buffer, size); });
+}
+
+ssize_t FileCalls::write(int file, const void* bytes, std::size_t size)
+{
+    return untilNotInterrupted([&] { return ::write(file, bytes, size); });
+}
+
+int FileCalls::changeMode(int file, mode_t mode)
+{
+    return ::fchmod(file, mode);
+}
+
+int FileCalls::synchronize(int file)
+{
+    return untilNotInterrupted([&] { return ::fsync(file); });
+}
+
+int FileCalls::close(int file)
+{
+    // An interrupted close has closed the descriptor all the same, and a second one could hit another file.
+    const int result = ::close(file);
+    return result < 0 && errno == EINTR ? 0 : result;
+}
+
+int FileCalls::status(int file, struct stat& status)
+{
+    return ::fstat(file, &status);
+}
+
+int FileCalls::statusOfName(int folder, const char* name, struct stat& status)
+{
+    return ::fstatat(folder, name, &status, 0);
+}
+
+ssize_t FileCalls::readLink(const char* path, char* buffer, std::size_t size)
+{
+    return ::readlink(path, buffer, size);
+}
+
+int FileCalls::rename(int folder, const char* name, int newFolder, const char* newName)
+{
+    return ::renameat(folder, name, newFolder, newName);
+}
+
+int FileCalls::renameUnlessTaken(int folder, const char* name, int newFolder, const char* newName)
+{
+    const int result = ::renameat2(folder, name, newFolder, newName, RENAME_NOREPLACE);
+    if (result == 0 || (errno != EINVAL && errno != ENOSYS))
+        return result;
+    // A file system that knows no such request: looking first is the best there is.
+    struct stat taken { };
+    if (::fstatat(newFolder, newName, &taken, AT_SYMLINK_NOFOLLOW) == 0) {
+        errno = EEXIST;
+        return -1;
+    }
+    return ::renameat(folder, name, newFolder, newName);
+}
+
+int FileCalls::link(const char* path, int newFolder, const char* newName)
+{
+    return ::linkat(AT_FDCWD, path, newFolder, newName, 0);
+}
+
+int FileCalls::unlink(int folder, const char* name)
+{
+    return ::unlinkat(folder, name, 0);
+}
+
+int FileCalls::makeFolder(const char* path, mode_t mode)
+{
+    return ::mkdir(path, mode);
+}
+
+std::error_code lastError()
+{
+    return {errno, std::generic_category()};
+}
+
+int OpenFile::close()
+{
+    return isOpen() ? calls_.close(std::exchange(file_, -1)) : 0;
+}
+
+} // namespace sonavel

@@ -1,0 +1,69 @@
+// The system calls under PosixFiles, in one place so that each can be made to fail.
+#pragma once
+
+#include <sys/stat.h>
+#include <sys/types.h>
+
+#include <cstddef>
+#include <system_error>
+
+namespace sonavel {
+
+/// Each operation is the system call of the same purpose: it answers −1 (where not told otherwise) with the reason in
+/// `errno`, and never EINTR. A name is looked up in the open folder `folder`; AT_FDCWD does for an absolute path.
+class FileCalls {
+public:
+    FileCalls() = default;
+    FileCalls(const FileCalls&) = delete;
+    FileCalls& operator=(const FileCalls&) = delete;
+    virtual ~FileCalls() = default;
+
+    /// The file descriptor is closed on exec.
+    virtual int open(int folder, const char* name, int flags, mode_t mode);
+    virtual ssize_t read(int file, void* buffer, std::size_t size);
+    virtual ssize_t write(int file, const void* bytes, std::size_t size);
+    virtual int changeMode(int file, mode_t mode);
+    /// Waits until content and metadata are on disk.
+    virtual int synchronize(int file);
+    /// The descriptor is gone, whatever the answer.
+    virtual int close(int file);
+    virtual int status(int file, struct stat& status);
+    /// Follows links.
+    virtual int statusOfName(int folder, const char* name, struct stat& status);
+    /// Writes no terminating zero; answers the number of bytes.
+    virtual ssize_t readLink(const char* path, char* buffer, std::size_t size);
+    virtual int rename(int folder, const char* name, int newFolder, const char* newName);
+    /// Fails with EEXIST when `newName` is taken.
+    virtual int renameUnlessTaken(int folder, const char* name, int newFolder, const char* newName);
+    virtual int link(const char* path, int newFolder, const char* newName);
+    virtual int unlink(int folder, const char* name);
+    virtual int makeFolder(const char* path, mode_t mode);
+};
+
+/// What `errno` says, as a value with words.
+[[nodiscard]] std::error_code lastError();
+
+/// Keeps a file descriptor and closes it at the latest at its own end.
+class OpenFile {
+public:
+    OpenFile(FileCalls& calls, int file)
+        : calls_(calls)
+        , file_(file)
+    {
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() { close(); }
+
+    [[nodiscard]] bool isOpen() const { return file_ >= 0; }
+    [[nodiscard]] int descriptor() const { return file_; }
+
+    /// −1 when the close failed, which for a written file means that the content may be lost.
+    int close();
+
+private:
+    FileCalls& calls_;
+    int file_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,124 @@
+#include "adapters/FileReplacement.h"
+
+#include <fcntl.h>
+
+#include <cerrno>
+#include <climits>
+
+namespace sonavel {
+
+namespace {
+
+constexpr mode_t ownerAlone = 0600;
+
+std::string temporaryNameFor(std::string_view name)
+{
+    constexpr std::string_view ending = ".saving";
+    std::string temporaryName = ".";
+    return temporaryName.append(name.substr(0, NAME_MAX - 1 - ending.size())).append(ending);
+}
+
+std::error_code writeAll(FileCalls& calls, int file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = calls.write(file, bytes.data(), bytes.size());
+        if (written < 0)
+            return lastError();
+        if (written == 0)
+            return std::make_error_code(std::errc::no_space_on_device);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return {};
+}
+
+} // namespace
+
+FileReplacement::FileReplacement(FileCalls& calls, std::string_view path)
+    : calls_(calls)
+    , path_(path)
+    , name_(path.substr(path.rfind('/') + 1))
+    , temporaryName_(temporaryNameFor(name_))
+{
+}
+
+std::error_code FileReplacement::replace(std::string_view bytes)
+{
+    OpenFile folder(calls_, openFolderOf(calls_, path_));
+    if (!folder.isOpen())
+        return lastError();
+    mode_t mode = ownerAlone;
+    if (const std::error_code failure = modeOfOldFile(folder, mode))
+        return failure;
+    if (const std::error_code failure = writeTemporary(folder, bytes, mode))
+        return failure;
+    if (calls_.rename(folder.descriptor(), temporaryName_.c_str(), folder.descriptor(), name_.c_str()) != 0) {
+        const std::error_code failure = lastError();
+        calls_.unlink(folder.descriptor(), temporaryName_.c_str());
+        return failure;
+    }
+    return synchronizeFolder(calls_, folder);
+}
+
+std::error_code FileReplacement::create(std::string_view bytes, mode_t mode)
+{
+    OpenFile folder(calls_, openFolderOf(calls_, path_));
+    if (!folder.isOpen())
+        return lastError();
+    if (const std::error_code failure = writeTemporary(folder, bytes, mode))
+        return failure;
+    const int at = folder.descriptor();
+    const bool isRenamed = calls_.renameUnlessTaken(at, temporaryName_.c_str(), at, name_.c_str()) == 0;
+    std::error_code failure = isRenamed ? synchronizeFolder(calls_, folder) : lastError();
+    if (failure)
+        calls_.unlink(at, isRenamed ? name_.c_str() : temporaryName_.c_str());
+    return failure;
+}
+
+std::error_code FileReplacement::modeOfOldFile(const OpenFile& folder, mode_t& mode)
+{
+    struct stat old { };
+    if (calls_.statusOfName(folder.descriptor(), name_.c_str(), old) != 0)
+        return errno == ENOENT && !name_.empty() ? std::error_code() : lastError();
+    if (!S_ISREG(old.st_mode))
+        return std::make_error_code(S_ISDIR(old.st_mode) ? std::errc::is_a_directory : std::errc::not_supported);
+    mode = old.st_mode & 0777U;
+    return {};
+}
+
+/// Leaves no temporary file when it fails. What already has the temporary name is a crash's left-over or was planted
+/// there: it is removed, and neither opened nor followed.
+std::error_code FileReplacement::writeTemporary(const OpenFile& folder, std::string_view bytes, mode_t mode)
+{
+    if (calls_.unlink(folder.descriptor(), temporaryName_.c_str()) != 0 && errno != ENOENT)
+        return lastError();
+    OpenFile temporary(calls_,
+        calls_.open(folder.descriptor(), temporaryName_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, ownerAlone));
+    if (!temporary.isOpen())
+        return lastError();
+
+    std::error_code failure = writeAll(calls_, temporary.descriptor(), bytes);
+    // Some file systems have no modes; the content must not be lost over that, and 0600 errs on the safe side.
+    if (!failure && mode != ownerAlone)
+        calls_.changeMode(temporary.descriptor(), mode);
+    if (!failure && calls_.synchronize(temporary.descriptor()) != 0)
+        failure = lastError();
+    if (temporary.close() != 0 && !failure)
+        failure = lastError();
+    if (failure)
+        calls_.unlink(folder.descriptor(), temporaryName_.c_str());
+    return failure;
+}
+
+int openFolderOf(FileCalls& calls, std::string_view path)
+{
+    const std::string folder(path.substr(0, path.rfind('/') + 1));
+    return calls.open(AT_FDCWD, folder.c_str(), O_RDONLY | O_DIRECTORY, 0);
+}
+
+std::error_code synchronizeFolder(FileCalls& calls, const OpenFile& folder)
+{
+    // EINVAL: a file system that cannot be asked for this, and hence keeps folders as safe as it ever does.
+    return calls.synchronize(folder.descriptor()) == 0 || errno == EINVAL ? std::error_code() : lastError();
+}
+
+} // namespace sonavel

@@ -1,0 +1,43 @@
+// The atomic write: a new file beside the old one, complete and on disk before it takes the old one's name.
+#pragma once
+
+#include "adapters/FileCalls.h"
+
+#include <string>
+#include <string_view>
+
+namespace sonavel {
+
+/// Writes one file so that its name always stands for a whole content. Its temporary file lies beside it under one
+/// fixed name, ".NAME.saving": what a crash left behind is replaced by the next write and never piles up. Two writers
+/// of the same file at once are not provided for.
+class FileReplacement {
+public:
+    /// `path` is absolute, and itself no link.
+    FileReplacement(FileCalls& calls, std::string_view path);
+
+    /// Replaces the file, which keeps its mode, or makes it with mode 0600. On failure the old content stands and the
+    /// temporary file is gone; when only the last step failed, which makes the replacement outlast a power cut, the
+    /// new content stands, whole.
+    [[nodiscard]] std::error_code replace(std::string_view bytes);
+
+    /// Makes the file with the given mode. Fails when its name is taken; nothing has changed then.
+    [[nodiscard]] std::error_code create(std::string_view bytes, mode_t mode);
+
+private:
+    [[nodiscard]] std::error_code modeOfOldFile(const OpenFile& folder, mode_t& mode);
+    [[nodiscard]] std::error_code writeTemporary(const OpenFile& folder, std::string_view bytes, mode_t mode);
+
+    FileCalls& calls_;
+    std::string path_;
+    std::string name_;
+    std::string temporaryName_;
+};
+
+/// Opens the folder in which the absolute path `path` lies.
+[[nodiscard]] int openFolderOf(FileCalls& calls, std::string_view path);
+
+/// Makes what was renamed, linked or removed in an open folder outlast a power cut.
+[[nodiscard]] std::error_code synchronizeFolder(FileCalls& calls, const OpenFile& folder);
+
+} // namespace sonavel
