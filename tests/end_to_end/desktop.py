@@ -1,0 +1,142 @@
+"""A desktop of its own for one test: a virtual display, a window manager, a message bus and a sound server.
+
+Everything lives in a temporary folder and ends with the `with` block.
+"""
+
+import array
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+RATE = 44100
+
+
+def wait_until(condition, what, seconds=20.0):
+    """Asks `condition` until it answers something true, and returns that."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        answer = condition()
+        if answer:
+            return answer
+        time.sleep(0.02)
+    raise TimeoutError(f"waited {seconds} s in vain for {what}")
+
+
+class Recording:
+    """What is heard at the sound server's null sink, as 16-bit mono samples."""
+
+    def __init__(self, environment):
+        self.process = subprocess.Popen(
+            ["parec", "--device=null.monitor", "--raw", "--format=s16le", f"--rate={RATE}", "--channels=1",
+             "--latency-msec=5"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, env=environment)
+
+    def read(self, seconds):
+        samples = array.array("h")
+        samples.frombytes(self.process.stdout.read(2 * int(seconds * RATE)))
+        return samples
+
+    def __enter__(self):
+        self.read(0.1)
+        return self
+
+    def __exit__(self, *_):
+        self.process.kill()
+        self.process.wait()
+        self.process.stdout.close()
+
+
+def loudness(samples):
+    """The root mean square, 0 for silence and 1 for full scale."""
+    return (sum(sample * sample for sample in samples) / max(1, len(samples))) ** 0.5 / 32768
+
+
+class Desktop:
+    def __init__(self, size="1000x700", accessibility=True, sound=True):
+        self.size = size
+        self.accessibility = accessibility
+        self.sound = sound
+        self.processes = []
+
+    def __enter__(self):
+        self.folder = Path(tempfile.mkdtemp(prefix="sonavel-desktop-"))
+        runtime = self.folder / "run"
+        runtime.mkdir(mode=0o700)
+        home = self.folder / "home"
+        home.mkdir()
+        kept = {name: value for name, value in os.environ.items() if not name.startswith(("XDG_", "SONAVEL_", "QT_"))}
+        self.environment = kept | {
+            "HOME": str(home), "XDG_RUNTIME_DIR": str(runtime), "LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "0",
+            "PULSE_SERVER": f"unix:{runtime}/pulse/native", "QT_QPA_PLATFORM": "xcb"}
+        self.environment.pop("WAYLAND_DISPLAY", None)
+        try:
+            self._start_display()
+            self._start_bus()
+            if self.sound:
+                self._start_sound()
+            self.start(["openbox"])
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.send_signal(signal.SIGTERM)
+        for process in reversed(self.processes):
+            try:
+                process.wait(5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def start(self, command, **options):
+        """Starts a program on this desktop; it is ended with it."""
+        options.setdefault("stderr", subprocess.DEVNULL)
+        process = subprocess.Popen(command, env=self.environment | options.pop("extra", {}), **options)
+        self.processes.append(process)
+        return process
+
+    def screenshot(self, path):
+        subprocess.run(["import", "-window", "root", str(path)], env=self.environment, check=True)
+
+    def keys(self, *names):
+        subprocess.run(["xdotool", "key", "--clearmodifiers", *names], env=self.environment, check=True)
+
+    def window(self, title):
+        """The identifier of the visible window of that title, once it is there."""
+        def search():
+            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self.environment,
+                                   capture_output=True, text=True, check=False)
+            return found.stdout.split()[-1:] or None
+        return int(wait_until(search, f"the window {title}")[0])
+
+    def record(self):
+        return Recording(self.environment)
+
+    def _start_display(self):
+        reading, writing = os.pipe()
+        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp"],
+                   pass_fds=[writing])
+        os.close(writing)
+        with os.fdopen(reading) as display:
+            self.environment["DISPLAY"] = ":" + display.readline().strip()
+
+    def _start_bus(self):
+        bus = self.start(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE, text=True)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        if self.accessibility:
+            self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+            self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
+
+    def _start_sound(self):
+        self.start(["pulseaudio", "--daemonize=no", "--exit-idle-time=-1", "-n", "-L",
+                    "module-null-sink sink_name=null", "-L", "module-native-protocol-unix"])
+        ask = ["pactl", "info"]
+        wait_until(lambda: subprocess.run(ask, env=self.environment, capture_output=True, check=False).returncode == 0,
+                   "the sound server")
