@@ -80,9 +80,7 @@ def main(runs):
     with setting.desktop.Desktop(accessibility=False) as desk, setting.data_server() as server, \
             tone_server() as address, setting.home(10, address, isAutoPlayOpenApp="YES") as folder:
         desk.start(setting.player_command(folder, server))
-        window = desk.window("Sonavel")
-        subprocess.run(["xdotool", "windowactivate", "--sync", str(window)], env=desk.environment, check=True,
-                       stderr=subprocess.DEVNULL)
+        desk.activate("Sonavel")
         with desk.record() as recording:
             until(recording, lambda level: level > 0.02)
             full = loudness(recording.read(0.5))

@@ -36,9 +36,7 @@ def bare(desk, address):
 def player(desk, server, folder):
     process = subprocess.Popen(setting.player_command(folder, server), env=desk.environment, stderr=subprocess.DEVNULL)
     try:
-        window = desk.window("Sonavel")
-        subprocess.run(["xdotool", "windowactivate", "--sync", str(window)], env=desk.environment, check=True,
-                       stderr=subprocess.DEVNULL)
+        desk.activate("Sonavel")
         desk.keys("Tab")
         time.sleep(1)
         with desk.record() as recording:

@@ -79,6 +79,13 @@ def demo_stream(server):
     return [line.split(";")[1] for line in text.split("\r") if line and line != "radio;link"][0]
 
 
+def first_painting(desk, *arguments):
+    """Milliseconds until a new window is painted; see first_painting.cpp."""
+    answer = subprocess.run([BUILD / "bench" / "first_painting", *arguments], env=desk.environment, check=True,
+                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, timeout=60)
+    return float(answer.stdout)
+
+
 def family(process):
     """The identifiers of a process and of the processes that it started."""
     children = Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text(encoding="ascii").split()

@@ -77,7 +77,7 @@ class Desktop:
             self._start_bus()
             if self.sound:
                 self._start_sound()
-            self.start(["openbox"])
+            self.start(["openbox", "--sm-disable"])
         except BaseException:
             self.__exit__()
             raise
@@ -115,6 +115,11 @@ class Desktop:
                                    capture_output=True, text=True, check=False)
             return found.stdout.split()[-1:] or None
         return int(wait_until(search, f"the window {title}")[0])
+
+    def activate(self, title):
+        """Waits for the visible window of that title, and gives it the keyboard."""
+        subprocess.run(["xdotool", "windowactivate", "--sync", str(self.window(title))], env=self.environment,
+                       check=True, stderr=subprocess.DEVNULL, timeout=20)
 
     def record(self):
         return Recording(self.environment)
