@@ -5,6 +5,7 @@
 #include "model/KVStationWebRadio.h"
 #include "model/StationRecords.h"
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -16,6 +17,9 @@ public:
     /// Absent until the loading made it, which is not the same as empty: a list that is not loaded must not be written.
     /// Afterwards it stays the same array object, changed in place.
     std::shared_ptr<StationRecords> listRadio;
+
+    /// 0 also while the list is absent.
+    [[nodiscard]] std::size_t numberOfStations() const { return listRadio == nullptr ? 0 : listRadio->size(); }
 
     /// Sorts the list in place by the texts that `key` names, "radio" or "link", in the order of names; equal ones keep
     /// their order. Does nothing while the list is absent, or for another key.
