@@ -28,6 +28,8 @@ struct Outlets {
     Button checkBoxDefaultAutoPlay;
     PopUpButton popupDefaultButtonListRadio;
     Slider sliderDefaultVolume;
+
+    Window winUpdateNotification;
 };
 
 } // namespace sonavel

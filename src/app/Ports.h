@@ -1,0 +1,42 @@
+// What the program needs of the world around it.
+#pragma once
+
+#include "base/Text.h"
+#include "platform/Bundle.h"
+
+namespace sonavel {
+
+class Alerts;
+class Clock;
+class Files;
+class HttpClient;
+class LocalizedStrings;
+class NotificationCenter;
+class PreferenceDomains;
+class Process;
+class RunLoop;
+class StreamPlayers;
+
+/// Borrowed: they outlive the controller that is made with them.
+struct Ports {
+    Alerts& alerts;
+    Files& files;
+    HttpClient& httpClient;
+    StreamPlayers& streamPlayers;
+    PreferenceDomains& preferenceDomains;
+    Clock& clock;
+    LocalizedStrings& localizedStrings;
+    NotificationCenter& notificationCenter;
+    RunLoop& runLoop;
+    Process& process;
+    Bundle bundle;
+};
+
+struct Configuration {
+    /// The data server's base address; ends in "/".
+    Text dataServer;
+    /// The web address that is asked whether there is a network.
+    Text probe;
+};
+
+} // namespace sonavel

@@ -1,0 +1,31 @@
+// The loading of the station list at the start.
+#pragma once
+
+#include "base/Text.h"
+
+namespace sonavel {
+
+class StationDatabase;
+class StationList;
+class StationRefresh;
+
+/// Main thread. Borrows everything it is given.
+class StationLoading {
+public:
+    StationLoading(StationList& stationList, StationDatabase& stationDatabase, StationRefresh& stationRefresh);
+    StationLoading(const StationLoading&) = delete;
+    StationLoading& operator=(const StationLoading&) = delete;
+
+    /// Makes the list, from the legacy plain file where there is one, which then moves into the database, else from
+    /// the database; sorts it; and refreshes it from the server when it is empty, and then when a refresh is due.
+    void initRadioList();
+
+private:
+    [[nodiscard]] Text legacyListText();
+
+    StationList& stationList_;
+    StationDatabase& stationDatabase_;
+    StationRefresh& stationRefresh_;
+};
+
+} // namespace sonavel

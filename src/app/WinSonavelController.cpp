@@ -1,0 +1,96 @@
+#include "app/WinSonavelController.h"
+
+#include "platform/Alerts.h"
+#include "platform/LocalizedStrings.h"
+#include "platform/Process.h"
+#include "platform/RunLoop.h"
+#include "prefs/PlaceholderKeys.h"
+#include "ui/Outlets.h"
+
+namespace sonavel {
+
+WinSonavelController::WinSonavelController(const Ports& ports, const Configuration& configuration, Outlets& outlets)
+    : stationDatabase(ports.files, stationList)
+    , preferences(ports.preferenceDomains, ports.bundle, outlets.winWebRadioListEdit)
+    , preferencesWindow(stationList)
+    , player(ports.streamPlayers, ports.notificationCenter, outlets)
+    , stationSelection(stationList, preferences, player, ports.localizedStrings, outlets)
+    , connectivity(ports.httpClient)
+    , calendarDays(ports.clock)
+    , stationRefresh(ports.httpClient, ports.clock, configuration.dataServer, serverDates, preferences, stationList,
+          stationDatabase)
+    , stationLoading(stationList, stationDatabase, stationRefresh)
+    , ports_(ports)
+    , configuration_(configuration)
+    , outlets_(outlets)
+{
+}
+
+void WinSonavelController::init()
+{
+    if (!connectivity.hasInternetWithSite(configuration_.probe))
+        endWithoutInternet();
+    preferences.setStartValues();
+    preferences.loadingPreference();
+    stationLoading.initRadioList();
+    preferences.loadingPreference();
+    outlets_.buttonPlayPause.setImage("play.png");
+    player.isPlay = false;
+    player.isStop = true;
+    player.isMute = false;
+}
+
+void WinSonavelController::endWithoutInternet()
+{
+    ports_.alerts.runModal({ports_.localizedStrings.localizedStringForKey("INTERNET_ERROR"), {}});
+    ports_.process.exit(0);
+}
+
+void WinSonavelController::awakeFromNib()
+{
+    player.registerForNotifications();
+    stationSelection.updatePopupListRadioWithListStation();
+    showPreferences();
+    player.applyVolume();
+    prepareDefaultStation();
+    ports_.runLoop.performOnNextTurn([this] { outlets_.winSonavel.makeKeyAndOrderFront(); });
+}
+
+void WinSonavelController::showPreferences()
+{
+    outlets_.winWebRadioListEdit.setIsVisible(preferences.PREF_WINEDIT_IS_VISIBLE);
+    outlets_.checkBoxDefaultAutoPlayAtStartApp.setState(preferences.PREF_IS_AUTOPLAY_OPEN_APP);
+    outlets_.checkBoxDefaultAutoPlay.setState(preferences.PREF_IS_AUTOPLAY);
+    outlets_.sliderDefaultVolume.setMinValue(0.0);
+    outlets_.sliderDefaultVolume.setMaxValue(1.0);
+    outlets_.sliderDefaultVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
+    outlets_.sliderVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
+    outlets_.tableViewListRadio.setAllowsMultipleSelection(preferences.PREF_ENABLE_MULTIPLE_SELECTION);
+}
+
+void WinSonavelController::prepareDefaultStation()
+{
+    if (preferences.PREF_DEFAULT_STATION == selectRadioNullKey)
+        return;
+    outlets_.popupDefaultButtonListRadio.setEnabled(preferencesWindow.setAutoEnablePopupDefaultButtonListRadio());
+    stationSelection.selectDefaultStation();
+}
+
+void WinSonavelController::quitApp()
+{
+    const auto& strings = ports_.localizedStrings;
+    Alert question;
+    question.buttonTitles = {strings.localizedStringForKey("BUTTON_YES"), strings.localizedStringForKey("BUTTON_NO")};
+    preferences.updatePreference();
+    question.messageText = strings.localizedStringForKey("ALLERT_TEXT_MESSAGE_QUIT");
+    if (ports_.alerts.runModal(question) == firstButtonAnswer)
+        ports_.process.exit(0);
+    outlets_.winSonavel.setIsVisible(true);
+}
+
+void WinSonavelController::buttonClose()
+{
+    outlets_.winUpdateNotification.setIsVisible(false);
+}
+
+} // namespace sonavel

@@ -1,0 +1,65 @@
+// The controller: everything that the program is made of, its start and its end.
+#pragma once
+
+#include "app/Ports.h"
+#include "app/StationLoading.h"
+#include "model/StationList.h"
+#include "online/CalendarDays.h"
+#include "online/Connectivity.h"
+#include "online/ServerDates.h"
+#include "online/StationRefresh.h"
+#include "playback/Player.h"
+#include "playback/StationSelection.h"
+#include "prefs/Preferences.h"
+#include "prefs/PreferencesWindow.h"
+#include "storage/StationDatabase.h"
+
+namespace sonavel {
+
+struct Outlets;
+
+/// How it is started: make it, `init`, connect the outlets, `awakeFromNib`. All of it on the main thread.
+class WinSonavelController {
+public:
+    WinSonavelController(const Ports& ports, const Configuration& configuration, Outlets& outlets);
+    WinSonavelController(const WinSonavelController&) = delete;
+    WinSonavelController& operator=(const WinSonavelController&) = delete;
+
+    /// The first phase, before any outlet is connected: looks for a network, loads the preferences and the station
+    /// list. Blocks while it asks servers. Without a network it says so and ends the process with status 0, with
+    /// nothing stored.
+    void init();
+
+    /// The second phase, once every outlet is connected: shows what was loaded, selects the default station, and brings
+    /// the main window to the front on the loop's next turn.
+    void awakeFromNib();
+
+    /// Stores the preferences, then asks whether to quit: ends the process with status 0, or shows the main window.
+    void quitApp();
+
+    /// Closes the notice of the update check.
+    void buttonClose();
+
+    StationList stationList;
+    StationDatabase stationDatabase;
+    Preferences preferences;
+    PreferencesWindow preferencesWindow;
+    Player player;
+    StationSelection stationSelection;
+    ServerDates serverDates;
+    Connectivity connectivity;
+    CalendarDays calendarDays;
+    StationRefresh stationRefresh;
+    StationLoading stationLoading;
+
+private:
+    void endWithoutInternet();
+    void showPreferences();
+    void prepareDefaultStation();
+
+    const Ports ports_;
+    const Configuration configuration_;
+    Outlets& outlets_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,31 @@
+// Numbers and flags in texts, read and written without regard to the locale.
+#pragma once
+
+#include "base/Text.h"
+
+#include <cstdint>
+
+namespace sonavel {
+
+/// The number at the head of a text, after white space and an optional sign; what follows it is ignored. 0 for a text
+/// without one, an absent text included.
+///
+/// An integer beyond 64 bits becomes the nearest that fits.
+[[nodiscard]] std::int64_t integerValue(const Text& text);
+
+/// A decimal number with an optional fraction and exponent, always finite: one that the type cannot hold counts as
+/// none.
+[[nodiscard]] double doubleValue(const Text& text);
+[[nodiscard]] float floatValue(const Text& text);
+
+/// Whether a text says yes: after white space, an optional sign and any zeros it begins with "Y", "y", "T", "t" or a
+/// digit from 1 to 9.
+[[nodiscard]] bool boolValue(const Text& text);
+
+/// The digits of a number, with "-" before a negative one.
+[[nodiscard]] Text decimalText(std::int64_t number);
+
+/// A number with six decimals, such as "0.700000".
+[[nodiscard]] Text sixDecimalsText(double number);
+
+} // namespace sonavel

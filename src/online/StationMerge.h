@@ -1,0 +1,16 @@
+// The merge of downloaded stations into stored ones.
+#pragma once
+
+#include "model/StationRecords.h"
+
+namespace sonavel {
+
+/// Takes the downloaded stations over, one after the other: every stored station of exactly that name gets the
+/// downloaded address; where there is none, a copy of the downloaded station is appended, and takes part from then on.
+/// Nothing else about the stored stations changes.
+///
+/// Answers whether anything was changed on the way, also when a later station of the same name undid it. Takes time in
+/// proportion to the number of stations. Names must be present.
+[[nodiscard]] bool mergeStations(StationRecords& stored, const StationRecords& downloaded);
+
+} // namespace sonavel

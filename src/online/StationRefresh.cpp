@@ -1,0 +1,70 @@
+#include "online/StationRefresh.h"
+
+#include "model/StationList.h"
+#include "model/StationListText.h"
+#include "online/RequestAddress.h"
+#include "online/ServerDates.h"
+#include "online/StationMerge.h"
+#include "platform/Clock.h"
+#include "platform/HttpClient.h"
+#include "prefs/Preferences.h"
+#include "storage/AESCrypt.h"
+#include "storage/Passphrase.h"
+#include "storage/StationDatabase.h"
+
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+constexpr char listResource[] = "app_data_files/testget.php?file=20161001000000_lr.rdb";
+
+} // namespace
+
+StationRefresh::StationRefresh(HttpClient& httpClient, const Clock& clock, Text dataServer,
+    const ServerDates& serverDates, Preferences& preferences, StationList& stationList,
+    StationDatabase& stationDatabase)
+    : httpClient_(httpClient)
+    , clock_(clock)
+    , dataServer_(std::move(dataServer))
+    , serverDates_(serverDates)
+    , preferences_(preferences)
+    , stationList_(stationList)
+    , stationDatabase_(stationDatabase)
+{
+}
+
+bool StationRefresh::isDue() const
+{
+    const auto& lastRefresh = preferences_.PREF_DATE_UPDATE_LAST_DATACHECK;
+    const auto& lastChange = serverDates_.DATE_UPDATED_DATA;
+    return lastChange && (!lastRefresh || *lastRefresh < *lastChange);
+}
+
+void StationRefresh::chekNewRadioOnLine()
+{
+    if (stationList_.listRadio == nullptr)
+        return;
+    preferences_.PREF_DATE_UPDATE_LAST_DATACHECK = clock_.now();
+    preferences_.updatePreference();
+
+    const StationRecords downloaded = recordsFromListText(downloadedListText());
+    if (!mergeStations(*stationList_.listRadio, downloaded))
+        return;
+    stationList_.sortingRadioWithKey("radio");
+    stationDatabase_.fileRadioDBupdate();
+}
+
+/// Absent when there was no answer, or not one that can be decrypted.
+Text StationRefresh::downloadedListText() const
+{
+    HttpRequest request;
+    request.address = percentEscaped(dataServer_.string() + listResource);
+    auto body = httpClient_.sendSynchronousRequest(request);
+    if (!body || !isValidUtf8(*body))
+        return {};
+    return AES256DecryptWithKey(Text(std::move(*body)), stationDatabasePassphrase);
+}
+
+} // namespace sonavel

@@ -1,0 +1,46 @@
+// The refresh of the station list from the data server.
+#pragma once
+
+#include "base/Text.h"
+
+namespace sonavel {
+
+class Clock;
+class HttpClient;
+class Preferences;
+class StationDatabase;
+class StationList;
+struct ServerDates;
+
+/// Main thread. Borrows everything it is given but the address.
+class StationRefresh {
+public:
+    /// `dataServer` is the data server's base address and ends in "/".
+    StationRefresh(HttpClient& httpClient, const Clock& clock, Text dataServer, const ServerDates& serverDates,
+        Preferences& preferences, StationList& stationList, StationDatabase& stationDatabase);
+    StationRefresh(const StationRefresh&) = delete;
+    StationRefresh& operator=(const StationRefresh&) = delete;
+
+    /// Whether the server's list is newer than the last refresh.
+    [[nodiscard]] bool isDue() const;
+
+    /// Notes the moment of the attempt in the preferences, downloads the server's list and merges it into the present
+    /// one, which is sorted and written when that changed it. Without a usable answer nothing else changes.
+    ///
+    /// Does nothing at all while the list is absent: written, what was downloaded would take the place of stations
+    /// that have only not been read yet.
+    void chekNewRadioOnLine();
+
+private:
+    [[nodiscard]] Text downloadedListText() const;
+
+    HttpClient& httpClient_;
+    const Clock& clock_;
+    const Text dataServer_;
+    const ServerDates& serverDates_;
+    Preferences& preferences_;
+    StationList& stationList_;
+    StationDatabase& stationDatabase_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,70 @@
+#include "playback/StreamAddress.h"
+
+#include <algorithm>
+#include <array>
+
+namespace sonavel {
+
+namespace {
+
+constexpr std::string_view blanks = " \t\r\n";
+
+std::string_view withoutOuterBlanks(std::string_view text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
+bool isControl(char character)
+{
+    const auto byte = static_cast<unsigned char>(character);
+    return byte < 0x20 || byte == 0x7F;
+}
+
+char lowerCase(char character)
+{
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+bool isUsableScheme(std::string_view scheme)
+{
+    constexpr std::array<std::string_view, 5> usable{"http", "https", "rtsp", "rtmp", "mms"};
+    return std::any_of(usable.begin(), usable.end(), [scheme](std::string_view name) {
+        return std::equal(scheme.begin(), scheme.end(), name.begin(), name.end(),
+            [](char character, char expected) { return lowerCase(character) == expected; });
+    });
+}
+
+/// The host in what follows "scheme://": without user, port and path. Empty when there is none.
+std::string_view hostIn(std::string_view rest)
+{
+    std::string_view host = rest.substr(0, rest.find_first_of("/?#"));
+    host.remove_prefix(host.rfind('@') + 1);
+    if (!host.starts_with('['))
+        return host.substr(0, host.find(':'));
+    const std::size_t end = host.find(']');
+    return end == std::string_view::npos || end == 1 ? std::string_view() : host.substr(0, end + 1);
+}
+
+bool isUsable(std::string_view address)
+{
+    constexpr std::string_view separator = "://";
+    const std::size_t schemeEnd = address.find(separator);
+    if (schemeEnd == std::string_view::npos || !isUsableScheme(address.substr(0, schemeEnd)))
+        return false;
+    const std::string_view host = hostIn(address.substr(schemeEnd + separator.size()));
+    return !host.empty() && host.find_first_of(" \\") == std::string_view::npos;
+}
+
+} // namespace
+
+Text usableStreamAddress(const Text& link)
+{
+    const std::string_view address = withoutOuterBlanks(link.view());
+    if (address.size() > longestStreamAddress || !isUsable(address)
+        || std::any_of(address.begin(), address.end(), isControl) || !isValidUtf8(address))
+        return {};
+    return link.slice(address);
+}
+
+} // namespace sonavel

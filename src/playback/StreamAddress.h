@@ -1,0 +1,20 @@
+// Which addresses may be played at all.
+#pragma once
+
+#include "base/Text.h"
+
+#include <cstddef>
+
+namespace sonavel {
+
+/// Longer addresses are not played, in bytes.
+inline constexpr std::size_t longestStreamAddress = 8192;
+
+/// The address to play for a station's link: the link without blanks at its ends, when it is of the form
+/// "scheme://host…" with one of the schemes http, https, rtsp, rtmp and mms, in upper or lower case.
+///
+/// Absent for everything else, so that no link reaches a local file or the inside of a player: no other scheme, no
+/// missing host, no blank or backslash in the host, no control character or invalid UTF-8 anywhere.
+[[nodiscard]] Text usableStreamAddress(const Text& link);
+
+} // namespace sonavel

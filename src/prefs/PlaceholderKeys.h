@@ -1,0 +1,11 @@
+// The keys of the titles that the station pop-ups show before any station. A default station may be stored as one, too.
+#pragma once
+
+namespace sonavel {
+
+/// There are stations, none is chosen.
+inline constexpr char selectRadioKey[] = "POP_UP_BUTTON_SELECT_RADIO";
+/// There are no stations.
+inline constexpr char selectRadioNullKey[] = "POP_UP_BUTTON_SELECT_RADIO_NULL";
+
+} // namespace sonavel

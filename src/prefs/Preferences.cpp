@@ -1,0 +1,47 @@
+#include "prefs/Preferences.h"
+
+#include "prefs/PreferenceTexts.h"
+#include "ui/Window.h"
+
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+constexpr char domainName[] = "Mertzan-Software.Sonavel.plist";
+
+} // namespace
+
+Preferences::Preferences(PreferenceDomains& domains, Bundle bundle, const Window& winWebRadioListEdit)
+    : domains_(domains)
+    , bundle_(std::move(bundle))
+    , winWebRadioListEdit_(winWebRadioListEdit)
+{
+}
+
+void Preferences::setStartValues()
+{
+    setPreferenceStartValues(*this);
+}
+
+void Preferences::loadingPreference()
+{
+    const auto domain = domains_.persistentDomainForName(domainName);
+    if (domain)
+        readPreferenceTexts(*domain, *this);
+    else
+        updatePreference();
+}
+
+void Preferences::updatePreference()
+{
+    PREF_WINEDIT_IS_VISIBLE = winWebRadioListEdit_.isVisible();
+    PreferenceDomain domain = preferenceTexts(*this);
+    domain.insert_or_assign("appVersion", bundle_.shortVersion);
+    domain.insert_or_assign("appBuild", bundle_.version);
+    domains_.setPersistentDomainForName(domain, domainName);
+    domains_.synchronize();
+}
+
+} // namespace sonavel
