@@ -77,6 +77,9 @@ public:
             while (receiveMore()) { }
         }
 
+        /// The socket, for a handler that speaks TLS over it.
+        [[nodiscard]] int descriptor() const { return socket_; }
+
         /// What the client sent and nobody read makes this a reset.
         void close()
         {
