@@ -1,28 +1,14 @@
 #include "model/NameOrder.h"
 
+#include "model/NameKeys.h"
+
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <cstring>
+#include <cstdint>
+#include <span>
 
 namespace sonavel {
 
 namespace {
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-/// Cuts the digits at the head of `name` off and returns them without leading zeros; none remain of the number 0.
-std::string_view takeNumber(std::string_view& name)
-{
-    const std::size_t length = std::min(name.find_first_not_of("0123456789"), name.size());
-    std::string_view digits = name.substr(0, length);
-    name.remove_prefix(length);
-    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
-    return digits;
-}
 
 std::weak_ordering compareNumbers(std::string_view left, std::string_view right)
 {
@@ -31,45 +17,61 @@ std::weak_ordering compareNumbers(std::string_view left, std::string_view right)
     return left <=> right;
 }
 
-/// Writes as much as fits of a byte sequence that orders names.
-///
-/// A byte that is no digit stands for itself. A number becomes one byte between "0" and "9", which tells how many
-/// digits follow, and these digits: so more digits make a greater number, and beside any other byte a number keeps the
-/// place that its digits have. From nine digits on the byte is "9" and the key ends there.
-class KeyWriter {
+/// A name's place, with the part of its key that is being looked at.
+struct Entry {
+    std::uint64_t word;
+    std::size_t place;
+};
+
+/// Sorts by one word of the keys after the other: the names themselves are not looked at again, and most comparisons
+/// are of two numbers that lie beside each other.
+class KeySorter {
 public:
-    explicit KeyWriter(std::string_view name)
+    explicit KeySorter(const NameKeys& keys)
+        : keys_(keys)
     {
-        while (!name.empty() && used_ < bytes_.size()) {
-            if (!isDigit(name.front())) {
-                bytes_[used_++] = name.front();
-                name.remove_prefix(1);
-                continue;
-            }
-            const std::string_view digits = takeNumber(name);
-            bytes_[used_++] = static_cast<char>('0' + std::min(digits.size(), mostDigits));
-            if (digits.size() >= mostDigits)
-                return;
-            const std::size_t fitting = std::min(digits.size(), bytes_.size() - used_);
-            std::copy_n(digits.data(), fitting, bytes_.data() + used_);
-            used_ += fitting;
-        }
     }
 
-    [[nodiscard]] std::uint64_t bigEndianAt(std::size_t offset) const
+    void sort(std::span<Entry> entries, std::size_t offset = 0) const
     {
-        std::uint64_t value = 0;
-        std::memcpy(&value, bytes_.data() + offset, sizeof value);
-        if constexpr (std::endian::native == std::endian::little)
-            value = __builtin_bswap64(value);
-        return value;
+        if (offset == wordsEnd) {
+            sortByRest(entries);
+            return;
+        }
+        for (Entry& entry : entries)
+            entry.word = keys_.wordAt(entry.place, offset);
+        std::sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
+            return left.word != right.word ? left.word < right.word : left.place < right.place;
+        });
+        sortEqualOnes(entries, offset);
     }
 
 private:
-    static constexpr std::size_t mostDigits = 9;
+    /// From here on whole rests are compared, as words would recurse too deeply for hostile names.
+    static constexpr std::size_t wordsEnd = 4 * NameKeys::wordSize;
 
-    std::array<char, 16> bytes_{};
-    std::size_t used_ = 0;
+    void sortEqualOnes(std::span<Entry> entries, std::size_t offset) const
+    {
+        while (!entries.empty()) {
+            const std::uint64_t word = entries.front().word;
+            const auto end =
+                std::find_if(entries.begin(), entries.end(), [word](const Entry& entry) { return entry.word != word; });
+            const auto count = static_cast<std::size_t>(end - entries.begin());
+            if (count > 1 && !NameKeys::isLastWord(word))
+                sort(entries.first(count), offset + NameKeys::wordSize);
+            entries = entries.subspan(count);
+        }
+    }
+
+    void sortByRest(std::span<Entry> entries) const
+    {
+        std::sort(entries.begin(), entries.end(), [this](const Entry& left, const Entry& right) {
+            const auto order = keys_.restAt(left.place, wordsEnd) <=> keys_.restAt(right.place, wordsEnd);
+            return order != 0 ? order < 0 : left.place < right.place;
+        });
+    }
+
+    const NameKeys& keys_;
 };
 
 } // namespace
@@ -92,11 +94,17 @@ std::weak_ordering compareNames(std::string_view left, std::string_view right)
     return left.size() <=> right.size();
 }
 
-NameKey::NameKey(std::string_view name)
+std::vector<std::size_t> orderOfNames(const std::vector<std::string_view>& names)
 {
-    const KeyWriter writer(name);
-    first_ = writer.bigEndianAt(0);
-    second_ = writer.bigEndianAt(8);
+    const NameKeys keys(names);
+    std::vector<Entry> entries(names.size());
+    for (std::size_t place = 0; place < entries.size(); ++place)
+        entries[place].place = place;
+    KeySorter(keys).sort(entries);
+
+    std::vector<std::size_t> places(entries.size());
+    std::transform(entries.begin(), entries.end(), places.begin(), [](const Entry& entry) { return entry.place; });
+    return places;
 }
 
 } // namespace sonavel

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <compare>
-#include <cstdint>
+#include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace sonavel {
 
@@ -12,18 +13,8 @@ namespace sonavel {
 /// leading zeros do not count, so that different names can be equivalent.
 [[nodiscard]] std::weak_ordering compareNames(std::string_view left, std::string_view right);
 
-/// The beginning of a name in a form that compares quickly, for sorting many names.
-///
-/// When the keys of two names differ, the names stand in the same order as their keys. When they are equal, nothing is
-/// known, and `compareNames` has to tell.
-struct NameKey {
-    explicit NameKey(std::string_view name);
-
-    friend auto operator<=>(const NameKey&, const NameKey&) = default;
-
-private:
-    std::uint64_t first_ = 0;
-    std::uint64_t second_ = 0;
-};
+/// The places of `names` in the order in which they belong: first the place of the least name. Equivalent names keep
+/// their order. Meant for many names: it compares words of prepared keys instead of the names.
+[[nodiscard]] std::vector<std::size_t> orderOfNames(const std::vector<std::string_view>& names);
 
 } // namespace sonavel

@@ -5,7 +5,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <cstdint>
 
 namespace sonavel {
 
@@ -25,37 +24,19 @@ bool isSorted(const StationRecords& records, Property property)
     });
 }
 
-/// A record's place in the former order, with what sorts it.
-struct Entry {
-    NameKey key;
-    std::size_t index;
-};
-
-std::vector<Entry> sortedEntries(const StationRecords& records, Property property)
-{
-    std::vector<Entry> entries;
-    entries.reserve(records.size());
-    for (const auto& record : records)
-        entries.push_back({NameKey(valueOf(*record, property)), entries.size()});
-    std::sort(entries.begin(), entries.end(), [&](const Entry& left, const Entry& right) {
-        if (left.key != right.key)
-            return left.key < right.key;
-        const auto order =
-            compareNames(valueOf(*records[left.index], property), valueOf(*records[right.index], property));
-        return order != 0 ? order < 0 : left.index < right.index;
-    });
-    return entries;
-}
-
 void sortRecords(StationRecords& records, Property property)
 {
     // A list is mostly read in the order in which it was written, and looking costs far less than sorting.
     if (isSorted(records, property))
         return;
+    std::vector<std::string_view> names;
+    names.reserve(records.size());
+    for (const auto& record : records)
+        names.push_back(valueOf(*record, property));
     StationRecords sorted;
     sorted.reserve(records.size());
-    for (const Entry& entry : sortedEntries(records, property))
-        sorted.push_back(std::move(records[entry.index]));
+    for (const std::size_t place : orderOfNames(names))
+        sorted.push_back(std::move(records[place]));
     records = std::move(sorted);
 }
 

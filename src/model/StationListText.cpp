@@ -8,6 +8,9 @@ namespace sonavel {
 
 namespace {
 
+/// Room for what encryption appends, so that a text of many megabytes can be encrypted where it lies.
+constexpr std::size_t encryptionPadding = 16;
+
 /// Cuts the part before `separator` off; the whole of `rest` when there is none.
 std::string_view takeUntil(std::string_view& rest, char separator)
 {
@@ -69,7 +72,7 @@ std::string listTextFromRecords(const StationRecords& records, Heading heading)
 {
     std::string text;
     const Text fieldNames = KVStationWebRadio::returnPropertyNameListDefault();
-    text.reserve(fieldNames.view().size() + lengthOfListText(records));
+    text.reserve(fieldNames.view().size() + lengthOfListText(records) + encryptionPadding);
     if (heading == Heading::FieldNames)
         text += fieldNames.view();
     for (const auto& record : records) {

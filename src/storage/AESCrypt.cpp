@@ -7,25 +7,25 @@
 
 namespace sonavel {
 
-std::optional<Bytes> AES256EncryptWithKey(const Bytes& bytes, const Text& key)
+std::optional<Bytes> AES256EncryptWithKey(Bytes bytes, const Text& key)
 {
-    return encrypted(bytes, cipherKeyFromText(key.view()));
+    return encrypted(std::move(bytes), cipherKeyFromText(key.view()));
 }
 
-std::optional<Bytes> AES256DecryptWithKey(const Bytes& bytes, const Text& key)
+std::optional<Bytes> AES256DecryptWithKey(Bytes bytes, const Text& key)
 {
-    return decrypted(bytes, cipherKeyFromText(key.view()));
+    return decrypted(std::move(bytes), cipherKeyFromText(key.view()));
 }
 
 Text AES256EncryptWithKey(const Text& text, const Text& key)
 {
-    const auto bytes = encrypted({text.string()}, cipherKeyFromText(key.view()));
+    const auto bytes = AES256EncryptWithKey(Bytes{text.string()}, key);
     return bytes ? base64Encoding(*bytes) : Text();
 }
 
 Text AES256DecryptWithKey(const Text& base64, const Text& key)
 {
-    auto bytes = decrypted(dataWithBase64EncodedString(base64), cipherKeyFromText(key.view()));
+    auto bytes = AES256DecryptWithKey(dataWithBase64EncodedString(base64), key);
     if (!bytes || !isValidUtf8(bytes->content))
         return {};
     return std::move(bytes->content);

@@ -1,6 +1,7 @@
 // The operations that encrypt station data and write it in Base64.
 //
-// None keeps any state or changes its input; they may run on any thread.
+// None keeps any state or changes its input; they may run on any thread. Bytes that are handed over with `std::move`
+// are transformed where they lie.
 #pragma once
 
 #include "base/Text.h"
@@ -14,11 +15,11 @@ namespace sonavel {
 
 /// The bytes encrypted with AES-256 (cipher block chaining from an all-zero vector, PKCS#7 padding). The first 32 bytes
 /// of the key text are the key, filled up with zero bytes. Absent when the cipher fails, as for 2 GiB and above.
-[[nodiscard]] std::optional<Bytes> AES256EncryptWithKey(const Bytes& bytes, const Text& key);
+[[nodiscard]] std::optional<Bytes> AES256EncryptWithKey(Bytes bytes, const Text& key);
 
 /// The reverse; absent also for a length that is 0 or no multiple of 16, and for invalid padding, as mostly with
 /// another key.
-[[nodiscard]] std::optional<Bytes> AES256DecryptWithKey(const Bytes& bytes, const Text& key);
+[[nodiscard]] std::optional<Bytes> AES256DecryptWithKey(Bytes bytes, const Text& key);
 
 /// The encryption of the text's UTF-8 bytes, in Base64 in one line. An absent text counts as empty.
 [[nodiscard]] Text AES256EncryptWithKey(const Text& text, const Text& key);

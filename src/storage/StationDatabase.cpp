@@ -70,9 +70,9 @@ bool StationDatabase::writeList()
 {
     if (list_.listRadio == nullptr || !files_.makeFolder(folder_) || !keepUnreadDatabase())
         return false;
-    const Text text = listTextFromRecords(*list_.listRadio, Heading::None);
-    const Text encryptedText = AES256EncryptWithKey(text, stationDatabasePassphrase);
-    if (encryptedText.isAbsent() || !files_.writeAtomically(databasePath_, encryptedText.view()))
+    const auto bytes =
+        AES256EncryptWithKey(Bytes{listTextFromRecords(*list_.listRadio, Heading::None)}, stationDatabasePassphrase);
+    if (!bytes || !files_.writeAtomically(databasePath_, base64Encoding(*bytes).view()))
         return false;
     databaseMayBeReplaced_ = true;
     return true;

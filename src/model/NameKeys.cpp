@@ -1,0 +1,78 @@
+#include "model/NameKeys.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+#include <numeric>
+
+namespace sonavel {
+
+std::string_view takeNumber(std::string_view& name)
+{
+    const auto end = std::find_if_not(name.begin(), name.end(), isDigit);
+    std::string_view digits = name.substr(0, static_cast<std::size_t>(end - name.begin()));
+    name.remove_prefix(digits.size());
+    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
+    return digits;
+}
+
+NameKeys::NameKeys(const std::vector<std::string_view>& names)
+{
+    const std::size_t length = std::accumulate(names.begin(), names.end(), std::size_t{0},
+        [](std::size_t sum, std::string_view name) { return sum + name.size(); });
+    bytes_.reserve(length + length / 8);
+    ends_.reserve(names.size());
+    for (const std::string_view name : names)
+        append(name);
+}
+
+std::uint64_t NameKeys::wordAt(std::size_t place, std::size_t offset) const
+{
+    const std::string_view rest = restAt(place, offset);
+    std::uint64_t word = 0;
+    std::memcpy(&word, rest.data(), std::min(rest.size(), wordSize));
+    if constexpr (std::endian::native == std::endian::little)
+        word = __builtin_bswap64(word);
+    return word;
+}
+
+std::string_view NameKeys::restAt(std::size_t place, std::size_t offset) const
+{
+    const std::size_t start = place == 0 ? 0 : ends_[place - 1];
+    const std::string_view key = std::string_view(bytes_).substr(start, ends_[place] - start);
+    return key.substr(std::min(offset, key.size()));
+}
+
+void NameKeys::append(std::string_view name)
+{
+    while (!name.empty()) {
+        if (isDigit(name.front())) {
+            appendNumber(takeNumber(name));
+        } else {
+            appendOther(name.front());
+            name.remove_prefix(1);
+        }
+    }
+    ends_.push_back(bytes_.size());
+}
+
+/// How many digits there are, then the digits: so more digits make a greater number. The count is itself written in
+/// digits, nine at a time, so that beside any other byte a number keeps the place that its digits have.
+void NameKeys::appendNumber(std::string_view digits)
+{
+    bytes_.append(digits.size() / 9, '9');
+    bytes_ += static_cast<char>('0' + digits.size() % 9);
+    bytes_ += digits;
+}
+
+/// Any other byte stands for itself, except that 0 and 1 become two bytes, as no key has a zero.
+void NameKeys::appendOther(char character)
+{
+    if (character == '\0' || character == '\1') {
+        bytes_ += '\1';
+        ++character;
+    }
+    bytes_ += character;
+}
+
+} // namespace sonavel

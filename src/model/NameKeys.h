@@ -1,0 +1,46 @@
+// Names in a form whose bytes compare as the names do.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sonavel {
+
+[[nodiscard]] constexpr bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+/// Cuts the digits at the head of `name` off and returns them without leading zeros; none remain of the number 0.
+[[nodiscard]] std::string_view takeNumber(std::string_view& name);
+
+/// The keys of many names. Two keys compare byte by byte, the shorter before its continuation, as their names do, and
+/// are equal for equivalent names. No key has a zero byte, so words filled up with zeros compare alike.
+class NameKeys {
+public:
+    static constexpr std::size_t wordSize = 8;
+
+    explicit NameKeys(const std::vector<std::string_view>& names);
+
+    /// Eight bytes of a key as a number that compares as they do; zeros stand for what lies behind its end.
+    [[nodiscard]] std::uint64_t wordAt(std::size_t place, std::size_t offset) const;
+
+    /// Whether no byte follows a word in its key.
+    [[nodiscard]] static bool isLastWord(std::uint64_t word) { return (word & 0xFFU) == 0; }
+
+    /// The key from `offset` on; empty behind its end.
+    [[nodiscard]] std::string_view restAt(std::size_t place, std::size_t offset) const;
+
+private:
+    void append(std::string_view name);
+    void appendNumber(std::string_view digits);
+    void appendOther(char character);
+
+    std::string bytes_;
+    std::vector<std::size_t> ends_;
+};
+
+} // namespace sonavel
