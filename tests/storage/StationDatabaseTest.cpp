@@ -53,7 +53,7 @@ TEST_F(StationDatabaseTest, ADamagedDatabaseReadsAsAbsentAndIsKeptBeforeItIsRepl
     const std::string whole = encryptedText("Alpha;a\rBeta;b\r").string();
     std::vector<std::string> damaged = {"", "Alpha;a\rBeta;b\r", encryptedText("Alpha;a\r", "another key").string(),
         whole + "\xC3\xBC", "\xFF" + whole, std::string(1000, '\0'), "roWZlqy8bJDmQZt1/66B7A=="};
-    for (std::size_t length = 0; length < whole.size() - 2; ++length)
+    for (std::size_t length = 0; length < whole.size() - 1; ++length)
         damaged.push_back(whole.substr(0, length));
     setList("New;n\r");
     for (const std::string& content : damaged) {
