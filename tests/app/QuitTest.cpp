@@ -1,0 +1,50 @@
+#include "support/ControllerTest.h"
+
+namespace sonavel {
+namespace {
+
+class QuitTest : public ControllerTest {
+protected:
+    void SetUp() override
+    {
+        startWithStations("A;http://a/\r");
+        controller.preferences.PREF_DEFAULT_STATION = "A";
+        platform.preferenceDomains.stored.clear();
+    }
+
+    static constexpr const char* question = "<ALLERT_TEXT_MESSAGE_QUIT>";
+};
+
+TEST_F(QuitTest, ThePreferencesAreStoredBeforeTheQuestionWhateverTheAnswer)
+{
+    const auto expectStored = [&] { EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A")); };
+    outlets.winSonavel.setIsVisible(false);
+    platform.alerts.expect(question, secondButtonAnswer, expectStored);
+    EXPECT_EQ(statusOfEnd([&] { outlets.winSonavel.closeRequestedByUser(); }), std::nullopt);
+    EXPECT_TRUE(outlets.winSonavel.isVisible());
+    EXPECT_EQ(platform.alerts.shown.front().buttonTitles, (std::vector<Text>{"<BUTTON_YES>", "<BUTTON_NO>"}));
+
+    platform.preferenceDomains.stored.clear();
+    platform.alerts.expect(question, firstButtonAnswer, expectStored);
+    EXPECT_EQ(statusOfEnd([&] { controller.quitApp(); }), 0);
+}
+
+TEST_F(QuitTest, WhatTheUserDoesWhileTheQuestionIsOpenWaitsForTheAnswer)
+{
+    platform.alerts.expect(question, secondButtonAnswer, [&] {
+        outlets.popupbuttonRadioList.chosenByUser(1);
+        EXPECT_TRUE(controller.player.playRadioLink.isAbsent());
+    });
+    outlets.winSonavel.closeRequestedByUser();
+    EXPECT_EQ(controller.player.playRadioLink, Text("http://a/"));
+}
+
+TEST_F(QuitTest, TheNoticeOfTheUpdateCheckCloses)
+{
+    outlets.winUpdateNotification.setIsVisible(true);
+    controller.buttonClose();
+    EXPECT_FALSE(outlets.winUpdateNotification.isVisible());
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,105 @@
+#include "support/ControllerTest.h"
+
+namespace sonavel {
+namespace {
+
+using StartTest = ControllerTest;
+
+TEST_F(StartTest, TheStepsComeInTheirOrder)
+{
+    controller.init();
+    const std::string legacy = platform.files.inPreferences("radiolist.csv");
+    EXPECT_EQ(platform.log,
+        (std::vector<std::string>{"request http://probe.example/", "load preferences", "store preferences",
+            "read " + platform.files.inPreferences("radiolist.rdb"), "store preferences",
+            "request " + std::string(onlineListAddress), "load preferences"}));
+    platform.log.clear();
+
+    connectOutlets();
+    const auto logWhenShown = [&](auto& outlet, const std::string& name) {
+        outlet.connect(outlet.state(), [this, name](const auto&) { platform.log.push_back(name); });
+    };
+    logWhenShown(outlets.popupbuttonRadioList, "pop-up");
+    logWhenShown(outlets.winSonavel, "main window");
+    logWhenShown(outlets.checkBoxDefaultAutoPlay, "check box");
+    logWhenShown(outlets.sliderDefaultVolume, "default volume");
+    logWhenShown(outlets.tableViewListRadio, "table");
+    logWhenShown(outlets.winWebRadioListEdit, "station list");
+    controller.preferences.PREF_IS_AUTOPLAY = true;
+    controller.preferences.PREF_WINEDIT_IS_VISIBLE = true;
+    controller.awakeFromNib();
+    platform.log.emplace_back("returned");
+    platform.runLoop.turn();
+    EXPECT_EQ(platform.log,
+        (std::vector<std::string>{"pop-up", "station list", "check box", "default volume", "default volume", "table",
+            "returned", "main window"}));
+}
+
+TEST_F(StartTest, WithoutANetworkOnlyTheMessageIsShownAndNothingStored)
+{
+    putDatabase("A;http://a/\r");
+    platform.httpClient.answers.clear();
+    platform.alerts.expect("<INTERNET_ERROR>", firstButtonAnswer);
+    EXPECT_EQ(statusOfEnd([&] { start(); }), 0);
+    EXPECT_EQ(platform.log, std::vector<std::string>{"request http://probe.example/"});
+    EXPECT_TRUE(platform.alerts.shown.front().buttonTitles.empty());
+}
+
+TEST_F(StartTest, TheControlsShowThePreferences)
+{
+    putPreferences({{"isAutoPlay", "YES"}, {"isVisibleWinEdit", "YES"}, {"defaultVolume", "0.25"}});
+    startWithStations("A;http://a/\r");
+    EXPECT_TRUE(outlets.checkBoxDefaultAutoPlay.state().isOn);
+    EXPECT_FALSE(outlets.checkBoxDefaultAutoPlayAtStartApp.state().isOn);
+    EXPECT_TRUE(outlets.winWebRadioListEdit.isVisible());
+    EXPECT_EQ(outlets.sliderVolume.floatValue(), 0.25F);
+    EXPECT_EQ(outlets.sliderDefaultVolume.state(), (SliderState{0.0, 1.0, 0.25, false}));
+    EXPECT_FALSE(outlets.tableViewListRadio.state().allowsMultipleSelection);
+    EXPECT_EQ(outlets.winSonavel.state().frontRequests, 1U);
+}
+
+TEST_F(StartTest, ARefreshAtTheStartStoresThatTheStationListIsHidden)
+{
+    putPreferences({{"isVisibleWinEdit", "YES"}});
+    platform.clock.microsecond = 123'456;
+    start();
+    EXPECT_FALSE(outlets.winWebRadioListEdit.isVisible());
+    EXPECT_EQ(controller.preferences.PREF_DATE_UPDATE_LAST_DATACHECK,
+        momentFromInternationalForm("2016-10-05 12:00:00 +0000"));
+}
+
+TEST_F(StartTest, TheFirstStationOfTheDefaultsNameIsSelectedAndPlayedWhenAskedFor)
+{
+    putPreferences({{"defaultStation", "Same"}, {"isAutoPlayOpenApp", "YES"}, {"defaultVolume", "0.4"}});
+    startWithStations("Other;http://other/\rSame;http://first/\rSame;http://second/\r");
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 2);
+    EXPECT_EQ(outlets.popupDefaultButtonListRadio.indexOfSelectedItem(), 2);
+    EXPECT_TRUE(outlets.buttonPlayPause.state().isEnabled);
+    EXPECT_EQ(platform.streamPlayers.last().address, Text("http://first/"));
+    EXPECT_EQ(platform.streamPlayers.last().volume, 0.4F);
+}
+
+TEST_F(StartTest, NoDefaultStationSelectsAndPlaysNothing)
+{
+    for (const char* name : {"POP_UP_BUTTON_SELECT_RADIO", "POP_UP_BUTTON_SELECT_RADIO_NULL", "Gone", ""}) {
+        putPreferences({{"defaultStation", name}, {"isAutoPlayOpenApp", "YES"}});
+        startWithStations("POP_UP_BUTTON_SELECT_RADIO;http://a/\rPOP_UP_BUTTON_SELECT_RADIO_NULL;http://b/\r");
+        EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 0) << name;
+        EXPECT_TRUE(platform.streamPlayers.players.empty());
+        EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, Text(name));
+    }
+}
+
+TEST_F(StartTest, OutletsThatAreNotConnectedAreLeftAlone)
+{
+    putDatabase("A;http://a/\r");
+    putPreferences({{"defaultStation", "A"}, {"isAutoPlayOpenApp", "YES"}});
+    controller.init();
+    controller.awakeFromNib();
+    platform.runLoop.turn();
+    EXPECT_EQ(outlets.popupbuttonRadioList.state(), PopUpButtonState());
+    EXPECT_EQ(platform.streamPlayers.last().volume, 0.0F);
+}
+
+} // namespace
+} // namespace sonavel

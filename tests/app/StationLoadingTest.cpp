@@ -1,0 +1,84 @@
+#include "support/ControllerTest.h"
+
+namespace sonavel {
+namespace {
+
+class StationLoadingTest : public ControllerTest {
+protected:
+    MemoryFiles& files = platform.files;
+    const std::string legacy = files.inPreferences("radiolist.csv");
+    const std::string databasePath = files.inPreferences("radiolist.rdb");
+};
+
+TEST_F(StationLoadingTest, AFirstStartTakesTheServersList)
+{
+    publishOnline("radio;link\rBeta;http://b/\rAlpha;http://a/\r");
+    start();
+    EXPECT_EQ(list(), "Alpha;http://a/\rBeta;http://b/\r");
+    EXPECT_EQ(database(), Text(list()));
+    EXPECT_EQ(platform.httpClient.requests.size(), 2U);
+}
+
+TEST_F(StationLoadingTest, ALegacyFileMovesIntoTheDatabase)
+{
+    putDatabase("Old;http://old/\r");
+    files.files[legacy] = "\xEF\xBB\xBFradio;link\rBeta;http://b/\rAlpha;http://a/\r";
+    start();
+    EXPECT_EQ(list(), "Alpha;http://a/\rBeta;http://b/\r");
+    EXPECT_EQ(database(), Text(list()));
+    EXPECT_FALSE(files.fileExists(legacy));
+    EXPECT_EQ(platform.httpClient.requests.size(), 1U);
+}
+
+TEST_F(StationLoadingTest, ALegacyFileStaysUntilAWriteSucceeds)
+{
+    files.files[legacy] = "Alpha;http://a/\r";
+    files.failAll("write");
+    start();
+    EXPECT_EQ(list(), "Alpha;http://a/\r");
+    EXPECT_TRUE(files.fileExists(legacy));
+    files.failAll("");
+    controller.stationDatabase.fileRadioDBupdate();
+    EXPECT_FALSE(files.fileExists(legacy));
+    EXPECT_EQ(database(), Text("Alpha;http://a/\r"));
+}
+
+TEST_F(StationLoadingTest, AnUnreadableLegacyFileIsSetAsideAndTheDatabaseRead)
+{
+    putDatabase("Mine;http://mine/\r");
+    files.files[legacy] = "Alpha;\xFF\r";
+    start();
+    EXPECT_EQ(list(), "Mine;http://mine/\r");
+    EXPECT_FALSE(files.fileExists(legacy));
+    EXPECT_EQ(files.files.at(files.inPreferences("radiolist.damaged.csv")), "Alpha;\xFF\r");
+}
+
+TEST_F(StationLoadingTest, ADamagedDatabaseIsKeptAsideBeforeTheServersListTakesItsPlace)
+{
+    files.files[databasePath] = "damaged";
+    publishOnline("Theirs;http://theirs/\r");
+    start();
+    EXPECT_EQ(list(), "Theirs;http://theirs/\r");
+    EXPECT_EQ(files.files.at(files.inPreferences("radiolist.damaged.rdb")), "damaged");
+}
+
+TEST_F(StationLoadingTest, ADueRefreshLeavesTheUsersStationsWhereTheyAre)
+{
+    putDatabase("Mine;http://mine/\rZulu;http://z/\r");
+    publishOnline("Theirs;http://theirs/\r");
+    controller.serverDates.DATE_UPDATED_DATA = platform.clock.now();
+    controller.stationRefresh.chekNewRadioOnLine();
+    start();
+    EXPECT_EQ(list(), "Mine;http://mine/\rTheirs;http://theirs/\rZulu;http://z/\r");
+    EXPECT_EQ(database(), Text(list()));
+}
+
+TEST_F(StationLoadingTest, ARefreshForAnEmptyListIsNotMadeTwice)
+{
+    controller.serverDates.DATE_UPDATED_DATA = platform.clock.now();
+    start();
+    EXPECT_EQ(platform.httpClient.requests.size(), 2U);
+}
+
+} // namespace
+} // namespace sonavel

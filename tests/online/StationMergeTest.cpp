@@ -1,0 +1,95 @@
+#include "online/StationMerge.h"
+
+#include "model/KVStationWebRadio.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+namespace sonavel {
+namespace {
+
+/// The rule as it reads: every downloaded station visits every stored one.
+bool nestedScan(StationRecords& stored, const StationRecords& downloaded)
+{
+    bool changed = false;
+    for (const auto& station : downloaded) {
+        bool found = false;
+        for (const auto& candidate : stored) {
+            if (candidate->radio() != station->radio())
+                continue;
+            found = true;
+            if (candidate->link() != station->link()) {
+                candidate->setLink(station->link());
+                changed = true;
+            }
+        }
+        if (!found) {
+            stored.push_back(std::make_shared<KVStationWebRadio>(*station));
+            changed = true;
+        }
+    }
+    return changed;
+}
+
+std::string described(const StationRecords& records)
+{
+    std::string text;
+    for (const auto& station : records)
+        text += station->returnPropertyIntoFormatDefaultCSV();
+    return text;
+}
+
+class RandomLists {
+public:
+    StationRecords next()
+    {
+        StationRecords records;
+        const unsigned length = below(8);
+        for (unsigned number = 0; number < length; ++number)
+            records.push_back(std::make_shared<KVStationWebRadio>(
+                below(100), "name " + std::to_string(below(5)), "link " + std::to_string(below(3))));
+        return records;
+    }
+
+private:
+    unsigned below(unsigned bound) { return static_cast<unsigned>(random_() % bound); }
+
+    std::mt19937 random_{20161001};
+};
+
+StationRecords copyOf(const StationRecords& records)
+{
+    StationRecords copy;
+    for (const auto& station : records)
+        copy.push_back(std::make_shared<KVStationWebRadio>(*station));
+    return copy;
+}
+
+TEST(StationMerge, ResultsInWhatTheNestedScanResultsIn)
+{
+    RandomLists lists;
+    for (int round = 0; round < 20'000; ++round) {
+        StationRecords stored = lists.next();
+        const StationRecords downloaded = lists.next();
+        const std::string before = described(stored);
+        StationRecords expected = copyOf(stored);
+        const bool expectedChange = nestedScan(expected, downloaded);
+        ASSERT_EQ(mergeStations(stored, downloaded), expectedChange) << before << "with\n" << described(downloaded);
+        ASSERT_EQ(described(stored), described(expected)) << before << "with\n" << described(downloaded);
+    }
+}
+
+TEST(StationMerge, TheDownloadedRecordsStayTheirOwn)
+{
+    StationRecords stored;
+    const StationRecords downloaded{std::make_shared<KVStationWebRadio>(3, "A", "a")};
+    EXPECT_TRUE(mergeStations(stored, downloaded));
+    ASSERT_EQ(stored.size(), 1U);
+    EXPECT_NE(stored.front(), downloaded.front());
+    EXPECT_TRUE(stored.front()->radio().isSameObject(downloaded.front()->radio()));
+}
+
+} // namespace
+} // namespace sonavel

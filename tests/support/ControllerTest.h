@@ -1,0 +1,117 @@
+// The controller on the platform in memory, with connected outlets: the ground of most tests.
+#pragma once
+
+#include "app/Actions.h"
+#include "app/Gate.h"
+#include "app/WinSonavelController.h"
+#include "model/KVStationWebRadio.h"
+#include "storage/AESCrypt.h"
+#include "storage/Passphrase.h"
+#include "support/MemoryPlatform.h"
+#include "ui/Outlets.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+namespace sonavel {
+
+class ControllerTest : public testing::Test {
+protected:
+    static constexpr const char* onlineListAddress =
+        "http://data.example/app_data_files/testget.php?file=20161001000000_lr.rdb";
+
+    MemoryPlatform platform;
+    Outlets outlets;
+    WinSonavelController controller{platform.ports(), platform.configuration, outlets};
+    Gate gate;
+    Actions actions{controller, outlets, gate};
+
+    /// Both phases, and the loop's next turn.
+    void start()
+    {
+        controller.init();
+        connectOutlets();
+        controller.awakeFromNib();
+        platform.runLoop.turn();
+    }
+
+    void startWithStations(const Text& listText)
+    {
+        putDatabase(listText);
+        start();
+    }
+
+    void connectOutlets()
+    {
+        for (Window* window : {&outlets.winSonavel, &outlets.winWebRadioListEdit, &outlets.winUpdateNotification})
+            window->connect({});
+        for (PopUpButton* popUp : {&outlets.popupbuttonRadioList, &outlets.popupDefaultButtonListRadio})
+            popUp->connect({});
+        for (Button* button : {&outlets.buttonPlayPause, &outlets.buttonStop, &outlets.buttonMute,
+                 &outlets.checkBoxDefaultAutoPlayAtStartApp, &outlets.checkBoxDefaultAutoPlay})
+            button->connect({});
+        outlets.buttonPlayPause.setImage("play.png");
+        outlets.buttonMute.setTitle("Mute");
+        for (Slider* slider : {&outlets.sliderVolume, &outlets.sliderDefaultVolume})
+            slider->connect({});
+        outlets.sliderVolume.setMaxValue(1.0);
+        outlets.tableViewListRadio.connect({});
+    }
+
+    void putDatabase(const Text& listText)
+    {
+        platform.files.files[platform.files.inPreferences("radiolist.rdb")] = encrypted(listText);
+    }
+
+    /// The plain list text on disk; absent when there is none that can be decrypted.
+    [[nodiscard]] Text database() const
+    {
+        const auto found = platform.files.files.find(platform.files.inPreferences("radiolist.rdb"));
+        return found == platform.files.files.end()
+            ? Text()
+            : AES256DecryptWithKey(Text(found->second), stationDatabasePassphrase);
+    }
+
+    void publishOnline(const Text& listText) { platform.httpClient.answers[onlineListAddress] = encrypted(listText); }
+
+    /// Keys that are not given are missing.
+    void putPreferences(PreferenceDomain domain)
+    {
+        platform.preferenceDomains.stored["Mertzan-Software.Sonavel.plist"] = std::move(domain);
+    }
+
+    [[nodiscard]] const PreferenceDomain& storedPreferences() const
+    {
+        return platform.preferenceDomains.stored.at("Mertzan-Software.Sonavel.plist");
+    }
+
+    /// The present list as text.
+    [[nodiscard]] std::string list() const
+    {
+        std::string text;
+        for (const auto& station : *controller.stationList.listRadio)
+            text += station->radio().string() + ";" + station->link().string() + "\r";
+        return text;
+    }
+
+    /// The status with which `action` ended the process; nothing when it returned.
+    template <class Action> std::optional<int> statusOfEnd(Action&& action)
+    {
+        try {
+            action();
+            return std::nullopt;
+        } catch (const ThrowingProcess::Ended& ended) {
+            return ended.status;
+        }
+    }
+
+private:
+    static std::string encrypted(const Text& text)
+    {
+        return AES256EncryptWithKey(text, stationDatabasePassphrase).string();
+    }
+};
+
+} // namespace sonavel

@@ -1,0 +1,35 @@
+// An HTTP client whose servers are the test's.
+#pragma once
+
+#include "platform/HttpClient.h"
+
+#include <map>
+
+namespace sonavel {
+
+/// A request to an address without an answer fails.
+class ScriptedHttpClient : public HttpClient {
+public:
+    explicit ScriptedHttpClient(std::vector<std::string>& log)
+        : log_(log)
+    {
+    }
+
+    /// The bodies, by address.
+    std::map<std::string, std::string, std::less<>> answers;
+    std::vector<HttpRequest> requests;
+
+    /// Logged as "request ADDRESS".
+    std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) override
+    {
+        log_.push_back("request " + request.address.string());
+        requests.push_back(request);
+        const auto answer = answers.find(request.address.view());
+        return answer == answers.end() ? std::nullopt : std::optional(answer->second);
+    }
+
+private:
+    std::vector<std::string>& log_;
+};
+
+} // namespace sonavel
