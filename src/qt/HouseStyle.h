@@ -1,0 +1,18 @@
+// The desktop's style with the few habits that the program wants of its controls.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace sonavel {
+
+/// Pop-ups open as scrollable lists, which stays quick with very many items, and a click into a slider's groove takes
+/// the knob there. `base` is the key of a style, or empty for the desktop's.
+class HouseStyle : public QProxyStyle {
+public:
+    explicit HouseStyle(const QString& base = {});
+
+    int styleHint(
+        StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
+};
+
+} // namespace sonavel

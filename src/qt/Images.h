@@ -1,0 +1,22 @@
+// The images that are delivered with the program.
+#pragma once
+
+#include "base/Text.h"
+
+#include <QColor>
+#include <QIcon>
+
+namespace sonavel {
+
+/// The image of that name, such as "play.png", in the given colours; an empty icon when there is none. The image gives
+/// the shape alone, so that it suits light and dark palettes; it is drawn from the sharpest version that fits the
+/// screen.
+[[nodiscard]] QIcon imageNamed(const Text& name, const QColor& color, const QColor& disabledColor);
+
+/// What a button says that shows the image: "play.png" is "Play". A null string when the image says nothing.
+[[nodiscard]] QString wordForImage(const Text& name);
+
+/// What a tool tip says of such a button.
+[[nodiscard]] QString hintForImage(const Text& name);
+
+} // namespace sonavel

@@ -1,0 +1,41 @@
+// The main window: one station, its sound, and what is on air.
+#pragma once
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QTimer;
+namespace Ui {
+class MainWindow;
+}
+
+namespace sonavel {
+
+/// Built from its description, whose object names are the names of the outlets. Shown by the program, not by itself.
+class MainWindow : public QMainWindow {
+public:
+    MainWindow();
+    ~MainWindow() override;
+
+    /// What is on air, or what keeps it from being so. Faded when `text` is about nothing that plays.
+    enum class Emphasis { Faded, Usual };
+    void showNowPlaying(const QString& text, Emphasis emphasis);
+
+    /// A failure to tell, in one line that moves nothing and goes away by itself or by `clearNotice`.
+    void showNotice(const QString& text);
+    void clearNotice();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setUpProportions();
+    void setUpColors();
+
+    std::unique_ptr<Ui::MainWindow> description_;
+    QTimer* noticeTime_;
+    Emphasis emphasis_ = Emphasis::Faded;
+};
+
+} // namespace sonavel

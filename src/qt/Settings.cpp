@@ -1,0 +1,221 @@
+#include "qt/Settings.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace sonavel {
+
+namespace {
+
+constexpr const char* wellKnownPage = "https://www.debian.org/";
+
+/// A mistake in what the player was started with, said in one line.
+struct UsageError {
+    QString text;
+};
+
+struct Option {
+    const char* name;
+    const char* value; ///< what `--help` calls its value; null when it takes none
+    const char* variable; ///< of the environment; null for none
+    const char* meaning;
+};
+
+constexpr Option options[] = {
+    {"home", "DIR", "SONAVEL_HOME", "keep stations and preferences below DIR/Library/Preferences"},
+    {"data-server", "URL", "SONAVEL_DATA_SERVER", "get the stations from this data server"},
+    {"probe", "URL", "SONAVEL_PROBE", "ask this page whether there is an internet connection"},
+    {"demo", nullptr, nullptr, "try the player: own server, own streams, nothing kept"},
+    {"language", "CODE", nullptr, "language of the windows, such as en"},
+    {"appearance", "light|dark", nullptr, "colours of the windows"},
+    {"version", nullptr, nullptr, "print the version"},
+    {"help", nullptr, nullptr, "print this"},
+};
+
+QString helpText()
+{
+    QString text = QStringLiteral("Usage: sonavel [options]\nPlays internet radio.\n");
+    for (const Option& option : options) {
+        QString left = QStringLiteral("  --%1 %2").arg(QLatin1String(option.name), QLatin1String(option.value));
+        text += u'\n' + left.leftJustified(26) + QLatin1String(option.meaning);
+        if (option.variable)
+            text += QStringLiteral(" ($%1)").arg(QLatin1String(option.variable));
+    }
+    return text;
+}
+
+void parse(QCommandLineParser& parser, const QStringList& arguments)
+{
+    for (const Option& option : options)
+        parser.addOption(
+            {QString::fromLatin1(option.name), QString::fromLatin1(option.meaning), QString::fromLatin1(option.value)});
+    // The parser skips the name of the program.
+    if (!parser.parse(QStringList{QString()} + arguments))
+        throw UsageError{parser.errorText()};
+    if (!parser.positionalArguments().isEmpty())
+        throw UsageError{QStringLiteral("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst())};
+}
+
+/// One value and where it came from, for complaints.
+struct Found {
+    QString value;
+    QString source;
+};
+
+/// Finds values in the order of their sources.
+class Lookup {
+public:
+    Lookup(const QCommandLineParser& parser, const QMap<QString, QString>& environment,
+        const QMap<QString, QString>& configuration)
+        : parser_(parser)
+        , environment_(environment)
+        , configuration_(configuration)
+    {
+    }
+
+    /// The value of the option alone. An option that is given empty is a value, an empty variable is none.
+    [[nodiscard]] std::optional<Found> given(const char* name) const
+    {
+        const QString option = QString::fromLatin1(name);
+        if (!parser_.isSet(option))
+            return {};
+        return Found{parser_.value(option), QStringLiteral("--") + option};
+    }
+
+    [[nodiscard]] std::optional<Found> find(const char* name) const
+    {
+        if (auto option = given(name))
+            return option;
+        for (const Option& option : options) {
+            if (option.variable == nullptr || qstrcmp(option.name, name) != 0)
+                continue;
+            const QString variable = QString::fromLatin1(option.variable);
+            if (!environment_.value(variable).isEmpty())
+                return Found{environment_.value(variable), variable};
+        }
+        const QString key = QString::fromLatin1(name);
+        if (!configuration_.value(key).isEmpty())
+            return Found{configuration_.value(key), QStringLiteral("\"%1\" in sonavel.conf").arg(key)};
+        return {};
+    }
+
+private:
+    const QCommandLineParser& parser_;
+    const QMap<QString, QString>& environment_;
+    const QMap<QString, QString>& configuration_;
+};
+
+QString folder(const Found& found)
+{
+    const QFileInfo file(found.value);
+    if (found.value.isEmpty() || !file.isDir())
+        throw UsageError{QStringLiteral("%1: \"%2\" is not a directory.").arg(found.source, found.value)};
+    return QDir::cleanPath(file.absoluteFilePath());
+}
+
+QString webAddress(const Found& found)
+{
+    const QUrl url(found.value, QUrl::StrictMode);
+    const bool isWeb = url.scheme() == u"http" || url.scheme() == u"https";
+    if (!url.isValid() || !isWeb || url.host().isEmpty())
+        throw UsageError{QStringLiteral("%1: \"%2\" is not an http or https address.").arg(found.source, found.value)};
+    return QString::fromLatin1(url.toEncoded());
+}
+
+QString baseAddress(const Found& found)
+{
+    QString address = webAddress(found);
+    if (!address.endsWith(u'/'))
+        address += u'/';
+    return address;
+}
+
+Appearance appearance(const Found& found)
+{
+    if (found.value == u"light")
+        return Appearance::Light;
+    if (found.value == u"dark")
+        return Appearance::Dark;
+    throw UsageError{QStringLiteral("%1: \"%2\" is neither light nor dark.").arg(found.source, found.value)};
+}
+
+QString homeFolder(const Lookup& lookup, const QMap<QString, QString>& environment)
+{
+    if (const auto found = lookup.find("home"))
+        return folder(*found);
+    if (environment.value(QStringLiteral("HOME")).isEmpty())
+        throw UsageError{QStringLiteral("There is no home directory: set HOME or give --home.")};
+    return folder({environment.value(QStringLiteral("HOME")), QStringLiteral("HOME")});
+}
+
+Settings settingsOf(const Lookup& lookup, const QMap<QString, QString>& environment)
+{
+    Settings settings;
+    settings.isDemo = lookup.given("demo").has_value();
+    if (const auto language = lookup.find("language"))
+        settings.language = language->value;
+    if (const auto found = lookup.find("appearance"))
+        settings.appearance = appearance(*found);
+
+    const auto home = lookup.given("home");
+    settings.home = settings.isDemo ? (home ? folder(*home) : QString()) : homeFolder(lookup, environment);
+    const auto address = [&](const char* name) { return settings.isDemo ? lookup.given(name) : lookup.find(name); };
+    if (const auto found = address("data-server"))
+        settings.dataServer = baseAddress(*found);
+    if (const auto found = address("probe"))
+        settings.probe = webAddress(*found);
+    else if (!settings.isDemo)
+        settings.probe = QString::fromLatin1(wellKnownPage);
+    return settings;
+}
+
+} // namespace
+
+SettingsOrEnd settingsFrom(const QStringList& arguments, const QMap<QString, QString>& environment,
+    const QMap<QString, QString>& configuration)
+{
+    try {
+        QCommandLineParser parser;
+        parse(parser, arguments);
+        if (parser.isSet(QStringLiteral("help")))
+            return EndAtOnce{0, helpText()};
+        if (parser.isSet(QStringLiteral("version")))
+            return EndAtOnce{0, QStringLiteral("Sonavel " SONAVEL_VERSION)};
+        return settingsOf(Lookup(parser, environment, configuration), environment);
+    } catch (const UsageError& error) {
+        return EndAtOnce{2, QStringLiteral("sonavel: ") + error.text};
+    }
+}
+
+QMap<QString, QString> readConfiguration()
+{
+    QMap<QString, QString> configuration;
+    const QStringList files =
+        QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, QStringLiteral("sonavel/sonavel.conf"));
+    for (const QString& path : files) {
+        const QSettings file(path, QSettings::IniFormat);
+        for (const Option& option : options) {
+            const QString key = QString::fromLatin1(option.name);
+            // An unquoted comma makes a list of what is one value here.
+            if (option.value && file.contains(key) && !configuration.contains(key))
+                configuration.insert(key, file.value(key).toStringList().join(u','));
+        }
+    }
+    return configuration;
+}
+
+QMap<QString, QString> readEnvironment()
+{
+    QMap<QString, QString> environment{{QStringLiteral("HOME"), qEnvironmentVariable("HOME")}};
+    for (const Option& option : options) {
+        if (option.variable)
+            environment.insert(QString::fromLatin1(option.variable), qEnvironmentVariable(option.variable));
+    }
+    return environment;
+}
+
+} // namespace sonavel

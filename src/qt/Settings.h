@@ -1,0 +1,52 @@
+// What the player was started with: options, environment and configuration file.
+#pragma once
+
+#include "qt/Palettes.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+
+namespace sonavel {
+
+struct Settings {
+    /// An existing folder, absolute, without a trailing "/". Empty for a throw-away one.
+    QString home;
+    /// http or https address ending in "/". Empty for a server of the player's own.
+    QString dataServer;
+    /// http or https address. Empty for the player's own server.
+    QString probe;
+    /// Everything embedded: an own data server with streams of its own.
+    bool isDemo = false;
+    /// Language code such as "de"; empty for the desktop's.
+    QString language;
+    /// Absent for the desktop's.
+    std::optional<Appearance> appearance;
+};
+
+/// The program is to end at once: with status 0 after `--help` and `--version`, with 2 after a usage error.
+struct EndAtOnce {
+    int status = 0;
+    /// To print, without a line end; on the standard error output when the status is not 0.
+    QString text;
+};
+
+using SettingsOrEnd = std::variant<Settings, EndAtOnce>;
+
+/// Options win over the environment, which wins over the configuration file, which wins over the built-in value; with
+/// `--demo` the addresses and the home folder come from the options or are embedded. `arguments` are without the name
+/// of the program; `configuration` maps the long names of options to values.
+[[nodiscard]] SettingsOrEnd settingsFrom(const QStringList& arguments, const QMap<QString, QString>& environment,
+    const QMap<QString, QString>& configuration);
+
+/// What stands in `sonavel/sonavel.conf` of the user's and the system's configuration folders; the user's wins, key by
+/// key.
+[[nodiscard]] QMap<QString, QString> readConfiguration();
+
+/// The variables of the environment that concern the player.
+[[nodiscard]] QMap<QString, QString> readEnvironment();
+
+} // namespace sonavel

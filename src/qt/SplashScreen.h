@@ -1,0 +1,22 @@
+// What is on the screen while the program waits before it has a window.
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+namespace sonavel {
+
+/// A small frameless window with the program's picture and name, and a line that tells what is being waited for.
+class SplashScreen : public QWidget {
+public:
+    SplashScreen();
+
+    /// Shows it in the middle of the screen, with this line.
+    void showWaitingFor(const QString& line);
+
+private:
+    QLabel* line_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,89 @@
+#include "qt/StationComboBox.h"
+
+#include "qt/TextConversion.h"
+
+#include <QCoreApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QListView>
+#include <QStyleOption>
+#include <QToolTip>
+
+namespace sonavel {
+
+namespace {
+
+constexpr int shortestContents = 24; // characters
+
+bool movesThroughItems(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isTyping(const QKeyEvent& event)
+{
+    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint() && event.key() != Qt::Key_Space;
+}
+
+} // namespace
+
+StationComboBox::StationComboBox(QWidget* parent)
+    : QComboBox(parent)
+{
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(shortestContents);
+    auto* list = new QListView(this);
+    list->setUniformItemSizes(true);
+    list->setTextElideMode(Qt::ElideRight);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setView(list);
+}
+
+/// Left to whatever lies behind the box.
+void StationComboBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+void StationComboBox::keyPressEvent(QKeyEvent* event)
+{
+    if ((movesThroughItems(*event) || isTyping(*event)) && !(event->modifiers() & Qt::AltModifier))
+        openListAndPass(*event);
+    else
+        QComboBox::keyPressEvent(event);
+}
+
+void StationComboBox::openListAndPass(QKeyEvent& event)
+{
+    showPopup();
+    if (view()->isVisible())
+        QCoreApplication::sendEvent(view(), &event);
+    event.accept();
+}
+
+/// A name that does not fit is told whole by the tool tip.
+bool StationComboBox::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QComboBox::event(event);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const bool fits = fontMetrics().horizontalAdvance(currentText()) <= field.width() - 2;
+    const QString tip = fits ? toolTip() : currentText();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), asPlainToolTip(tip), this);
+    return true;
+}
+
+} // namespace sonavel

@@ -1,0 +1,27 @@
+// Binds a window of the program to a top-level widget.
+#pragma once
+
+#include "ui/Window.h"
+
+#include <QWidget>
+
+namespace sonavel {
+
+/// Renders title and visibility; the user's wish to close the window is reported, and the window stays until the
+/// program hides it. Lives as long as the widget.
+class WindowBinder : public QObject {
+public:
+    WindowBinder(Window& window, QWidget& widget);
+    ~WindowBinder() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void render(const WindowState& state);
+
+    Window& window_;
+    QWidget& widget_;
+    unsigned frontRequestsSeen_ = 0;
+};
+
+} // namespace sonavel

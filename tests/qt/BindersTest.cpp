@@ -1,0 +1,230 @@
+// What the core says reaches the widgets and nothing comes back; what the user does reaches the core once.
+#include "UserInput.h"
+#include "qt/ButtonBinder.h"
+#include "qt/HouseStyle.h"
+#include "qt/OutletConnector.h"
+#include "qt/PopUpBinder.h"
+#include "qt/SliderBinder.h"
+#include "qt/WindowBinder.h"
+
+#include <QCheckBox>
+#include <QListView>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace sonavel {
+namespace {
+
+ItemTitles titles(std::vector<Text> names)
+{
+    return std::make_shared<const std::vector<Text>>(std::move(names));
+}
+
+class PopUpBinding : public testing::Test {
+protected:
+    PopUpBinding()
+    {
+        widget.setStyle(&style);
+        new PopUpBinder(popUp, widget);
+        popUp.setItems(titles({"Choose a station", "First", "Second", "Third"}));
+        popUp.setEnabled(true);
+        popUp.action.set([this] { chosen.push_back(popUp.indexOfSelectedItem()); });
+        widget.show();
+    }
+
+    HouseStyle style;
+    PopUpButton popUp;
+    std::vector<int> chosen;
+    StationComboBox widget;
+};
+
+TEST_F(PopUpBinding, SelectingAndRefillingFromTheProgramChoosesNoStation)
+{
+    popUp.selectItemAtIndex(2);
+    EXPECT_EQ(widget.currentText(), "Second");
+    popUp.setItems(titles({"No stations"}));
+    EXPECT_EQ(widget.currentText(), "No stations");
+    popUp.setEnabled(false);
+    EXPECT_FALSE(widget.isEnabled());
+    EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(PopUpBinding, ARefillLeavesNoRowOfTheFormerList)
+{
+    popUp.selectItemAtIndex(3);
+    popUp.setItems(titles({"Choose a station", "Other"}));
+    ASSERT_EQ(widget.count(), 2);
+    EXPECT_EQ(widget.currentIndex(), 0);
+    EXPECT_EQ(widget.itemText(1), "Other");
+    popUp.selectItemAtIndex(-1);
+    EXPECT_EQ(widget.currentIndex(), -1);
+}
+
+TEST_F(PopUpBinding, TheChoiceIsStoredBeforeTheActionHearsOfIt)
+{
+    emit widget.activated(2);
+    EXPECT_EQ(chosen, std::vector<int>{2});
+}
+
+TEST_F(PopUpBinding, WheelAndKeysOnTheClosedBoxChooseNothing)
+{
+    turnWheel(widget);
+    EXPECT_EQ(widget.currentIndex(), 0);
+    for (const auto& [key, text] : {std::pair{Qt::Key_Down, QString()}, {Qt::Key_End, QString()}, {Qt::Key_S, "s"}}) {
+        pressKey(widget, key, text);
+        EXPECT_TRUE(widget.view()->isVisible());
+        EXPECT_EQ(widget.currentIndex(), 0);
+        widget.hidePopup();
+    }
+    EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(PopUpBinding, ReturnInTheOpenedListChoosesWhatIsHighlighted)
+{
+    pressKey(widget, Qt::Key_T, "t");
+    EXPECT_EQ(widget.view()->currentIndex().row(), 3);
+    pressKey(*widget.view(), Qt::Key_Return);
+    EXPECT_EQ(chosen, std::vector<int>{3});
+}
+
+TEST_F(PopUpBinding, NamesAreDrawnAsTheyAreOnOneLine)
+{
+    popUp.setItems(titles({"Rock & <b>Roll</b>\nRadio"}));
+    EXPECT_EQ(widget.itemText(0), "Rock & <b>Roll</b> Radio");
+}
+
+TEST_F(PopUpBinding, AHundredThousandStationsAreSharedAndNotMeasuredOneByOne)
+{
+    std::vector<Text> names(100'000, Text("Station"));
+    names.front() = Text(std::string(4'000, 'x'));
+    const QSize before = widget.sizeHint();
+    const ItemTitles many = titles(std::move(names));
+    popUp.setItems(many);
+    EXPECT_EQ(widget.sizeHint(), before);
+    EXPECT_EQ(popUp.state().titles.get(), many.get());
+    widget.showPopup();
+    EXPECT_TRUE(static_cast<QListView*>(widget.view())->uniformItemSizes());
+    EXPECT_LT(widget.view()->window()->height(), 2'000);
+}
+
+TEST(SliderBinding, RenderingKeepsTheProgramsOwnValue)
+{
+    QSlider widget;
+    widget.setMaximum(100);
+    Slider slider;
+    new SliderBinder(slider, widget);
+    EXPECT_EQ(slider.state().maxValue, 1.0);
+    int moves = 0;
+    slider.action.set([&] { ++moves; });
+    slider.setDoubleValue(0.333);
+    EXPECT_EQ(widget.value(), 33);
+    EXPECT_EQ(slider.state().value, 0.333);
+    EXPECT_EQ(moves, 0);
+}
+
+TEST(SliderBinding, AMoveOfTheUserIsStoredBeforeTheActionHearsOfIt)
+{
+    QSlider widget;
+    widget.setMaximum(100);
+    Slider slider;
+    new SliderBinder(slider, widget);
+    slider.setDoubleValue(0.5);
+    float heard = -1.0F;
+    slider.action.set([&] { heard = slider.floatValue(); });
+    pressKey(widget, Qt::Key_End);
+    EXPECT_EQ(heard, 1.0F);
+}
+
+TEST(ButtonBinding, LooksFollowTheProgramWithoutAClick)
+{
+    QPushButton widget("Play");
+    widget.setProperty("imageName", "play.png");
+    Button button;
+    new ButtonBinder(button, widget);
+    EXPECT_EQ(button.state().image, Text("play.png"));
+    EXPECT_FALSE(widget.icon().isNull());
+    int presses = 0;
+    button.action.set([&] { ++presses; });
+
+    button.setImage("pause.png");
+    EXPECT_EQ(widget.text(), "Pause");
+    button.setEnabled(false);
+    widget.click();
+    EXPECT_EQ(presses, 0);
+    button.setEnabled(true);
+    widget.click();
+    EXPECT_EQ(presses, 1);
+}
+
+TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)
+{
+    QPushButton widget("Mute");
+    Button button;
+    new ButtonBinder(button, widget);
+    const QColor usual = widget.palette().color(QPalette::ButtonText);
+    button.setTitleColor(TitleColor::Red);
+    EXPECT_GT(widget.palette().color(QPalette::ButtonText).red(), 150);
+    button.setTitleColor(TitleColor::Black);
+    EXPECT_EQ(widget.palette().color(QPalette::ButtonText), usual);
+    button.setTitle("R&B");
+    EXPECT_EQ(widget.text(), "R&&B");
+}
+
+TEST(ButtonBinding, ACheckBoxReportsTheUsersTicksAlone)
+{
+    QCheckBox widget;
+    Button button;
+    new ButtonBinder(button, widget);
+    std::vector<bool> heard;
+    button.action.set([&] { heard.push_back(button.state().isOn); });
+    button.setState(true);
+    EXPECT_TRUE(widget.isChecked());
+    widget.toggle();
+    EXPECT_EQ(heard, std::vector<bool>{false});
+}
+
+TEST(WindowBinding, ClosingAsksTheProgramAndHidesNothing)
+{
+    QWidget widget;
+    Window window;
+    new WindowBinder(window, widget);
+    int requests = 0;
+    window.action.set([&] { ++requests; });
+    window.makeKeyAndOrderFront();
+    widget.close();
+    EXPECT_TRUE(widget.isVisible());
+    EXPECT_EQ(requests, 1);
+    window.setIsVisible(false);
+    EXPECT_FALSE(widget.isVisible());
+}
+
+TEST(Connecting, AMissingOrMistakenWidgetIsNamed)
+{
+    QWidget window;
+    window.setObjectName("winSonavel");
+    auto* impostor = new QComboBox(&window);
+    impostor->setObjectName("popupbuttonRadioList");
+    Outlets outlets;
+    try {
+        connectMainWindow(outlets, window);
+        FAIL() << "connected a plain combo box";
+    } catch (const MissingOutlet& fault) {
+        EXPECT_NE(std::string(fault.what()).find("popupbuttonRadioList"), std::string::npos);
+    }
+}
+
+TEST(Connecting, WhenTheWindowGoesAwayItsOutletsLetGo)
+{
+    Button button;
+    {
+        QPushButton widget;
+        new ButtonBinder(button, widget);
+        EXPECT_TRUE(button.isConnected());
+    }
+    EXPECT_FALSE(button.isConnected());
+    button.setTitle("nobody draws this");
+}
+
+} // namespace
+} // namespace sonavel

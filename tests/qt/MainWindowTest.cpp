@@ -1,0 +1,95 @@
+// The main window keeps its shape and tells what it shows.
+#include "qt/MainWindow.h"
+
+#include "UserInput.h"
+#include "qt/ElidedLabel.h"
+#include "qt/OutletConnector.h"
+
+#include <QAccessible>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace sonavel {
+namespace {
+
+QString accessible(QWidget& window, const char* name, QAccessible::Text text)
+{
+    return QAccessible::queryAccessibleInterface(window.findChild<QWidget*>(name))->text(text);
+}
+
+TEST(MainWindow, HasEveryOutletAndStartsStopped)
+{
+    Outlets outlets;
+    MainWindow window;
+    connectMainWindow(outlets, window);
+    EXPECT_EQ(outlets.buttonPlayPause.state().image, Text("play.png"));
+    EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
+    EXPECT_FALSE(outlets.buttonStop.state().isEnabled);
+    EXPECT_FALSE(outlets.buttonEditRadioList.state().isEnabled);
+    EXPECT_EQ(outlets.buttonMute.title(), Text("Mute"));
+    EXPECT_EQ(outlets.labelVolume.stringValue(), Text("Volume"));
+    EXPECT_EQ(outlets.sliderVolume.state().maxValue, 1.0);
+}
+
+TEST(MainWindow, NothingMovesWhenTextsChange)
+{
+    Outlets outlets;
+    MainWindow window;
+    connectMainWindow(outlets, window);
+    window.show();
+    QApplication::processEvents();
+    const auto shape = [&] {
+        QApplication::processEvents();
+        std::vector<QRect> rectangles{window.geometry()};
+        for (const QWidget* widget : window.findChildren<QWidget*>())
+            rectangles.push_back(widget->geometry());
+        return rectangles;
+    };
+    const std::vector<QRect> before = shape();
+    const QString veryLong(3'000, u'W');
+    window.showNowPlaying(veryLong, MainWindow::Emphasis::Usual);
+    window.showNotice(veryLong);
+    outlets.buttonPlayPause.setImage("pause.png");
+    outlets.popupbuttonRadioList.setItems(std::make_shared<const std::vector<Text>>(1, Text(veryLong.toStdString())));
+    EXPECT_EQ(shape(), before);
+    window.clearNotice();
+    EXPECT_EQ(shape(), before);
+}
+
+TEST(MainWindow, AScreenReaderHearsTheTitleAndTheNameOfEveryControl)
+{
+    Outlets outlets;
+    MainWindow window;
+    connectMainWindow(outlets, window);
+    window.showNowPlaying("Someone <i>& Co</i> – Song", MainWindow::Emphasis::Usual);
+    EXPECT_EQ(accessible(window, "labelNowPlaying", QAccessible::Name), "Someone <i>& Co</i> – Song");
+    EXPECT_EQ(accessible(window, "labelNowPlaying", QAccessible::Description), "Now playing");
+    outlets.buttonPlayPause.setImage("pause.png");
+    EXPECT_EQ(accessible(window, "buttonPlayPause", QAccessible::Name), "Pause");
+    EXPECT_EQ(accessible(window, "sliderVolume", QAccessible::Name), "Volume");
+    EXPECT_EQ(accessible(window, "buttonEditRadioList", QAccessible::Name), "Station List…");
+}
+
+TEST(MainWindow, TheKeyboardGoesThroughTheControlsInReadingOrder)
+{
+    Outlets outlets;
+    MainWindow window;
+    connectMainWindow(outlets, window);
+    for (Button* button : {&outlets.buttonPlayPause, &outlets.buttonStop, &outlets.buttonMute})
+        button->setEnabled(true);
+    outlets.popupbuttonRadioList.setEnabled(true);
+    outlets.sliderVolume.setEnabled(true);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(handleEventsUntil([&] { return window.focusWidget() != nullptr; }));
+    QStringList order;
+    for (int step = 0; step < 5; ++step) {
+        order << window.focusWidget()->objectName();
+        pressKey(*window.focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order.join(' ').toStdString(), "popupbuttonRadioList sliderVolume buttonPlayPause buttonStop buttonMute");
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,105 @@
+// Where each value comes from, and what is refused.
+#include "qt/Settings.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+namespace sonavel {
+namespace {
+
+using Values = QMap<QString, QString>;
+
+const QString existing = QDir::tempPath();
+
+Settings accepted(const QStringList& arguments, Values environment = {}, const Values& configuration = {})
+{
+    environment.insert("HOME", existing);
+    const SettingsOrEnd outcome = settingsFrom(arguments, environment, configuration);
+    if (const auto* end = std::get_if<EndAtOnce>(&outcome)) {
+        ADD_FAILURE() << end->text.toStdString();
+        return {};
+    }
+    return std::get<Settings>(outcome);
+}
+
+TEST(Settings, OptionsWinOverTheEnvironmentWhichWinsOverTheFile)
+{
+    const Values environment{{"SONAVEL_DATA_SERVER", "http://environment/"}};
+    const Values file{{"data-server", "http://file/"}, {"probe", "http://file/probe"}, {"appearance", "dark"}};
+    EXPECT_EQ(accepted({"--data-server", "http://option/"}, environment, file).dataServer, "http://option/");
+    EXPECT_EQ(accepted({}, environment, file).dataServer, "http://environment/");
+    EXPECT_EQ(accepted({}, {}, file).dataServer, "http://file/");
+    EXPECT_EQ(accepted({}, {{"SONAVEL_DATA_SERVER", ""}}, file).dataServer, "http://file/");
+    EXPECT_EQ(accepted({}).dataServer, "");
+    EXPECT_EQ(accepted({}, environment, file).probe, "http://file/probe");
+    EXPECT_TRUE(accepted({}).probe.startsWith("https://"));
+    EXPECT_EQ(accepted({"--appearance=light"}, {}, file).appearance, Appearance::Light);
+    EXPECT_EQ(accepted({}, {}, file).appearance, Appearance::Dark);
+    EXPECT_EQ(accepted({}).home, QDir::cleanPath(existing));
+}
+
+TEST(Settings, ABaseAddressEndsInASlash)
+{
+    EXPECT_EQ(
+        accepted({"--data-server", "https://radio.example.org/data"}).dataServer, "https://radio.example.org/data/");
+}
+
+TEST(Settings, TheDemoTouchesNothingThatIsConfigured)
+{
+    const Values environment{{"SONAVEL_HOME", existing}, {"SONAVEL_PROBE", "http://environment/"}};
+    const Settings demo = accepted({"--demo"}, environment, {{"data-server", "http://file/"}});
+    EXPECT_TRUE(demo.isDemo);
+    EXPECT_EQ(demo.home + demo.dataServer + demo.probe, "");
+    EXPECT_EQ(accepted({"--demo", "--home", existing}).home, QDir::cleanPath(existing));
+}
+
+TEST(Settings, AMistakeIsOneLineAndStatusTwo)
+{
+    const struct {
+        QStringList arguments;
+        QString named;
+    } mistakes[] = {
+        {{"--hme", "x"}, "hme"},
+        {{"--home"}, "home"},
+        {{"--home", "/no/such/folder"}, "/no/such/folder"},
+        {{"--home", ""}, "--home"},
+        {{"--home", "/etc/passwd"}, "/etc/passwd"},
+        {{"--data-server", "ftp://example.org/"}, "ftp://example.org/"},
+        {{"--data-server", "radio.example.org"}, "radio.example.org"},
+        {{"--probe", "file:///etc/passwd"}, "file:///etc/passwd"},
+        {{"--probe", "http://"}, "--probe"},
+        {{"--appearance", "pink"}, "pink"},
+        {{"--demo=yes"}, "demo"},
+        {{"stations.csv"}, "stations.csv"},
+    };
+    for (const auto& mistake : mistakes) {
+        const SettingsOrEnd outcome = settingsFrom(mistake.arguments, {{"HOME", existing}}, {});
+        const auto* end = std::get_if<EndAtOnce>(&outcome);
+        ASSERT_NE(end, nullptr) << mistake.arguments.join(' ').toStdString();
+        EXPECT_EQ(end->status, 2);
+        EXPECT_TRUE(end->text.contains(mistake.named)) << end->text.toStdString();
+        EXPECT_FALSE(end->text.contains('\n'));
+    }
+}
+
+TEST(Settings, WithoutAHomeThePlayerDoesNotStart)
+{
+    for (const Values& environment : {Values{}, Values{{"HOME", ""}}, Values{{"HOME", "/no/such/folder"}}}) {
+        const SettingsOrEnd outcome = settingsFrom({}, environment, {});
+        ASSERT_TRUE(std::holds_alternative<EndAtOnce>(outcome));
+        EXPECT_EQ(std::get<EndAtOnce>(outcome).status, 2);
+    }
+}
+
+TEST(Settings, HelpAndVersionNeedNoHome)
+{
+    for (const char* option : {"--help", "--version"}) {
+        const SettingsOrEnd outcome = settingsFrom({option}, {}, {});
+        ASSERT_TRUE(std::holds_alternative<EndAtOnce>(outcome));
+        EXPECT_EQ(std::get<EndAtOnce>(outcome).status, 0);
+    }
+}
+
+} // namespace
+} // namespace sonavel
