@@ -1,0 +1,89 @@
+// Stream players whose sound comes from the engine program.
+#pragma once
+
+#include "adapters/EngineConnection.h"
+#include "adapters/EventLoop.h"
+#include "adapters/NowPlaying.h"
+#include "adapters/StreamSupervisor.h"
+#include "platform/StreamPlayer.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace sonavel {
+
+class NotificationCenter;
+
+/// The engine is a process of its own, so that a decoder which crashes or is taken over reaches nothing of the user's.
+/// One stream sounds at a time: the player that was last told to play has the engine; destroying it silences it. A
+/// stream that breaks is opened again, and an engine that is gone is started again, for as long as the player exists
+/// and is not held. Main thread; nothing blocks.
+class EngineProcess : public StreamPlayers {
+public:
+    using Observer = std::function<void(const NowPlaying&)>;
+
+    /// `program` is the engine's file. Nothing is started yet.
+    EngineProcess(EventLoop& eventLoop, NotificationCenter& notificationCenter, std::string program);
+    ~EngineProcess() override;
+
+    /// Starts the engine, so that the first stream need not wait for it. Does nothing when it runs.
+    void start();
+
+    [[nodiscard]] std::unique_ptr<StreamPlayer> playerWithPlayerItem(std::shared_ptr<const PlayerItem> item) override;
+
+    /// Calls `observer` at every change of what becomes of the present stream, about once a second while a broken one
+    /// waits.
+    void setNowPlayingObserver(Observer observer);
+
+    /// A broken stream is opened again at once, and further attempts wait shortly again. For when the machine has
+    /// slept, or the network has come back.
+    void renewAtOnce();
+
+private:
+    class Player;
+
+    void take(Player& player);
+    void release(const Player& player);
+    void setHeld(const Player& player, bool isHeld);
+    void sendSound(const Player& player);
+
+    void open();
+    void follow(StreamSupervisor::Advice advice);
+    void receive(const EngineEvent& event);
+    void receiveState(StreamState state);
+    void breakDown(PlaybackFailure failure);
+    void loseEngine();
+    void post(const char* notification) const;
+
+    void watchTime();
+    void tick();
+    void show();
+    [[nodiscard]] NowPlaying nowPlaying() const;
+    [[nodiscard]] StreamSupervisor::Time now() const;
+
+    EventLoop& eventLoop_;
+    NotificationCenter& notificationCenter_;
+    const std::string program_;
+    const std::chrono::steady_clock::time_point beginning_ = std::chrono::steady_clock::now();
+    Observer observer_;
+    std::unique_ptr<EngineConnection> engine_;
+
+    /// The player that has the engine; null when none has.
+    Player* player_ = nullptr;
+    std::uint64_t load_ = 0;
+    bool isHeld_ = false;
+    StreamSupervisor supervisor_;
+    StreamState state_ = StreamState::Connecting;
+    bool hasSounded_ = false;
+    Text title_;
+    PlaybackFailure failure_ = PlaybackFailure::Unknown;
+
+    std::unique_ptr<EventLoop::Registration> timer_;
+    NowPlaying shown_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,98 @@
+#include "adapters/StreamSupervisor.h"
+
+#include <algorithm>
+
+namespace sonavel {
+
+void StreamSupervisor::opened(Time now)
+{
+    phase_ = Phase::Silent;
+    since_ = now;
+}
+
+void StreamSupervisor::sounds(Time now)
+{
+    if (phase_ == Phase::Sounding)
+        return;
+    phase_ = Phase::Sounding;
+    since_ = now;
+}
+
+void StreamSupervisor::isSilent(Time now)
+{
+    if (phase_ != Phase::Sounding)
+        return;
+    if (now - since_ >= provenAfter)
+        delay_ = shortestDelay;
+    phase_ = Phase::Silent;
+    since_ = now;
+}
+
+void StreamSupervisor::broke(Time now)
+{
+    isSilent(now);
+    if (phase_ == Phase::Broken)
+        return;
+    phase_ = Phase::Broken;
+    nextAttempt_ = now + delay_;
+    delay_ = std::min(2 * delay_, longestDelay);
+}
+
+void StreamSupervisor::held(Time now)
+{
+    if (heldSince_)
+        return;
+    isSilent(now);
+    heldSince_ = now;
+}
+
+StreamSupervisor::Advice StreamSupervisor::continued(Time now)
+{
+    if (!heldSince_)
+        return Advice::Nothing;
+    const bool hasToOpen = phase_ == Phase::Broken || isStale(now);
+    heldSince_.reset();
+    since_ = now;
+    return hasToOpen ? Advice::Open : Advice::Nothing;
+}
+
+StreamSupervisor::Advice StreamSupervisor::renew(Time now)
+{
+    delay_ = shortestDelay;
+    if (phase_ != Phase::Broken)
+        return Advice::Nothing;
+    nextAttempt_ = now;
+    return advice(now);
+}
+
+StreamSupervisor::Advice StreamSupervisor::advice(Time now)
+{
+    const auto due = deadline();
+    if (!due || now < *due)
+        return Advice::Nothing;
+    if (phase_ == Phase::Broken)
+        return Advice::Open;
+    broke(now);
+    return Advice::GiveUp;
+}
+
+std::optional<StreamSupervisor::Time> StreamSupervisor::deadline() const
+{
+    if (heldSince_ || phase_ == Phase::Sounding)
+        return std::nullopt;
+    return phase_ == Phase::Broken ? nextAttempt_ : since_ + silenceLimit;
+}
+
+std::optional<StreamSupervisor::Time> StreamSupervisor::nextAttempt() const
+{
+    if (heldSince_ || phase_ != Phase::Broken)
+        return std::nullopt;
+    return nextAttempt_;
+}
+
+bool StreamSupervisor::isStale(Time now) const
+{
+    return now - *heldSince_ > staleAfter;
+}
+
+} // namespace sonavel

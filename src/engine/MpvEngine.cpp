@@ -1,0 +1,353 @@
+#include "engine/MpvEngine.h"
+
+#include "engine/FailureReason.h"
+#include "engine/StreamTitle.h"
+#include "playback/StreamAddress.h"
+
+#include <mpv/client.h>
+
+#include <array>
+#include <cstdlib>
+#include <string_view>
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+struct Option {
+    const char* name;
+    const char* value;
+};
+
+/// The defaults are made for films from the user's disk. A radio plays sound from strangers.
+constexpr std::array options{
+    Option{"config", "no"},
+    Option{"load-scripts", "no"},
+    Option{"ytdl", "no"},
+    Option{"terminal", "no"},
+    Option{"input-default-bindings", "no"},
+    Option{"vid", "no"},
+    Option{"sid", "no"},
+    Option{"audio-display", "no"},
+    Option{"load-unsafe-playlists", "no"},
+    Option{"autoload-files", "no"},
+    Option{"access-references", "no"},
+    Option{"idle", "yes"},
+    Option{"cache", "yes"},
+    Option{"cache-on-disk", "no"},
+    Option{"demuxer-max-bytes", "3MiB"},
+    Option{"demuxer-max-back-bytes", "0"},
+    Option{"network-timeout", "20"},
+    Option{"tls-verify", "yes"},
+    Option{"metadata-codepage", "utf-8"},
+    Option{"audio-client-name", "Sonavel"},
+    Option{"user-agent", "Sonavel"},
+    // A sound server that speaks the older protocol is the common case, and the quickest to ask.
+    Option{"ao", "pulse,pipewire,"},
+    // A large buffer saves most of the processor time; volume and muting of the output itself are heard at once.
+    Option{"pulse-buffer", "1000"},
+    Option{"replaygain", "no"},
+};
+
+/// Protocols that a stream may lead to, those that carry them included.
+char usableProtocols[] = "http,https,httpproxy,tcp,tls,udp,rtp,rtsp,rtmp,rtmpt,rtmps,mmsh,mmst,crypto,hls";
+
+/// Sets an option that is a map of keys to values, some of which hold commas.
+template <std::size_t count>
+int setMap(mpv_handle* player, const char* name, std::array<std::pair<const char*, const char*>, count> entries)
+{
+    std::array<char*, count> keys{};
+    std::array<mpv_node, count> values{};
+    for (std::size_t index = 0; index < count; ++index) {
+        keys[index] = const_cast<char*>(entries[index].first);
+        values[index].format = MPV_FORMAT_STRING;
+        values[index].u.string = const_cast<char*>(entries[index].second);
+    }
+    mpv_node_list list{static_cast<int>(count), values.data(), keys.data()};
+    mpv_node node{};
+    node.format = MPV_FORMAT_NODE_MAP;
+    node.u.list = &list;
+    return mpv_set_option(player, name, MPV_FORMAT_NODE, &node);
+}
+
+bool setUp(mpv_handle* player)
+{
+    for (const Option& option : options)
+        if (mpv_set_option_string(player, option.name, option.value) < 0)
+            return false;
+    // Opening a broken stream again is the player's business.
+    if (setMap<3>(player, "stream-lavf-o",
+            {{{"protocol_whitelist", usableProtocols}, {"reconnect", "0"}, {"reconnect_streamed", "0"}}})
+        < 0)
+        return false;
+    if (setMap<1>(player, "demuxer-lavf-o", {{{"protocol_whitelist", usableProtocols}}}) < 0)
+        return false;
+    const char* output = std::getenv("SONAVEL_AUDIO_OUTPUT");
+    if (output != nullptr && *output != '\0' && mpv_set_option_string(player, "ao", output) < 0)
+        return false;
+    return mpv_initialize(player) >= 0;
+}
+
+void observe(mpv_handle* player)
+{
+    mpv_request_log_messages(player, "error");
+    mpv_observe_property(player, 0, "core-idle", MPV_FORMAT_NONE);
+    mpv_observe_property(player, 0, "idle-active", MPV_FORMAT_NONE);
+    mpv_observe_property(player, 0, "metadata", MPV_FORMAT_NONE);
+    mpv_hook_add(player, 0, "on_load", 0);
+}
+
+PlaybackFailure failureFromError(int error)
+{
+    switch (error) {
+    case MPV_ERROR_UNKNOWN_FORMAT:
+    case MPV_ERROR_NOTHING_TO_PLAY:
+        return PlaybackFailure::NotAStream;
+    case MPV_ERROR_AO_INIT_FAILED:
+        return PlaybackFailure::NoSoundOutput;
+    default:
+        return PlaybackFailure::Unknown;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<MpvEngine> MpvEngine::create(Tell tell)
+{
+    mpv_handle* player = mpv_create();
+    if (player == nullptr)
+        return nullptr;
+    if (!setUp(player)) {
+        mpv_terminate_destroy(player);
+        return nullptr;
+    }
+    observe(player);
+    return std::unique_ptr<MpvEngine>(new MpvEngine(player, std::move(tell)));
+}
+
+MpvEngine::MpvEngine(mpv_handle* player, Tell tell)
+    : player_(player)
+    , tell_(std::move(tell))
+{
+}
+
+MpvEngine::~MpvEngine()
+{
+    mpv_terminate_destroy(player_);
+}
+
+void MpvEngine::perform(const EngineCommand& command)
+{
+    if (const auto* loading = std::get_if<LoadCommand>(&command)) {
+        load(*loading);
+    } else if (std::holds_alternative<HoldCommand>(command)) {
+        setHeld(true);
+    } else if (std::holds_alternative<ContinueCommand>(command)) {
+        setHeld(false);
+    } else if (std::holds_alternative<StopCommand>(command)) {
+        stop();
+    } else if (const auto* volume = std::get_if<VolumeCommand>(&command)) {
+        volume_ = volume->volume;
+        applySound();
+    } else if (const auto* muting = std::get_if<MutedCommand>(&command)) {
+        isMuted_ = muting->isMuted;
+        applySound();
+    }
+}
+
+void MpvEngine::load(const LoadCommand& command)
+{
+    stop();
+    load_ = command.load;
+    isHeld_ = command.isHeld;
+    const Text address = usableStreamAddress(command.address);
+    if (address.isAbsent()) {
+        failure_ = PlaybackFailure::NotUsable;
+        showFailure();
+        return;
+    }
+    applyHold();
+    const std::string file = address.string();
+    std::array<const char*, 3> arguments{"loadfile", file.c_str(), nullptr};
+    mpv_node result{};
+    if (mpv_command_ret(player_, arguments.data(), &result) < 0) {
+        showFailure();
+        return;
+    }
+    if (result.format == MPV_FORMAT_NODE_MAP)
+        for (int index = 0; index < result.u.list->num; ++index)
+            if (std::string_view(result.u.list->keys[index]) == "playlist_entry_id")
+                firstEntry_ = result.u.list->values[index].u.int64;
+    mpv_free_node_contents(&result);
+}
+
+void MpvEngine::setHeld(bool isHeld)
+{
+    isHeld_ = isHeld;
+    applyHold();
+}
+
+void MpvEngine::stop()
+{
+    load_.reset();
+    failure_.reset();
+    shownState_.reset();
+    shownTitle_ = Text();
+    soundIsSet_ = false;
+    std::array<const char*, 2> arguments{"stop", nullptr};
+    (void)mpv_command(player_, arguments.data());
+}
+
+int MpvEngine::wakeUpDescriptor() const
+{
+    return mpv_get_wakeup_pipe(player_);
+}
+
+void MpvEngine::handleEvents()
+{
+    for (;;) {
+        const mpv_event* event = mpv_wait_event(player_, 0);
+        if (event->event_id == MPV_EVENT_NONE)
+            return;
+        handle(*event);
+    }
+}
+
+void MpvEngine::handle(const mpv_event& event)
+{
+    switch (event.event_id) {
+    case MPV_EVENT_HOOK:
+        checkAddress(event);
+        break;
+    case MPV_EVENT_LOG_MESSAGE:
+        noteLogLine(event);
+        break;
+    case MPV_EVENT_END_FILE:
+        noteEnd(event);
+        break;
+    case MPV_EVENT_AUDIO_RECONFIG:
+        applySound();
+        break;
+    case MPV_EVENT_PROPERTY_CHANGE:
+        showState();
+        showTitle();
+        showFailure();
+        break;
+    default:
+        break;
+    }
+}
+
+/// Whatever a playlist leads to has to be as usable as an address that the user chose.
+void MpvEngine::checkAddress(const mpv_event& event)
+{
+    const auto* hook = static_cast<const mpv_event_hook*>(event.data);
+    if (usableStreamAddress(text("stream-open-filename")).isAbsent()) {
+        failure_ = PlaybackFailure::NotUsable;
+        (void)mpv_set_property_string(player_, "stream-open-filename", "");
+    }
+    (void)mpv_hook_continue(player_, hook->id);
+}
+
+void MpvEngine::noteLogLine(const mpv_event& event)
+{
+    const auto* message = static_cast<const mpv_event_log_message*>(event.data);
+    if (const auto failure = failureFromLogLine(message->text); load_ && failure && !failure_)
+        failure_ = failure;
+}
+
+void MpvEngine::noteEnd(const mpv_event& event)
+{
+    const auto* end = static_cast<const mpv_event_end_file*>(event.data);
+    if (!isPresentEntry(end->playlist_entry_id) || end->reason == MPV_END_FILE_REASON_REDIRECT)
+        return;
+    soundIsSet_ = false;
+    if (end->reason == MPV_END_FILE_REASON_EOF)
+        failure_ = PlaybackFailure::Ended;
+    else if (!failure_ || failureFromError(end->error) == PlaybackFailure::NoSoundOutput)
+        failure_ = failureFromError(end->error);
+}
+
+void MpvEngine::showState()
+{
+    if (!load_)
+        return;
+    StreamState state = StreamState::Connecting;
+    if (!flag("core-idle"))
+        state = StreamState::Playing;
+    else if (shownState_ && *shownState_ != StreamState::Connecting)
+        state = StreamState::Buffering;
+    if (state == shownState_)
+        return;
+    shownState_ = state;
+    tell_(StateEvent{*load_, state});
+}
+
+void MpvEngine::showTitle()
+{
+    if (!load_)
+        return;
+    std::string title = text("metadata/by-key/icy-title");
+    if (title.empty())
+        title = text("metadata/by-key/title");
+    const std::string artist = text("metadata/by-key/artist");
+    if (!title.empty() && !artist.empty() && text("metadata/by-key/icy-title").empty())
+        title.insert(0, artist + " - ");
+    Text shown = streamTitle(title);
+    if (shown == shownTitle_ || (shown.isEmpty() && shownTitle_.isAbsent()))
+        return;
+    shownTitle_ = shown;
+    tell_(TitleEvent{*load_, std::move(shown)});
+}
+
+/// Once libmpv has nothing left to play, the load is over.
+void MpvEngine::showFailure()
+{
+    if (!load_ || !failure_ || !flag("idle-active"))
+        return;
+    const FailedEvent event{*std::exchange(load_, std::nullopt), *failure_};
+    tell_(event);
+}
+
+/// The output that sound servers offer has a volume of its own, which they remember from the last run and which exists
+/// only while it is open. So a load is held until it is set.
+void MpvEngine::applySound()
+{
+    const std::string output = text("current-ao");
+    const bool hasOwnVolume = output == "pulse" || output == "pipewire";
+    double percent = 100.0 * volume_;
+    double full = 100.0;
+    int muted = isMuted_ ? 1 : 0;
+    int unmuted = 0;
+    mpv_set_property(player_, "volume", MPV_FORMAT_DOUBLE, hasOwnVolume ? &full : &percent);
+    mpv_set_property(player_, "mute", MPV_FORMAT_FLAG, hasOwnVolume ? &unmuted : &muted);
+    if (hasOwnVolume) {
+        mpv_set_property(player_, "ao-volume", MPV_FORMAT_DOUBLE, &percent);
+        mpv_set_property(player_, "ao-mute", MPV_FORMAT_FLAG, &muted);
+    }
+    soundIsSet_ = !output.empty();
+    applyHold();
+}
+
+void MpvEngine::applyHold()
+{
+    int pause = isHeld_ || !soundIsSet_ ? 1 : 0;
+    mpv_set_property(player_, "pause", MPV_FORMAT_FLAG, &pause);
+}
+
+bool MpvEngine::flag(const char* property) const
+{
+    int value = 0;
+    return mpv_get_property(player_, property, MPV_FORMAT_FLAG, &value) >= 0 && value != 0;
+}
+
+std::string MpvEngine::text(const char* property) const
+{
+    char* value = mpv_get_property_string(player_, property);
+    std::string result = value == nullptr ? "" : value;
+    mpv_free(value);
+    return result;
+}
+
+} // namespace sonavel

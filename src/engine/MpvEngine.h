@@ -1,0 +1,74 @@
+// Plays one stream at a time with libmpv.
+#pragma once
+
+#include "engine/Protocol.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+struct mpv_event;
+struct mpv_handle;
+
+namespace sonavel {
+
+/// Carries out commands, and tells events of the present load. One thread.
+class MpvEngine {
+public:
+    using Tell = std::function<void(const EngineEvent&)>;
+
+    /// Null when libmpv cannot be set up.
+    [[nodiscard]] static std::unique_ptr<MpvEngine> create(Tell tell);
+
+    MpvEngine(const MpvEngine&) = delete;
+    MpvEngine& operator=(const MpvEngine&) = delete;
+    ~MpvEngine();
+
+    void perform(const EngineCommand& command);
+
+    /// Becomes readable when there is something for `handleEvents` to do.
+    [[nodiscard]] int wakeUpDescriptor() const;
+    void handleEvents();
+
+private:
+    MpvEngine(mpv_handle* player, Tell tell);
+
+    void load(const LoadCommand& command);
+    void setHeld(bool isHeld);
+    void stop();
+
+    void handle(const mpv_event& event);
+    void checkAddress(const mpv_event& event);
+    void noteEnd(const mpv_event& event);
+    void noteLogLine(const mpv_event& event);
+    void showState();
+    void showTitle();
+    void showFailure();
+    void applySound();
+    void applyHold();
+
+    [[nodiscard]] bool isPresentEntry(std::int64_t entry) const { return load_ && entry >= firstEntry_; }
+    [[nodiscard]] bool flag(const char* property) const;
+    [[nodiscard]] std::string text(const char* property) const;
+
+    mpv_handle* player_;
+    Tell tell_;
+
+    float volume_ = 1.0F;
+    bool isMuted_ = false;
+    bool isHeld_ = false;
+
+    /// The present load; nothing after its failure was told, and after a stop.
+    std::optional<std::uint64_t> load_;
+    /// libmpv's number of the first playlist entry of the present load; what belongs to an earlier one comes late.
+    std::int64_t firstEntry_ = 0;
+    /// The sound output is open and has its volume.
+    bool soundIsSet_ = false;
+    std::optional<PlaybackFailure> failure_;
+    std::optional<StreamState> shownState_;
+    Text shownTitle_;
+};
+
+} // namespace sonavel

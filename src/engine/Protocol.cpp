@@ -1,0 +1,286 @@
+#include "engine/Protocol.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+template <class Value> struct Word {
+    std::string_view word;
+    Value value;
+};
+
+constexpr std::array stateWords{
+    Word<StreamState>{"connecting", StreamState::Connecting},
+    Word<StreamState>{"buffering", StreamState::Buffering},
+    Word<StreamState>{"playing", StreamState::Playing},
+};
+
+constexpr std::array failureWords{
+    Word<PlaybackFailure>{"unknown", PlaybackFailure::Unknown},
+    Word<PlaybackFailure>{"no-such-host", PlaybackFailure::NoSuchHost},
+    Word<PlaybackFailure>{"refused", PlaybackFailure::Refused},
+    Word<PlaybackFailure>{"unreachable", PlaybackFailure::Unreachable},
+    Word<PlaybackFailure>{"timed-out", PlaybackFailure::TimedOut},
+    Word<PlaybackFailure>{"certificate", PlaybackFailure::Certificate},
+    Word<PlaybackFailure>{"not-found", PlaybackFailure::NotFound},
+    Word<PlaybackFailure>{"not-allowed", PlaybackFailure::NotAllowed},
+    Word<PlaybackFailure>{"server-error", PlaybackFailure::ServerError},
+    Word<PlaybackFailure>{"not-a-stream", PlaybackFailure::NotAStream},
+    Word<PlaybackFailure>{"not-usable", PlaybackFailure::NotUsable},
+    Word<PlaybackFailure>{"ended", PlaybackFailure::Ended},
+    Word<PlaybackFailure>{"silent", PlaybackFailure::Silent},
+    Word<PlaybackFailure>{"no-sound-output", PlaybackFailure::NoSoundOutput},
+    Word<PlaybackFailure>{"engine-failed", PlaybackFailure::EngineFailed},
+};
+
+constexpr std::array holdWords{Word<bool>{"held", true}, Word<bool>{"playing", false}};
+constexpr std::array flagWords{Word<bool>{"yes", true}, Word<bool>{"no", false}};
+
+template <class Words, class Value> std::string_view wordOf(const Words& words, Value value)
+{
+    return std::find_if(words.begin(), words.end(), [value](const auto& entry) { return entry.value == value; })->word;
+}
+
+template <class Words>
+auto valueOf(const Words& words, std::string_view word) -> std::optional<decltype(words[0].value)>
+{
+    const auto found =
+        std::find_if(words.begin(), words.end(), [word](const auto& entry) { return entry.word == word; });
+    if (found == words.end())
+        return std::nullopt;
+    return found->value;
+}
+
+bool needsEscape(unsigned char byte)
+{
+    return byte < 0x20 || byte == 0x7F || byte == '%';
+}
+
+std::string escaped(std::string_view text)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string result;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (needsEscape(byte))
+            result.append({'%', digits[byte >> 4U], digits[byte & 0xFU]});
+        else
+            result += character;
+    }
+    return result;
+}
+
+/// Nothing when an escape is broken or the result is not valid UTF-8.
+std::optional<Text> unescaped(std::string_view text)
+{
+    std::string result;
+    while (!text.empty()) {
+        if (text.front() != '%') {
+            result += text.front();
+            text.remove_prefix(1);
+            continue;
+        }
+        unsigned byte = 0;
+        const std::string_view digits = text.substr(1, 2);
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
+        if (error != std::errc() || digits.size() != 2 || end != digits.data() + 2)
+            return std::nullopt;
+        result += static_cast<char>(byte);
+        text.remove_prefix(3);
+    }
+    if (!isValidUtf8(result))
+        return std::nullopt;
+    return Text(std::move(result));
+}
+
+/// Cuts the word at the head off, and the blank behind it.
+std::string_view takeWord(std::string_view& line)
+{
+    const std::string_view word = line.substr(0, line.find(' '));
+    line.remove_prefix(std::min(word.size() + 1, line.size()));
+    return word;
+}
+
+template <class Number> std::optional<Number> numberFrom(std::string_view word)
+{
+    Number number{};
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    if (error != std::errc() || end != word.data() + word.size())
+        return std::nullopt;
+    return number;
+}
+
+std::string lineOf(std::initializer_list<std::string_view> words)
+{
+    std::string line;
+    for (const std::string_view word : words)
+        line.append(line.empty() ? "" : " ").append(word);
+    return line + '\n';
+}
+
+std::string volumeText(float volume)
+{
+    std::array<char, 64> digits{};
+    const auto result =
+        std::to_chars(digits.data(), digits.data() + digits.size(), volume, std::chars_format::fixed, 6);
+    return {digits.data(), result.ptr};
+}
+
+struct CommandLine {
+    std::string operator()(const LoadCommand& command) const
+    {
+        return lineOf(
+            {"load", std::to_string(command.load), wordOf(holdWords, command.isHeld), escaped(command.address.view())});
+    }
+    std::string operator()(const HoldCommand&) const { return lineOf({"hold"}); }
+    std::string operator()(const ContinueCommand&) const { return lineOf({"continue"}); }
+    std::string operator()(const StopCommand&) const { return lineOf({"stop"}); }
+    std::string operator()(const VolumeCommand& command) const
+    {
+        return lineOf({"volume", volumeText(command.volume)});
+    }
+    std::string operator()(const MutedCommand& command) const
+    {
+        return lineOf({"muted", wordOf(flagWords, command.isMuted)});
+    }
+};
+
+struct EventLine {
+    std::string operator()(const StateEvent& event) const
+    {
+        return lineOf({"state", std::to_string(event.load), wordOf(stateWords, event.state)});
+    }
+    std::string operator()(const FailedEvent& event) const
+    {
+        return lineOf({"failed", std::to_string(event.load), wordOf(failureWords, event.failure)});
+    }
+    std::string operator()(const TitleEvent& event) const
+    {
+        return lineOf({"title", std::to_string(event.load), escaped(event.title.view())});
+    }
+};
+
+std::optional<EngineCommand> loadFrom(std::string_view arguments)
+{
+    const auto load = numberFrom<std::uint64_t>(takeWord(arguments));
+    const auto isHeld = valueOf(holdWords, takeWord(arguments));
+    const auto address = unescaped(arguments);
+    if (!load || !isHeld || !address)
+        return std::nullopt;
+    return LoadCommand{*load, *isHeld, *address};
+}
+
+std::optional<EngineCommand> volumeFrom(std::string_view arguments)
+{
+    const auto volume = numberFrom<float>(arguments);
+    if (!volume || !(*volume >= 0.0F && *volume <= 1.0F))
+        return std::nullopt;
+    return VolumeCommand{*volume};
+}
+
+std::optional<EngineCommand> mutedFrom(std::string_view arguments)
+{
+    const auto isMuted = valueOf(flagWords, arguments);
+    if (!isMuted)
+        return std::nullopt;
+    return MutedCommand{*isMuted};
+}
+
+template <class Command> std::optional<EngineCommand> bareFrom(std::string_view arguments)
+{
+    if (!arguments.empty())
+        return std::nullopt;
+    return Command{};
+}
+
+std::optional<EngineEvent> stateFrom(std::uint64_t load, std::string_view argument)
+{
+    const auto state = valueOf(stateWords, argument);
+    if (!state)
+        return std::nullopt;
+    return StateEvent{load, *state};
+}
+
+std::optional<EngineEvent> failedFrom(std::uint64_t load, std::string_view argument)
+{
+    const auto failure = valueOf(failureWords, argument);
+    if (!failure)
+        return std::nullopt;
+    return FailedEvent{load, *failure};
+}
+
+std::optional<EngineEvent> titleFrom(std::uint64_t load, std::string_view argument)
+{
+    const auto title = unescaped(argument);
+    if (!title)
+        return std::nullopt;
+    return TitleEvent{load, *title};
+}
+
+} // namespace
+
+std::string lineFromCommand(const EngineCommand& command)
+{
+    return std::visit(CommandLine(), command);
+}
+
+std::string lineFromEvent(const EngineEvent& event)
+{
+    return std::visit(EventLine(), event);
+}
+
+std::optional<EngineCommand> commandFromLine(std::string_view line)
+{
+    constexpr std::array readers{
+        Word{"load", &loadFrom},
+        Word{"hold", &bareFrom<HoldCommand>},
+        Word{"continue", &bareFrom<ContinueCommand>},
+        Word{"stop", &bareFrom<StopCommand>},
+        Word{"volume", &volumeFrom},
+        Word{"muted", &mutedFrom},
+    };
+    const auto reader = valueOf(readers, takeWord(line));
+    return reader ? (*reader)(line) : std::nullopt;
+}
+
+std::optional<EngineEvent> eventFromLine(std::string_view line)
+{
+    constexpr std::array readers{
+        Word{"state", &stateFrom},
+        Word{"failed", &failedFrom},
+        Word{"title", &titleFrom},
+    };
+    const auto reader = valueOf(readers, takeWord(line));
+    const auto load = numberFrom<std::uint64_t>(takeWord(line));
+    return reader && load ? (*reader)(*load, line) : std::nullopt;
+}
+
+void LineReader::append(std::string_view bytes)
+{
+    pending_.append(bytes);
+}
+
+std::optional<std::string> LineReader::nextLine()
+{
+    for (;;) {
+        const std::size_t end = pending_.find('\n');
+        if (end == std::string::npos) {
+            if (pending_.size() > longestLine) {
+                pending_.clear();
+                isDropping_ = true;
+            }
+            return std::nullopt;
+        }
+        std::string line = pending_.substr(0, end);
+        pending_.erase(0, end + 1);
+        if (!std::exchange(isDropping_, false) && line.size() <= longestLine)
+            return line;
+    }
+}
+
+} // namespace sonavel

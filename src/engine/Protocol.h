@@ -1,0 +1,129 @@
+// The line protocol between the player and its engine.
+//
+// Both sides write lines of UTF-8 text, ended by a line feed. A line is a word and its arguments, joined by blanks; the
+// last argument of some runs to the end of the line, with control characters and "%" escaped as %XX. A line that is not
+// one of these, or is too long, is ignored: neither side trusts the other.
+//
+//   player to engine                       engine to player
+//     load ID held|playing ADDRESS           state ID connecting|buffering|playing
+//     hold, continue, stop                   failed ID REASON
+//     volume 0.7                             title ID TEXT
+//     muted yes|no
+//
+// ID is the player's number of a load; what the engine tells carries the number of the load that it speaks of.
+#pragma once
+
+#include "base/Text.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace sonavel {
+
+/// Why a stream does not play.
+enum class PlaybackFailure {
+    Unknown,
+    NoSuchHost,
+    Refused,
+    Unreachable,
+    TimedOut,
+    Certificate,
+    NotFound,
+    NotAllowed,
+    ServerError,
+    NotAStream,
+    NotUsable,
+    Ended,
+    Silent,
+    NoSoundOutput,
+    EngineFailed,
+};
+
+enum class StreamState { Connecting, Buffering, Playing };
+
+struct LoadCommand {
+    std::uint64_t load = 0;
+    bool isHeld = false;
+    Text address;
+
+    friend bool operator==(const LoadCommand&, const LoadCommand&) = default;
+};
+
+struct HoldCommand {
+    friend bool operator==(const HoldCommand&, const HoldCommand&) = default;
+};
+
+struct ContinueCommand {
+    friend bool operator==(const ContinueCommand&, const ContinueCommand&) = default;
+};
+
+struct StopCommand {
+    friend bool operator==(const StopCommand&, const StopCommand&) = default;
+};
+
+struct VolumeCommand {
+    /// 0.0 to 1.0.
+    float volume = 1.0F;
+
+    friend bool operator==(const VolumeCommand&, const VolumeCommand&) = default;
+};
+
+struct MutedCommand {
+    bool isMuted = false;
+
+    friend bool operator==(const MutedCommand&, const MutedCommand&) = default;
+};
+
+using EngineCommand = std::variant<LoadCommand, HoldCommand, ContinueCommand, StopCommand, VolumeCommand, MutedCommand>;
+
+struct StateEvent {
+    std::uint64_t load = 0;
+    StreamState state = StreamState::Connecting;
+
+    friend bool operator==(const StateEvent&, const StateEvent&) = default;
+};
+
+/// The load has come to its end; nothing of it follows.
+struct FailedEvent {
+    std::uint64_t load = 0;
+    PlaybackFailure failure = PlaybackFailure::Unknown;
+
+    friend bool operator==(const FailedEvent&, const FailedEvent&) = default;
+};
+
+struct TitleEvent {
+    std::uint64_t load = 0;
+    /// Empty when the stream has no title (any more).
+    Text title;
+
+    friend bool operator==(const TitleEvent&, const TitleEvent&) = default;
+};
+
+using EngineEvent = std::variant<StateEvent, FailedEvent, TitleEvent>;
+
+/// The line, its line feed included.
+[[nodiscard]] std::string lineFromCommand(const EngineCommand& command);
+[[nodiscard]] std::string lineFromEvent(const EngineEvent& event);
+
+/// Reads a line without its line feed; nothing when it is not one.
+[[nodiscard]] std::optional<EngineCommand> commandFromLine(std::string_view line);
+[[nodiscard]] std::optional<EngineEvent> eventFromLine(std::string_view line);
+
+/// Cuts a stream of bytes into lines, whatever pieces it comes in. A line of more than `longestLine` bytes is dropped.
+class LineReader {
+public:
+    static constexpr std::size_t longestLine = 16 * 1024;
+
+    /// Takes the bytes over; then `nextLine` gives the lines that they end.
+    void append(std::string_view bytes);
+    [[nodiscard]] std::optional<std::string> nextLine();
+
+private:
+    std::string pending_;
+    bool isDropping_ = false;
+};
+
+} // namespace sonavel
