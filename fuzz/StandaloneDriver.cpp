@@ -9,9 +9,9 @@
 #include <csignal>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <random>
 #include <string>
@@ -26,13 +26,10 @@ std::string currentInput; // NOLINT: a signal handler has no other way to reach 
 
 void saveInputAndEnd(int signal)
 {
-    if (std::FILE* file = std::fopen("failed-input", "wb")) {
-        std::fwrite(currentInput.data(), 1, currentInput.size(), file);
-        std::fclose(file);
-        std::fputs("The input is in the file failed-input.\n", stderr);
-    }
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
+    std::ofstream("failed-input", std::ios::binary) << currentInput;
+    std::cerr << "The input is in the file failed-input.\n";
+    (void)std::signal(signal, SIG_DFL);
+    (void)std::raise(signal);
 }
 
 void run(std::string input)
@@ -130,12 +127,12 @@ int main(int argumentCount, char** arguments)
             addSeeds(arguments[index], seeds);
 
     for (const int signal : std::array{SIGABRT, SIGSEGV, SIGFPE, SIGBUS})
-        std::signal(signal, saveInputAndEnd);
+        (void)std::signal(signal, saveInputAndEnd);
     for (const std::string& input : seeds)
         run(input);
     Mutator mutator(seed, seeds);
     for (std::uint64_t count = 0; count < runs; ++count)
         run(mutator.next());
-    std::printf("%zu seeds and %llu mutations of them\n", seeds.size(), static_cast<unsigned long long>(runs));
+    std::cout << seeds.size() << " seeds and " << runs << " mutations of them\n";
     return 0;
 }

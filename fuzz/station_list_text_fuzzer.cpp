@@ -47,7 +47,7 @@ void checkRoundTrip(const StationRecords& records, Heading heading)
 void checkOrder(const Text& left, const Text& right)
 {
     const auto order = compareNames(left.view(), right.view());
-    require((order < 0) == (compareNames(right.view(), left.view()) > 0), "the order has two sides");
+    require(std::is_lt(order) == std::is_gt(compareNames(right.view(), left.view())), "the order has two sides");
 }
 
 void checkSorting(const StationRecords& records)
@@ -57,7 +57,7 @@ void checkSorting(const StationRecords& records)
     list.sortingRadioWithKey("radio");
     StationRecords expected = records;
     std::stable_sort(expected.begin(), expected.end(), [](const auto& left, const auto& right) {
-        return compareNames(left->radio().view(), right->radio().view()) < 0;
+        return std::is_lt(compareNames(left->radio().view(), right->radio().view()));
     });
     require(*list.listRadio == expected, "sorting is stable and by name");
     for (std::size_t index = 1; index < expected.size(); ++index) {

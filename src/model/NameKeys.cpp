@@ -9,8 +9,7 @@ namespace sonavel {
 
 std::string_view takeNumber(std::string_view& name)
 {
-    const auto end = std::find_if_not(name.begin(), name.end(), isDigit);
-    std::string_view digits = name.substr(0, static_cast<std::size_t>(end - name.begin()));
+    std::string_view digits = name.substr(0, name.find_first_not_of("0123456789"));
     name.remove_prefix(digits.size());
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
     return digits;

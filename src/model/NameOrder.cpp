@@ -67,7 +67,7 @@ private:
     {
         std::sort(entries.begin(), entries.end(), [this](const Entry& left, const Entry& right) {
             const auto order = keys_.restAt(left.place, wordsEnd) <=> keys_.restAt(right.place, wordsEnd);
-            return order != 0 ? order < 0 : left.place < right.place;
+            return std::is_neq(order) ? std::is_lt(order) : left.place < right.place;
         });
     }
 
@@ -81,7 +81,7 @@ std::weak_ordering compareNames(std::string_view left, std::string_view right)
     while (!left.empty() && !right.empty()) {
         if (isDigit(left.front()) && isDigit(right.front())) {
             const std::string_view leftNumber = takeNumber(left);
-            if (const auto order = compareNumbers(leftNumber, takeNumber(right)); order != 0)
+            if (const auto order = compareNumbers(leftNumber, takeNumber(right)); std::is_neq(order))
                 return order;
             continue;
         }

@@ -20,7 +20,7 @@ std::string_view valueOf(const KVStationWebRadio& record, Property property)
 bool isSorted(const StationRecords& records, Property property)
 {
     return std::is_sorted(records.begin(), records.end(), [property](const auto& left, const auto& right) {
-        return compareNames(valueOf(*left, property), valueOf(*right, property)) < 0;
+        return std::is_lt(compareNames(valueOf(*left, property), valueOf(*right, property)));
     });
 }
 

@@ -49,7 +49,7 @@ Text StationDatabase::fileRadioDBreadCypted(bool crypted)
 {
     if (!crypted)
         return legacyText(files_.contentsOfFile(legacyPath_));
-    const Text text = databaseText(files_.contentsOfFile(databasePath_));
+    Text text = databaseText(files_.contentsOfFile(databasePath_));
     databaseMayBeReplaced_ = !text.isAbsent();
     return text;
 }

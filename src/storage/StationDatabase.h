@@ -26,6 +26,7 @@ public:
     StationDatabase(Files& files, const StationList& list);
     StationDatabase(const StationDatabase&) = delete;
     StationDatabase& operator=(const StationDatabase&) = delete;
+    ~StationDatabase() = default;
 
     /// Whether the legacy file, or else the database file, is there, readable or not.
     [[nodiscard]] bool fileRadioDBVerify(bool legacy) const;

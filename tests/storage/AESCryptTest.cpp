@@ -10,7 +10,7 @@ namespace {
 /// Computed with `openssl enc -aes-256-cbc -K … -iv 0… -A -base64`, the key in hexadecimal.
 TEST(AESCrypt, TextsAreEncryptedAsTheOpensslCommandDoes)
 {
-    const std::tuple<const char*, const char*, const char*> cases[] = {
+    const std::tuple<const char*, std::string_view, const char*> cases[] = {
         {"", stationDatabasePassphrase, "E0Jiq8RBAVieQ2iwgiU74A=="},
         {"Zürich;http://zh.example\r", stationDatabasePassphrase, "gKaaFXV/o0EwyQxZSBv9iN9KMzaL27YKunvSmPJ1YuI="},
         {"0123456789abcdef", stationDatabasePassphrase, "uHR9NOnIXhqFG/mM1q+O+gzMg4by2Z8gtYHXX5VA1gM="},
