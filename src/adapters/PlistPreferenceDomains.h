@@ -1,0 +1,42 @@
+// Preference domains as property-list files in the user's preferences folder.
+#pragma once
+
+#include "platform/PreferenceDomains.h"
+
+namespace sonavel {
+
+class Files;
+
+/// The domain NAME is the file "Library/Preferences/NAME" under the home directory: read once, when it is first asked
+/// for or set, and written as XML. A file that is there and is no such domain counts as not stored; the first write
+/// that would replace it keeps it as a rescue copy ("NAME.damaged.plist" for "NAME.plist"), and does not take place
+/// when it cannot.
+class PlistPreferenceDomains : public PreferenceDomains {
+public:
+    /// Borrows the files.
+    explicit PlistPreferenceDomains(Files& files);
+
+    [[nodiscard]] std::optional<PreferenceDomain> persistentDomainForName(const Text& name) override;
+    void setPersistentDomainForName(const PreferenceDomain& domain, const Text& name) override;
+    /// What could not be written stays to be written by the next call.
+    void synchronize() override;
+
+private:
+    struct StoredDomain {
+        std::optional<PreferenceDomain> content;
+        /// The file is there and could not be read, and there is no copy of it yet.
+        bool isFileDamaged = false;
+        bool isWriteDue = false;
+    };
+
+    StoredDomain& domainNamed(const Text& name);
+    [[nodiscard]] StoredDomain load(const Text& path) const;
+    void write(const Text& path, StoredDomain& domain);
+    [[nodiscard]] Text folder() const;
+    [[nodiscard]] Text pathOf(std::string_view name) const;
+
+    Files& files_;
+    std::map<std::string, StoredDomain, std::less<>> domains_; // by name
+};
+
+} // namespace sonavel

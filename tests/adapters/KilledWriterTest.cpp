@@ -1,0 +1,99 @@
+// The station database on the real disk, while its writer is killed.
+#include "adapters/PosixFiles.h"
+#include "model/KVStationWebRadio.h"
+#include "model/StationList.h"
+#include "model/StationListText.h"
+#include "storage/StationDatabase.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <random>
+
+namespace sonavel {
+namespace {
+
+std::shared_ptr<StationRecords> stations(const std::string& name, std::uint64_t count)
+{
+    auto records = std::make_shared<StationRecords>();
+    for (std::uint64_t number = 0; number < count; ++number) {
+        const std::string station = name + " " + std::to_string(number);
+        records->push_back(std::make_shared<KVStationWebRadio>(number, station, "http://example.invalid/" + station));
+    }
+    return records;
+}
+
+const std::array lists{stations("a short list", 300), stations("a list that is longer", 900)};
+
+Text listOnDisk(const std::string& home)
+{
+    PosixFiles files(home);
+    return StationDatabase(files, {}).fileRadioDBreadCypted(true);
+}
+
+/// Writes both lists by turns; tells through the pipe once the first is written.
+[[noreturn]] void writeUntilKilled(const std::string& home, int pipe)
+{
+    PosixFiles files(home);
+    StationList list;
+    StationDatabase database(files, list);
+    // Who has not read the database keeps a rescue copy of it.
+    static_cast<void>(database.fileRadioDBreadCypted(true));
+    for (std::size_t turn = 0;; ++turn) {
+        list.listRadio = lists.at(turn % lists.size());
+        database.fileRadioDBupdate();
+        if (turn == 0 && ::write(pipe, "w", 1) != 1)
+            ::_exit(1);
+    }
+}
+
+/// Starts a writer and kills it at some moment `delay` after its first write.
+void killWriterAfter(std::chrono::microseconds delay, const std::string& home)
+{
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(::pipe(pipe.data()), 0);
+    const pid_t writer = ::fork();
+    ASSERT_GE(writer, 0);
+    if (writer == 0)
+        writeUntilKilled(home, pipe[1]);
+    ::close(pipe[1]);
+    char written = 0;
+    EXPECT_EQ(::read(pipe[0], &written, 1), 1);
+    ::close(pipe[0]);
+    ::usleep(static_cast<useconds_t>(delay.count()));
+    ::kill(writer, SIGKILL);
+    ::waitpid(writer, nullptr, 0);
+}
+
+TEST(KilledWriter, TheOldListOrTheNewOneIsThereWholeAndNothingPilesUp)
+{
+    const test::TemporaryFolder home;
+    std::array<Text, 2> texts;
+    std::transform(lists.begin(), lists.end(), texts.begin(),
+        [](const auto& list) { return listTextFromRecords(*list, Heading::None); });
+    std::mt19937 random(20161001);
+    std::uniform_int_distribution<int> microseconds(0, 6'000);
+    for (int round = 0; round < 200; ++round) {
+        killWriterAfter(std::chrono::microseconds(microseconds(random)), home.path());
+        const Text list = listOnDisk(home.path());
+        ASSERT_TRUE(std::find(texts.begin(), texts.end(), list) != texts.end())
+            << "round " << round << ": " << list.view().size() << " bytes";
+    }
+
+    // What the last kill left behind goes with the next write.
+    PosixFiles files(home.path());
+    StationList list;
+    StationDatabase database(files, list);
+    static_cast<void>(database.fileRadioDBreadCypted(true));
+    list.listRadio = lists[0];
+    database.fileRadioDBupdate();
+    EXPECT_EQ(files.namesInFolder(home.path("Library/Preferences")), std::vector<std::string>{"radiolist.rdb"});
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,67 @@
+#include "adapters/SystemClock.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+
+namespace sonavel {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The time zone of this process, until the end of the object.
+class TimeZone {
+public:
+    explicit TimeZone(const char* rule)
+    {
+        ::setenv("TZ", rule, 1);
+        ::tzset();
+    }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+    ~TimeZone()
+    {
+        ::unsetenv("TZ");
+        ::tzset();
+    }
+};
+
+TEST(SystemClock, ADayBeginsAtMidnightOfTheUsersTimeZone)
+{
+    constexpr const char* india = "<+0530>-5:30";
+    constexpr const char* newfoundland = "<-0330>3:30";
+    constexpr const char* centralEurope = "CET-1CEST,M3.5.0,M10.5.0/3";
+    struct Row {
+        const char* zone;
+        const char* lastSecondOfTheDayBefore;
+        std::chrono::year_month_day day;
+    };
+    for (const auto& [zone, lastSecond, day] : {Row{"UTC0", "2016-09-30 23:59:59 +0000", 2016y / 10 / 1},
+             Row{"UTC0", "1969-12-31 23:59:59 +0000", 1970y / 1 / 1},
+             Row{india, "2016-10-01 18:29:59 +0000", 2016y / 10 / 2},
+             Row{newfoundland, "2016-10-02 03:29:59 +0000", 2016y / 10 / 2},
+             // The days on which the clocks change have 23 and 25 hours.
+             Row{centralEurope, "2016-03-26 22:59:59 +0000", 2016y / 3 / 27},
+             Row{centralEurope, "2016-03-27 21:59:59 +0000", 2016y / 3 / 28},
+             Row{centralEurope, "2016-10-29 21:59:59 +0000", 2016y / 10 / 30},
+             Row{centralEurope, "2016-10-30 22:59:59 +0000", 2016y / 10 / 31}}) {
+        const TimeZone timeZone(zone);
+        const SystemClock clock;
+        const Moment before = momentFromInternationalForm(lastSecond).value();
+        const std::chrono::year_month_day dayBefore = std::chrono::sys_days(day) - std::chrono::days(1);
+        EXPECT_EQ(clock.calendarDay(before), dayBefore) << lastSecond;
+        EXPECT_EQ(clock.calendarDay({before.microseconds + 999'999}), dayBefore) << lastSecond;
+        EXPECT_EQ(clock.calendarDay(before.advancedBySeconds(1)), day) << lastSecond;
+    }
+}
+
+TEST(SystemClock, NowIsTheTimeOfTheMachine)
+{
+    const Moment earliest = Moment::fromSeconds(std::time(nullptr) - 1);
+    const Moment now = SystemClock().now();
+    EXPECT_TRUE(earliest <= now && now <= Moment::fromSeconds(std::time(nullptr) + 1));
+}
+
+} // namespace
+} // namespace sonavel
