@@ -132,8 +132,68 @@
         <translation>A file could not be saved: %@</translation>
     </message>
     <message id="SPLASH_WAITING">
-        <source>Waiting for %@ …</source>
-        <translation>Waiting for %@ …</translation>
+        <source>Waiting for %@…</source>
+        <translation>Waiting for %@…</translation>
+    </message>
+    <message id="FAILURE_UNKNOWN">
+        <source>it does not say why</source>
+        <translation>it does not say why</translation>
+    </message>
+    <message id="FAILURE_NO_SUCH_HOST">
+        <source>no such host</source>
+        <translation>no such host</translation>
+    </message>
+    <message id="FAILURE_REFUSED">
+        <source>connection refused</source>
+        <translation>connection refused</translation>
+    </message>
+    <message id="FAILURE_UNREACHABLE">
+        <source>the host cannot be reached</source>
+        <translation>the host cannot be reached</translation>
+    </message>
+    <message id="FAILURE_TIMED_OUT">
+        <source>no answer in time</source>
+        <translation>no answer in time</translation>
+    </message>
+    <message id="FAILURE_CERTIFICATE">
+        <source>the server’s certificate is not trusted</source>
+        <translation>the server’s certificate is not trusted</translation>
+    </message>
+    <message id="FAILURE_NOT_FOUND">
+        <source>no stream at this address</source>
+        <translation>no stream at this address</translation>
+    </message>
+    <message id="FAILURE_NOT_ALLOWED">
+        <source>the server does not allow it</source>
+        <translation>the server does not allow it</translation>
+    </message>
+    <message id="FAILURE_SERVER_ERROR">
+        <source>the server has a fault</source>
+        <translation>the server has a fault</translation>
+    </message>
+    <message id="FAILURE_NOT_A_STREAM">
+        <source>not a stream</source>
+        <translation>not a stream</translation>
+    </message>
+    <message id="FAILURE_NOT_USABLE">
+        <source>not an address that can be played</source>
+        <translation>not an address that can be played</translation>
+    </message>
+    <message id="FAILURE_ENDED">
+        <source>the stream has ended</source>
+        <translation>the stream has ended</translation>
+    </message>
+    <message id="FAILURE_SILENT">
+        <source>the stream fell silent</source>
+        <translation>the stream fell silent</translation>
+    </message>
+    <message id="FAILURE_NO_SOUND_OUTPUT">
+        <source>no sound output</source>
+        <translation>no sound output</translation>
+    </message>
+    <message id="FAILURE_ENGINE_FAILED">
+        <source>the sound engine does not run</source>
+        <translation>the sound engine does not run</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,6 @@
 
 #include "qt/TextConversion.h"
 
-#include <QFile>
 #include <QIconEngine>
 #include <QPainter>
 
@@ -55,14 +54,36 @@ private:
     QColor disabledColor_;
 };
 
+/// All versions of an image, by the screen's scale. Says that they are PNG, because a guess loads a plug-in for every
+/// other format first.
+QIcon readImage(const QString& path)
+{
+    QIcon icon;
+    const std::pair<const char*, qreal> versions[] = {{".png", 1.0}, {"@2x.png", 2.0}, {"@3x.png", 3.0}};
+    for (const auto& [ending, scale] : versions) {
+        QPixmap pixmap(path + QLatin1String(ending), "PNG");
+        if (pixmap.isNull())
+            continue;
+        pixmap.setDevicePixelRatio(scale);
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 } // namespace
 
 QIcon imageNamed(const Text& name, const QColor& color, const QColor& disabledColor)
 {
-    const QString path = QStringLiteral(":/images/") + toQString(name);
-    if (name.isEmpty() || !QFile::exists(path))
+    const QString file = toQString(name);
+    if (!file.endsWith(QStringLiteral(".png")))
         return {};
-    return QIcon(new TintedIconEngine(QIcon(path), color, disabledColor));
+    const QIcon shape = readImage(QStringLiteral(":/images/") + file.chopped(4));
+    return shape.isNull() ? QIcon() : QIcon(new TintedIconEngine(shape, color, disabledColor));
+}
+
+QIcon programIcon()
+{
+    return readImage(QStringLiteral(":/images/sonavel"));
 }
 
 QString wordForImage(const Text& name)

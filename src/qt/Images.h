@@ -13,6 +13,9 @@ namespace sonavel {
 /// screen.
 [[nodiscard]] QIcon imageNamed(const Text& name, const QColor& color, const QColor& disabledColor);
 
+/// The program's own picture.
+[[nodiscard]] QIcon programIcon();
+
 /// What a button says that shows the image: "play.png" is "Play". A null string when the image says nothing.
 [[nodiscard]] QString wordForImage(const Text& name);
 

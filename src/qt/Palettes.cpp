@@ -14,14 +14,15 @@ struct Colors {
     QRgb button;
     QRgb accent;
     QRgb accentText;
-    QRgb faded;
+    QRgb faded; ///< of what is disabled
+    QRgb quiet; ///< of texts that stand back, yet are to be read
     QRgb link;
 };
 
 constexpr Colors lightColors{
-    0xfff3f4f6, 0xff1d2126, 0xffffffff, 0xfffbfbfc, 0xff1f6feb, 0xffffffff, 0xff8b929b, 0xff0b57d0};
+    0xfff3f4f6, 0xff1d2126, 0xffffffff, 0xfffbfbfc, 0xff1f6feb, 0xffffffff, 0xff8b929b, 0xff626b76, 0xff0b57d0};
 constexpr Colors darkColors{
-    0xff23262b, 0xffe8eaed, 0xff1a1c20, 0xff343941, 0xff3b82f6, 0xffffffff, 0xff7d858f, 0xff8ab4f8};
+    0xff23262b, 0xffe8eaed, 0xff1a1c20, 0xff343941, 0xff3b82f6, 0xffffffff, 0xff7d858f, 0xffa0a8b2, 0xff8ab4f8};
 
 QPalette paletteOf(const Colors& colors)
 {
@@ -30,7 +31,7 @@ QPalette paletteOf(const Colors& colors)
         palette.setColor(role, QColor(colors.text));
         palette.setColor(QPalette::Disabled, role, QColor(colors.faded));
     }
-    palette.setColor(QPalette::PlaceholderText, QColor(colors.faded));
+    palette.setColor(QPalette::PlaceholderText, QColor(colors.quiet));
     palette.setColor(QPalette::Base, QColor(colors.base));
     palette.setColor(QPalette::AlternateBase, QColor(colors.window));
     palette.setColor(QPalette::ToolTipBase, QColor(colors.base));

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QStyleOption>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 
 namespace sonavel {
@@ -14,6 +15,19 @@ namespace sonavel {
 namespace {
 
 constexpr int shortestContents = 24; // characters
+constexpr int visibleItems = 16;
+
+/// Rows with room to aim at.
+class AiryItemDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
+    {
+        const int line = option.fontMetrics.height();
+        return {line * shortestContents / 2, line * 3 / 2};
+    }
+};
 
 bool movesThroughItems(const QKeyEvent& event)
 {
@@ -48,6 +62,8 @@ StationComboBox::StationComboBox(QWidget* parent)
     list->setTextElideMode(Qt::ElideRight);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setView(list);
+    setItemDelegate(new AiryItemDelegate(this));
+    setMaxVisibleItems(visibleItems);
 }
 
 /// Left to whatever lies behind the box.

@@ -4,9 +4,12 @@
 #include "UserInput.h"
 #include "qt/ElidedLabel.h"
 #include "qt/OutletConnector.h"
+#include "qt/WindowMemory.h"
 
 #include <QAccessible>
+#include <QFile>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -69,6 +72,28 @@ TEST(MainWindow, AScreenReaderHearsTheTitleAndTheNameOfEveryControl)
     EXPECT_EQ(accessible(window, "buttonPlayPause", QAccessible::Name), "Pause");
     EXPECT_EQ(accessible(window, "sliderVolume", QAccessible::Name), "Volume");
     EXPECT_EQ(accessible(window, "buttonEditRadioList", QAccessible::Name), "Station List…");
+}
+
+TEST(WindowMemory, AWindowComesBackWhereItWasAndRubbishIsForgotten)
+{
+    const QTemporaryDir state;
+    const WindowMemory memory(state.path() + "/missing/folder");
+    QWidget window;
+    window.setObjectName("winAny");
+    memory.restore(window);
+    window.setGeometry(40, 50, 330, 170);
+    memory.keep(window);
+    QWidget again;
+    again.setObjectName("winAny");
+    memory.restore(again);
+    EXPECT_EQ(again.geometry(), window.geometry());
+
+    QFile file(state.path() + "/missing/folder/sonavel/windows.ini");
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("[winAny]\ngeometry=@ByteArray(rubbish)\n");
+    file.close();
+    memory.restore(again);
+    EXPECT_EQ(again.geometry(), window.geometry());
 }
 
 TEST(MainWindow, TheKeyboardGoesThroughTheControlsInReadingOrder)

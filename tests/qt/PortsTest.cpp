@@ -4,7 +4,6 @@
 #include "qt/QtEventLoop.h"
 #include "qt/QtRunLoop.h"
 #include "qt/TerminationSignals.h"
-#include "qt/TranslatedStrings.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -97,13 +96,6 @@ TEST(TerminationSignals, ArriveAsEventsOfTheLoop)
     ::raise(SIGTERM);
     EXPECT_EQ(requests, 0);
     EXPECT_TRUE(handleEventsUntil([&] { return requests == 1; }));
-}
-
-TEST(Strings, UnknownLanguagesReadEnglishAndUnknownKeysThemselves)
-{
-    const TranslatedStrings strings{QLocale(QLocale::Icelandic)};
-    EXPECT_EQ(strings.localizedStringForKey("BUTTON_YES"), Text("Yes"));
-    EXPECT_EQ(strings.localizedStringForKey("NO_SUCH_KEY"), Text("NO_SUCH_KEY"));
 }
 
 } // namespace

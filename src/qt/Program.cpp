@@ -1,0 +1,200 @@
+#include "qt/Program.h"
+
+#include "adapters/CurlHttpClient.h"
+#include "adapters/EngineProcess.h"
+#include "adapters/PlistPreferenceDomains.h"
+#include "adapters/PosixFiles.h"
+#include "adapters/SystemClock.h"
+#include "app/Actions.h"
+#include "app/Gate.h"
+#include "app/Ports.h"
+#include "app/WinSonavelController.h"
+#include "platform/NotificationCenter.h"
+#include "qt/AwaitingHttpClient.h"
+#include "qt/FirstPaint.h"
+#include "qt/MainWindow.h"
+#include "qt/NowPlayingText.h"
+#include "qt/OutletConnector.h"
+#include "qt/QtAlerts.h"
+#include "qt/QtEventLoop.h"
+#include "qt/QtProcess.h"
+#include "qt/QtRunLoop.h"
+#include "qt/SaveFailure.h"
+#include "qt/SplashScreen.h"
+#include "qt/TerminationSignals.h"
+#include "qt/TextConversion.h"
+#include "qt/TranslatedStrings.h"
+#include "qt/WindowMemory.h"
+#include "ui/Outlets.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QUrl>
+
+namespace sonavel {
+
+namespace {
+
+constexpr const char* buildNumber = "1";
+
+/// Beside the player in the build, in the folder for such programs when installed.
+std::string enginePath()
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    const QString beside = folder + QStringLiteral("/sonavel-engine");
+    return (QFile::exists(beside) ? beside : folder + QStringLiteral("/../libexec/sonavel-engine")).toStdString();
+}
+
+QLocale localeOf(const Settings& settings)
+{
+    return settings.language.isEmpty() ? QLocale::system() : QLocale(settings.language);
+}
+
+} // namespace
+
+/// In the order of their dependence.
+struct Program::Parts {
+    Parts(const Settings& settings, std::unique_ptr<QTemporaryDir> temporaryHome)
+        : throwAwayHome(std::move(temporaryHome))
+        , strings(localeOf(settings))
+        , files(toText(settings.home))
+        , preferenceDomains(files)
+        , curl(SONAVEL_VERSION)
+        , httpClient(curl)
+        , engine(eventLoop, notificationCenter, enginePath())
+        , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, outlets)
+        , actions(controller, outlets, gate)
+        , windowMemory(settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
+    {
+    }
+
+    Ports ports()
+    {
+        return {alerts, files, httpClient, engine, preferenceDomains, clock, strings, notificationCenter, runLoop,
+            process, {"Sonavel", SONAVEL_VERSION, buildNumber}};
+    }
+
+    std::unique_ptr<QTemporaryDir> throwAwayHome; ///< null when the home directory is the user's
+
+    QtProcess process;
+    QtAlerts alerts;
+    QtRunLoop runLoop;
+    QtEventLoop eventLoop;
+    TranslatedStrings strings;
+    SystemClock clock;
+    NotificationCenter notificationCenter;
+    PosixFiles files;
+    PlistPreferenceDomains preferenceDomains;
+    CurlHttpClient curl;
+    AwaitingHttpClient httpClient;
+    EngineProcess engine;
+
+    Outlets outlets;
+    WinSonavelController controller;
+    Gate gate;
+    Actions actions;
+
+    WindowMemory windowMemory;
+    std::unique_ptr<SplashScreen> splashScreen;
+    std::unique_ptr<MainWindow> mainWindow;
+    QString earlyNotice; ///< to be told once there is a window
+    bool isInitialized = false;
+    std::unique_ptr<TerminationSignals> terminationSignals;
+};
+
+std::unique_ptr<Program> Program::create(const Settings& given, QString& whyNot)
+{
+    Settings settings = given;
+    std::unique_ptr<QTemporaryDir> throwAwayHome;
+    if (settings.home.isEmpty()) {
+        throwAwayHome = std::make_unique<QTemporaryDir>();
+        if (!throwAwayHome->isValid()) {
+            whyNot = throwAwayHome->errorString();
+            return nullptr;
+        }
+        settings.home = throwAwayHome->path();
+    }
+    if (settings.dataServer.isEmpty() || settings.probe.isEmpty()) {
+        whyNot = QStringLiteral("give --data-server and --probe");
+        return nullptr;
+    }
+    auto parts = std::make_unique<Parts>(settings, std::move(throwAwayHome));
+    return std::unique_ptr<Program>(new Program(std::move(parts)));
+}
+
+Program::Program(std::unique_ptr<Parts> parts)
+    : parts_(std::move(parts))
+{
+    parts_->terminationSignals = std::make_unique<TerminationSignals>([this] { endAsTheSessionDoes(); });
+    parts_->httpClient.setSlowRequestObserver(
+        [this](const HttpRequest& request) { showWaiting(QUrl(toQString(request.address)).host()); });
+    parts_->files.setWriteFailureObserver([this](const Text& path, const Text& why) { tellSaveFailure(path, why); });
+    parts_->process.beforeExit([this] { leaveWindows(); });
+}
+
+Program::~Program() = default;
+
+void Program::start(std::function<void()> whenVisible)
+{
+    parts_->controller.init();
+    parts_->isInitialized = true;
+    buildMainWindow();
+    afterFirstPaint(*parts_->mainWindow, [this, whenVisible = std::move(whenVisible)] {
+        parts_->engine.start();
+        whenVisible();
+    });
+    parts_->splashScreen.reset();
+    parts_->controller.awakeFromNib();
+}
+
+void Program::buildMainWindow()
+{
+    parts_->mainWindow = std::make_unique<MainWindow>();
+    MainWindow& window = *parts_->mainWindow;
+    connectMainWindow(parts_->outlets, window);
+    parts_->windowMemory.restore(window);
+    parts_->engine.setNowPlayingObserver([&window](const NowPlaying& nowPlaying) {
+        const bool sounds = nowPlaying.state == NowPlaying::State::Playing;
+        window.showNowPlaying(
+            nowPlayingText(nowPlaying), sounds ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded);
+    });
+    if (!parts_->earlyNotice.isEmpty())
+        window.showNotice(parts_->earlyNotice);
+}
+
+/// Only before there is a window; the main window stays painted by itself.
+void Program::showWaiting(const QString& host)
+{
+    if (parts_->mainWindow)
+        return;
+    if (!parts_->splashScreen)
+        parts_->splashScreen = std::make_unique<SplashScreen>();
+    parts_->splashScreen->showWaitingFor(qtTrId("SPLASH_WAITING").replace(QStringLiteral("%@"), host));
+}
+
+void Program::tellSaveFailure(const Text& path, const Text& why)
+{
+    if (parts_->mainWindow)
+        parts_->mainWindow->showNotice(saveFailureText(path, why));
+    else
+        parts_->earlyNotice = saveFailureText(path, why);
+}
+
+/// As Quit does, without its question. Preferences that are not loaded yet must not be stored.
+void Program::endAsTheSessionDoes()
+{
+    if (parts_->isInitialized)
+        parts_->controller.preferences.updatePreference();
+    parts_->process.exit(0);
+}
+
+void Program::leaveWindows()
+{
+    if (parts_->mainWindow)
+        parts_->windowMemory.keep(*parts_->mainWindow);
+    if (parts_->throwAwayHome)
+        parts_->throwAwayHome->remove();
+}
+
+} // namespace sonavel

@@ -1,0 +1,39 @@
+// The player, put together: the core, its ports, and the windows.
+#pragma once
+
+#include "base/Text.h"
+#include "qt/Settings.h"
+
+#include <functional>
+#include <memory>
+
+namespace sonavel {
+
+/// How it is started: make it after the application object, then `start`, then run the application's loop. It is never
+/// taken apart: the program ends through its process.
+class Program {
+public:
+    /// Stores nothing and asks nobody, except that it may start a data server of its own. Nothing, and a reason in one
+    /// line, when that or the throw-away home cannot be had.
+    [[nodiscard]] static std::unique_ptr<Program> create(const Settings& settings, QString& whyNot);
+    ~Program();
+
+    /// Both phases of the start-up, with the building of the main window between them. The main window is on the screen
+    /// when the loop has turned; the engine is started after that, and `whenVisible` is called. Does not return without
+    /// a network.
+    void start(std::function<void()> whenVisible);
+
+private:
+    struct Parts;
+    explicit Program(std::unique_ptr<Parts> parts);
+
+    void buildMainWindow();
+    void showWaiting(const QString& host);
+    void tellSaveFailure(const Text& path, const Text& why);
+    void endAsTheSessionDoes();
+    void leaveWindows();
+
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace sonavel

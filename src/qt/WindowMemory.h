@@ -1,0 +1,28 @@
+// Where the windows were the last time.
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace sonavel {
+
+/// Keeps sizes and positions of windows between runs, in `sonavel/windows.ini` of a folder for the state of programs.
+/// What cannot be read or written is forgotten.
+class WindowMemory {
+public:
+    explicit WindowMemory(const QString& stateFolder);
+
+    /// The user's folder for such things: $XDG_STATE_HOME, or ~/.local/state.
+    [[nodiscard]] static QString usersStateFolder();
+
+    /// Puts a window that is not shown yet where it was, if that is still on a screen. Windows go by their object
+    /// names.
+    void restore(QWidget& window) const;
+    void keep(const QWidget& window) const;
+
+private:
+    QString file_;
+};
+
+} // namespace sonavel

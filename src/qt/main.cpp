@@ -1,0 +1,83 @@
+// The player.
+#include "qt/DesktopAppearance.h"
+#include "qt/HouseStyle.h"
+#include "qt/Images.h"
+#include "qt/Program.h"
+#include "qt/WindowMemory.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+int print(const sonavel::EndAtOnce& end)
+{
+    std::fprintf(end.status == 0 ? stdout : stderr, "%s\n", qUtf8Printable(end.text));
+    return end.status;
+}
+
+QStringList withoutName(int argumentCount, char** arguments)
+{
+    QStringList list;
+    for (int index = 1; index < argumentCount; ++index)
+        list << QString::fromLocal8Bit(arguments[index]);
+    return list;
+}
+
+void setUpNames(QApplication& application)
+{
+    application.setApplicationName(QStringLiteral("sonavel"));
+    application.setApplicationDisplayName(QStringLiteral("Sonavel"));
+    application.setDesktopFileName(QStringLiteral("sonavel"));
+    application.setWindowIcon(sonavel::programIcon());
+    application.setQuitOnLastWindowClosed(false);
+}
+
+/// Whether the desktop brings neither a style nor colours of its own.
+bool isPlain(const sonavel::HouseStyle& style)
+{
+    return style.baseStyle()->name() == QStringLiteral("fusion") && QApplication::palette() == style.standardPalette();
+}
+
+/// The program's own colours are made for one style; a desktop that has its own keeps them. Answers with what
+/// follows the desktop from then on, if anything does.
+std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::Settings& settings)
+{
+    auto* style = new sonavel::HouseStyle(settings.appearance ? QStringLiteral("fusion") : QString());
+    QApplication::setStyle(style);
+    if (settings.appearance)
+        QApplication::setPalette(sonavel::paletteFor(*settings.appearance));
+    if (settings.appearance || !isPlain(*style))
+        return nullptr;
+    auto appearance = std::make_unique<sonavel::DesktopAppearance>(
+        settings.isDemo ? QString() : sonavel::WindowMemory::usersStateFolder());
+    appearance->applyRemembered();
+    return appearance;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    const sonavel::SettingsOrEnd outcome = sonavel::settingsFrom(
+        withoutName(argumentCount, arguments), sonavel::readEnvironment(), sonavel::readConfiguration());
+    if (const auto* end = std::get_if<sonavel::EndAtOnce>(&outcome))
+        return print(*end);
+    const auto& settings = std::get<sonavel::Settings>(outcome);
+
+    int ownArguments = 1; // the options are the program's own, not Qt's
+    QApplication application(ownArguments, arguments);
+    setUpNames(application);
+    const auto desktop = setUpLooks(settings);
+
+    QString whyNot;
+    const auto program = sonavel::Program::create(settings, whyNot);
+    if (!program)
+        return print({1, QStringLiteral("sonavel: ") + whyNot});
+    program->start([&desktop] {
+        if (desktop)
+            desktop->follow();
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,78 @@
+// What the windows say of streams, files and names from outside.
+#include "adapters/NowPlaying.h"
+#include "qt/NowPlayingText.h"
+#include "qt/SaveFailure.h"
+#include "qt/TextConversion.h"
+#include "qt/TranslatedStrings.h"
+
+#include <gtest/gtest.h>
+
+namespace sonavel {
+namespace {
+
+TEST(NowPlayingLine, SaysWhatTheListenerWantsToKnow)
+{
+    using State = NowPlaying::State;
+    using Failure = PlaybackFailure;
+    using std::chrono::seconds;
+    const struct {
+        NowPlaying nowPlaying;
+        const char* line;
+    } cases[] = {
+        {{}, "Not playing"},
+        {{State::Connecting, {}, {}, {}, false}, "Connecting…"},
+        {{State::Buffering, "Song", {}, {}, true}, "Buffering…"},
+        {{State::Playing, {}, {}, {}, true}, "Playing"},
+        {{State::Playing, "", {}, {}, true}, "Playing"},
+        {{State::Playing, "Ann & Bob – <i>%li</i>\nLive", {}, {}, true}, "Ann & Bob – <i>%li</i> Live"},
+        {{State::Held, "Song", {}, {}, true}, "Song"},
+        {{State::Held, {}, {}, {}, true}, "Paused"},
+        {{State::Reconnecting, "Song", Failure::Ended, seconds(8), true}, "Reconnecting in 8 s"},
+        {{State::Reconnecting, {}, Failure::NoSuchHost, seconds(1), false}, "Cannot be played: no such host"},
+    };
+    for (const auto& [nowPlaying, line] : cases)
+        EXPECT_EQ(nowPlayingText(nowPlaying).toStdString(), line);
+}
+
+TEST(NowPlayingLine, EveryFailureHasWords)
+{
+    for (int failure = 0; failure <= static_cast<int>(PlaybackFailure::EngineFailed); ++failure) {
+        NowPlaying broken;
+        broken.state = NowPlaying::State::Reconnecting;
+        broken.failure = static_cast<PlaybackFailure>(failure);
+        EXPECT_FALSE(nowPlayingText(broken).contains("FAILURE_")) << failure;
+    }
+}
+
+TEST(SaveFailures, NameWhatIsNotSavedAndWhy)
+{
+    const Text why("No space left on device");
+    const std::pair<const char*, const char*> cases[] = {
+        {"/home/u/Library/Preferences/radiolist.rdb", "The station list could not be saved: No space left on device"},
+        {"/home/u/Library/Preferences/Any.plist", "The preferences could not be saved: No space left on device"},
+        {"/home/u/Library", "A file could not be saved: No space left on device"},
+    };
+    for (const auto& [path, line] : cases)
+        EXPECT_EQ(saveFailureText(path, why).toStdString(), line);
+}
+
+TEST(Conversion, NothingFromOutsideBecomesMarkupOrAShortcut)
+{
+    EXPECT_EQ(asPlainToolTip("<img src=x> & Co"), "<qt>&lt;img src=x&gt; &amp; Co</qt>");
+    EXPECT_EQ(asPlainToolTip({}), "");
+    EXPECT_EQ(withoutMnemonics("R&B"), "R&&B");
+    EXPECT_EQ(onOneLine(QStringLiteral("a\nb\r\u2028c")), "a b  c");
+    EXPECT_EQ(toQString(Text("\xff"
+                             "ok")),
+        QStringLiteral("\uFFFDok"));
+}
+
+TEST(Strings, UnknownLanguagesReadEnglishAndUnknownKeysThemselves)
+{
+    const TranslatedStrings strings{QLocale(QLocale::Icelandic)};
+    EXPECT_EQ(strings.localizedStringForKey("BUTTON_YES"), Text("Yes"));
+    EXPECT_EQ(strings.localizedStringForKey("NO_SUCH_KEY"), Text("NO_SUCH_KEY"));
+}
+
+} // namespace
+} // namespace sonavel
