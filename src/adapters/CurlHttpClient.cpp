@@ -60,10 +60,11 @@ std::string hostsWithoutProxy()
     const char* exempt = std::getenv("no_proxy");
     if (exempt == nullptr)
         exempt = std::getenv("NO_PROXY");
-    const std::string own = "localhost,127.0.0.1,::1";
-    if (exempt == nullptr || *exempt == '\0')
-        return own;
-    return exempt == std::string_view("*") ? exempt : exempt + ("," + own);
+    const std::string_view others = exempt == nullptr ? "" : exempt;
+    if (others == "*")
+        return exempt;
+    std::string hosts = "localhost,127.0.0.1,::1,";
+    return hosts.append(others);
 }
 
 template <class Value> void set(const Handle& handle, CURLoption option, Value value)
@@ -108,7 +109,7 @@ Headers headersOf(const HttpRequest& request)
 {
     Headers headers;
     for (const auto& [name, value] : request.headers)
-        appendHeader(headers, name + ": " + value);
+        appendHeader(headers, std::string(name).append(": ").append(value));
     if (request.cachePolicy == HttpRequest::CachePolicy::ReloadIgnoringLocalCache)
         appendHeader(headers, "Cache-Control: no-cache");
     return headers;

@@ -28,7 +28,7 @@ PosixFiles::PosixFiles(const Text& homeDirectory, std::unique_ptr<FileCalls> cal
     : calls_(std::move(calls))
     , homeDirectory_(withoutTrailingSlashes(homeDirectory.view()))
 {
-    std::signal(SIGXFSZ, SIG_IGN);
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 }
 
 bool PosixFiles::fileExists(const Text& path) const
@@ -96,7 +96,8 @@ std::error_code PosixFiles::followLinks(std::string& path) const
         if (size < 0)
             return errno == EINVAL || errno == ENOENT ? std::error_code() : lastError();
         const std::string target(buffer.data(), static_cast<std::size_t>(size));
-        path = target.starts_with('/') ? target : path.substr(0, path.rfind('/') + 1) + target;
+        path.resize(target.starts_with('/') ? 0 : path.rfind('/') + 1);
+        path.append(target);
     }
     return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }

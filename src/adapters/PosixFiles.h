@@ -43,7 +43,7 @@ private:
     [[nodiscard]] std::error_code copyAs(const std::string& path, const std::string& copy);
     [[nodiscard]] std::error_code makeFolders(const std::string& path);
     void synchronizeFolderOf(const std::string& path);
-    bool tell(std::error_code failure, const Text& path) const;
+    [[nodiscard]] bool tell(std::error_code failure, const Text& path) const;
 
     std::unique_ptr<FileCalls> calls_;
     Text homeDirectory_;

@@ -15,7 +15,7 @@ namespace sonavel {
 namespace {
 
 struct Release {
-    void operator()(void* memory) const { std::free(memory); }
+    void operator()(void* memory) const { std::free(memory); } // NOLINT(cppcoreguidelines-no-malloc): the library's
 };
 struct NodeRelease {
     void operator()(plist_t node) const { plist_free(node); }
@@ -60,8 +60,8 @@ Text realText(plist_t node)
     double value = 0;
     plist_get_real_val(node, &value);
     std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
-    return std::string_view(digits.begin(), end);
+    const char* const end = std::to_chars(digits.begin(), digits.end(), value).ptr;
+    return std::string_view(digits.data(), end);
 }
 
 Text flagText(plist_t node)

@@ -1,0 +1,42 @@
+// Threads for connections, made when they are needed.
+#pragma once
+
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace sonavel {
+
+/// Runs each task on a thread of its own as long as there are fewer than `most` threads; further ones wait for a thread
+/// that has become free. A listener of a stream keeps his thread for hours.
+class ConnectionThreads {
+public:
+    explicit ConnectionThreads(std::size_t most)
+        : most_(most)
+    {
+    }
+    ConnectionThreads(const ConnectionThreads&) = delete;
+    ConnectionThreads& operator=(const ConnectionThreads&) = delete;
+    ~ConnectionThreads() { finish(); }
+
+    void add(std::function<void()> task);
+    /// Waits until every task has been run. Nothing may be added any more.
+    void finish();
+
+private:
+    void work();
+
+    const std::size_t most_;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<std::function<void()>> tasks_;
+    std::vector<std::thread> threads_;
+    std::size_t idle_ = 0;
+    bool isFinishing_ = false;
+};
+
+} // namespace sonavel

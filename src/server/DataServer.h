@@ -1,0 +1,59 @@
+// The maker's data server: publishes station lists and versions, and streams the demo stations.
+#pragma once
+
+#include "base/Text.h"
+
+#include <memory>
+#include <string>
+
+namespace sonavel {
+
+struct DataServerSettings {
+    enum class Content {
+        /// A list of well-known public stations.
+        Starter,
+        /// Three stations that the server streams itself.
+        Demo,
+    };
+
+    Content content = Content::Starter;
+    /// The folder whose files are published; empty for the built-in answers alone.
+    std::string folder;
+    std::string address = "127.0.0.1";
+    /// 0 takes a free one.
+    int port = 0;
+    /// What the built-in version answer tells: the short version and the build.
+    std::string version;
+    std::string build;
+    /// How many seconds of a demo stream are sent at once; the rest follows at the speed at which it is played.
+    double burstSeconds = 4.0;
+};
+
+/// Serves on threads of its own from `create` until it is destroyed, which ends running streams and takes no longer
+/// than a slow request.
+///
+/// `GET /` answers with a small page. `GET /app_data_files/testget.php?file=NAME` and `POST
+/// /app_data_files/testpost.php` with the form field `file=NAME` answer with what is published under that name, status
+/// 404 without. The built-in names are "20161001000000_lr.rdb", the encrypted station list, and "sonavel.ini", the
+/// version.
+class DataServer {
+public:
+    /// Null when it cannot listen there; then `whyNot` is one sentence for the user.
+    [[nodiscard]] static std::unique_ptr<DataServer> create(const DataServerSettings& settings, std::string& whyNot);
+
+    DataServer(const DataServer&) = delete;
+    DataServer& operator=(const DataServer&) = delete;
+    ~DataServer();
+
+    /// Such as "http://127.0.0.1:8080/".
+    [[nodiscard]] Text baseAddress() const;
+
+private:
+    struct Implementation;
+
+    explicit DataServer(std::unique_ptr<Implementation> implementation);
+
+    std::unique_ptr<Implementation> implementation_;
+};
+
+} // namespace sonavel

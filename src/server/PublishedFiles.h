@@ -1,0 +1,31 @@
+// What the data server publishes: the files of a folder, and built-in answers where it has none.
+#pragma once
+
+#include "base/Text.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace sonavel {
+
+/// Safe to ask from several threads.
+class PublishedFiles {
+public:
+    /// `folder` may be empty: then there are the built-in answers alone.
+    explicit PublishedFiles(std::string folder);
+
+    /// Answers for `name` where the folder has no such file. Before the first request.
+    void addBuiltIn(const std::string& name, std::string content);
+
+    /// The content published under a name. Only a plain name of a regular file in the folder itself is looked for:
+    /// nothing with a "/", "\" or control character, hidden, of more than 255 bytes, behind a link, or above 64 MiB.
+    [[nodiscard]] std::optional<std::string> contentOf(const std::string& name) const;
+
+private:
+    std::string folder_;
+    std::map<std::string, std::string, std::less<>> builtIn_;
+};
+
+} // namespace sonavel
