@@ -25,6 +25,7 @@
 #include "qt/TextConversion.h"
 #include "qt/TranslatedStrings.h"
 #include "qt/WindowMemory.h"
+#include "server/DataServer.h"
 #include "ui/Outlets.h"
 
 #include <QCoreApplication>
@@ -51,12 +52,22 @@ QLocale localeOf(const Settings& settings)
     return settings.language.isEmpty() ? QLocale::system() : QLocale(settings.language);
 }
 
+DataServerSettings serverSettings(const Settings& settings)
+{
+    DataServerSettings server;
+    server.content = settings.isDemo ? DataServerSettings::Content::Demo : DataServerSettings::Content::Starter;
+    server.version = SONAVEL_VERSION;
+    server.build = buildNumber;
+    return server;
+}
+
 } // namespace
 
 /// In the order of their dependence.
 struct Program::Parts {
-    Parts(const Settings& settings, std::unique_ptr<QTemporaryDir> temporaryHome)
+    Parts(const Settings& settings, std::unique_ptr<QTemporaryDir> temporaryHome, std::unique_ptr<DataServer> server)
         : throwAwayHome(std::move(temporaryHome))
+        , dataServer(std::move(server))
         , strings(localeOf(settings))
         , files(toText(settings.home))
         , preferenceDomains(files)
@@ -76,6 +87,7 @@ struct Program::Parts {
     }
 
     std::unique_ptr<QTemporaryDir> throwAwayHome; ///< null when the home directory is the user's
+    std::unique_ptr<DataServer> dataServer; ///< null when others are asked
 
     QtProcess process;
     QtAlerts alerts;
@@ -115,11 +127,21 @@ std::unique_ptr<Program> Program::create(const Settings& given, QString& whyNot)
         }
         settings.home = throwAwayHome->path();
     }
+    std::unique_ptr<DataServer> dataServer;
     if (settings.dataServer.isEmpty() || settings.probe.isEmpty()) {
-        whyNot = QStringLiteral("give --data-server and --probe");
-        return nullptr;
+        std::string reason;
+        dataServer = DataServer::create(serverSettings(settings), reason);
+        if (!dataServer) {
+            whyNot = QString::fromStdString(reason);
+            return nullptr;
+        }
+        const QString address = toQString(dataServer->baseAddress());
+        for (QString* unset : {&settings.dataServer, &settings.probe}) {
+            if (unset->isEmpty())
+                *unset = address;
+        }
     }
-    auto parts = std::make_unique<Parts>(settings, std::move(throwAwayHome));
+    auto parts = std::make_unique<Parts>(settings, std::move(throwAwayHome), std::move(dataServer));
     return std::unique_ptr<Program>(new Program(std::move(parts)));
 }
 
