@@ -26,7 +26,16 @@ inline double medianOf(std::vector<double> values)
     return *middle;
 }
 
-/// Reports the median times of both in milliseconds, and their ratio. The benchmark has to use manual time.
+/// Reports the median times of a piece of work and its reference in milliseconds, and their ratio.
+inline void reportRatio(
+    benchmark::State& state, const std::vector<double>& referenceTimes, const std::vector<double>& workTimes)
+{
+    state.counters["median_ms"] = medianOf(workTimes) * 1000;
+    state.counters["reference_ms"] = medianOf(referenceTimes) * 1000;
+    state.counters["ratio"] = medianOf(workTimes) / medianOf(referenceTimes);
+}
+
+/// Measures and reports both. The benchmark has to use manual time.
 void measureAgainst(benchmark::State& state, auto&& reference, auto&& work)
 {
     std::vector<double> referenceTimes;
@@ -36,9 +45,7 @@ void measureAgainst(benchmark::State& state, auto&& reference, auto&& work)
         workTimes.push_back(secondsOf(work));
         state.SetIterationTime(workTimes.back());
     }
-    state.counters["median_ms"] = medianOf(workTimes) * 1000;
-    state.counters["reference_ms"] = medianOf(referenceTimes) * 1000;
-    state.counters["ratio"] = medianOf(workTimes) / medianOf(referenceTimes);
+    reportRatio(state, referenceTimes, workTimes);
 }
 
 } // namespace sonavel

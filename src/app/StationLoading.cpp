@@ -39,7 +39,7 @@ Text StationLoading::legacyListText()
 {
     if (!stationDatabase_.fileRadioDBVerify(true))
         return {};
-    const Text text = stationDatabase_.fileRadioDBreadCypted(false);
+    Text text = stationDatabase_.fileRadioDBreadCypted(false);
     if (text.isAbsent())
         stationDatabase_.setAsideLegacyFile();
     return text;

@@ -11,53 +11,57 @@ namespace {
 
 /// What all downloaded stations of one name come to.
 struct Update {
-    /// The first of them: this one is appended when no stored station has the name.
-    const KVStationWebRadio* station;
-    /// The address of the last of them, which remains.
-    Text link;
-    /// Whether they do not all have the same address, so that one after another changes it.
+    /// The first of them: this one is appended when no stored station has the
+    /// name.
+    const KVStationWebRadio* first;
+    /// The last of them, whose address remains.
+    const KVStationWebRadio* last;
+    /// Whether they do not all have the same address, so that one after another
+    /// changes it.
     bool linkVaries = false;
     bool isStored = false;
 };
 
-/// The updates in the order in which their names first occur, found by name.
 struct Updates {
-    std::vector<Update> inOrder;
-    /// The keys lie in the downloaded stations.
-    std::unordered_map<std::string_view, std::size_t> positions;
+    /// The names lie in the downloaded stations.
+    std::unordered_map<std::string_view, Update> byName;
+    /// In the order in which their names first occur.
+    std::vector<const Update*> inOrder;
 };
 
 Updates updatesFrom(const StationRecords& downloaded)
 {
     Updates updates;
+    updates.byName.reserve(downloaded.size());
     updates.inOrder.reserve(downloaded.size());
-    updates.positions.reserve(downloaded.size());
     for (const auto& station : downloaded) {
-        const auto [found, isNew] = updates.positions.try_emplace(station->radio().view(), updates.inOrder.size());
-        if (isNew) {
-            updates.inOrder.push_back({station.get(), station->link()});
-            continue;
-        }
-        Update& update = updates.inOrder[found->second];
-        update.linkVaries = update.linkVaries || update.link != station->link();
-        update.link = station->link();
+        const auto [found, isNew] =
+            updates.byName.try_emplace(station->radio().view(), Update{station.get(), station.get()});
+        Update& update = found->second;
+        if (isNew)
+            updates.inOrder.push_back(&update);
+        update.linkVaries = update.linkVaries || update.last->link() != station->link();
+        update.last = station.get();
     }
     return updates;
 }
 
-/// Gives the stored stations their new addresses and marks the updates that met one.
+/// Gives the stored stations their new addresses and marks the updates that met
+/// one.
 bool updateStored(StationRecords& stored, Updates& updates)
 {
     bool changed = false;
     for (const auto& station : stored) {
-        const auto found = updates.positions.find(station->radio().view());
-        if (found == updates.positions.end())
+        const auto found = updates.byName.find(station->radio().view());
+        if (found == updates.byName.end())
             continue;
-        Update& update = updates.inOrder[found->second];
+        Update& update = found->second;
         update.isStored = true;
-        changed = changed || update.linkVaries || station->link() != update.link;
-        if (station->link() != update.link)
-            station->setLink(update.link);
+        changed = changed || update.linkVaries;
+        if (station->link() == update.last->link())
+            continue;
+        station->setLink(update.last->link());
+        changed = true;
     }
     return changed;
 }
@@ -65,11 +69,11 @@ bool updateStored(StationRecords& stored, Updates& updates)
 bool appendNew(StationRecords& stored, const Updates& updates)
 {
     bool changed = false;
-    for (const Update& update : updates.inOrder) {
-        if (update.isStored)
+    for (const Update* update : updates.inOrder) {
+        if (update->isStored)
             continue;
-        auto station = std::make_shared<KVStationWebRadio>(*update.station);
-        station->setLink(update.link);
+        auto station = std::make_shared<KVStationWebRadio>(*update->first);
+        station->setLink(update->last->link());
         stored.push_back(std::move(station));
         changed = true;
     }

@@ -12,13 +12,14 @@
 #include "storage/Passphrase.h"
 #include "storage/StationDatabase.h"
 
+#include <string_view>
 #include <utility>
 
 namespace sonavel {
 
 namespace {
 
-constexpr char listResource[] = "app_data_files/testget.php?file=20161001000000_lr.rdb";
+constexpr std::string_view listResource = "app_data_files/testget.php?file=20161001000000_lr.rdb";
 
 } // namespace
 
@@ -60,7 +61,7 @@ void StationRefresh::chekNewRadioOnLine()
 Text StationRefresh::downloadedListText() const
 {
     HttpRequest request;
-    request.address = percentEscaped(dataServer_.string() + listResource);
+    request.address = percentEscaped(dataServer_.string().append(listResource));
     auto body = httpClient_.sendSynchronousRequest(request);
     if (!body || !isValidUtf8(*body))
         return {};

@@ -108,7 +108,7 @@ void Player::sliderVolume()
     applyVolume();
 }
 
-void Player::applyVolume()
+void Player::applyVolume() const
 {
     if (mediaPlayer)
         mediaPlayer->setVolume(sliderValue);

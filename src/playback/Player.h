@@ -47,7 +47,7 @@ public:
     /// Applies `isMute` to the player, the Mute button and the slider; the volume stays.
     void mute();
     /// Gives the player the volume `sliderValue`.
-    void applyVolume();
+    void applyVolume() const;
 
     // What the controls do.
     void buttonPlayPause();

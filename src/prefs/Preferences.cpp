@@ -3,13 +3,14 @@
 #include "prefs/PreferenceTexts.h"
 #include "ui/Window.h"
 
+#include <string_view>
 #include <utility>
 
 namespace sonavel {
 
 namespace {
 
-constexpr char domainName[] = "Mertzan-Software.Sonavel.plist";
+constexpr std::string_view domainName = "Mertzan-Software.Sonavel.plist";
 
 } // namespace
 

@@ -37,7 +37,7 @@ public:
     }
 
     /// The user asked to close it. The window stays until the program hides it.
-    void closeRequestedByUser() { action.send(); }
+    void closeRequestedByUser() const { action.send(); }
 
     Action action;
 };
