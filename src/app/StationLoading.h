@@ -15,6 +15,7 @@ public:
     StationLoading(StationList& stationList, StationDatabase& stationDatabase, StationRefresh& stationRefresh);
     StationLoading(const StationLoading&) = delete;
     StationLoading& operator=(const StationLoading&) = delete;
+    ~StationLoading() = default;
 
     /// Makes the list, from the legacy plain file where there is one, which then moves into the database, else from
     /// the database; sorts it; and refreshes it from the server when it is empty, and then when a refresh is due.

@@ -24,6 +24,7 @@ public:
     WinSonavelController(const Ports& ports, const Configuration& configuration, Outlets& outlets);
     WinSonavelController(const WinSonavelController&) = delete;
     WinSonavelController& operator=(const WinSonavelController&) = delete;
+    ~WinSonavelController() = default;
 
     /// The first phase, before any outlet is connected: looks for a network, loads the preferences and the station
     /// list. Blocks while it asks servers. Without a network it says so and ends the process with status 0, with

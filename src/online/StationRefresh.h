@@ -20,6 +20,7 @@ public:
         Preferences& preferences, StationList& stationList, StationDatabase& stationDatabase);
     StationRefresh(const StationRefresh&) = delete;
     StationRefresh& operator=(const StationRefresh&) = delete;
+    ~StationRefresh() = default;
 
     /// Whether the server's list is newer than the last refresh.
     [[nodiscard]] bool isDue() const;

@@ -20,6 +20,7 @@ public:
     Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, Outlets& outlets);
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
+    ~Player() = default;
 
     bool isPlay = false;
     bool isStop = true;

@@ -19,6 +19,7 @@ public:
         const LocalizedStrings& localizedStrings, Outlets& outlets);
     StationSelection(const StationSelection&) = delete;
     StationSelection& operator=(const StationSelection&) = delete;
+    ~StationSelection() = default;
 
     /// Fills both pop-ups from the list and selects the placeholder; they, the volume slider and the Mute button are
     /// enabled when there are stations. What is playing goes on.

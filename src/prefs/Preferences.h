@@ -15,6 +15,7 @@ public:
     Preferences(PreferenceDomains& domains, Bundle bundle, const Window& winWebRadioListEdit);
     Preferences(const Preferences&) = delete;
     Preferences& operator=(const Preferences&) = delete;
+    ~Preferences() = default;
 
     /// Sets the fields to what they are before the first run.
     void setStartValues();
