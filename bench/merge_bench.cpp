@@ -5,6 +5,8 @@
 #include "model/StationListText.h"
 #include "online/StationMerge.h"
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <numeric>
 #include <random>
@@ -22,8 +24,9 @@ struct Lists {
 
 std::string line(std::size_t number, const char* path)
 {
-    return "Radio Example " + std::to_string(number) + ";http://stream" + std::to_string(number % 90)
-        + ".example.org:8000/" + path + std::to_string(number) + "\r";
+    std::string text = "Radio Example ";
+    text += std::to_string(number) + ";http://stream" + std::to_string(number % 90) + ".example.org:8000/" + path;
+    return text + std::to_string(number) + "\r";
 }
 
 /// The stored stations come in the order of their numbers, the downloaded ones in none.
@@ -41,8 +44,7 @@ Lists makeLists(std::size_t count)
     return {recordsFromListText(stored), recordsFromListText(downloaded)};
 }
 
-/// Pushes everything else out of the processor's own caches. Half of the stations would fit into them partly, and all
-/// of them would not, which would be measured instead of the merge.
+/// Pushes everything else out of the processor's own caches, so that no list is there from having been made.
 void sweepCaches()
 {
     static std::vector<char> memory(std::size_t{64} << 20U);
@@ -51,8 +53,10 @@ void sweepCaches()
     benchmark::DoNotOptimize(memory.data());
 }
 
+/// Begins with the heap of a fresh process, whatever was measured before.
 double secondsOfMerge(std::size_t count)
 {
+    malloc_trim(0);
     Lists lists = makeLists(count);
     sweepCaches();
     return secondsOf([&] { return mergeStations(lists.stored, lists.downloaded); });
