@@ -38,6 +38,8 @@ std::optional<std::string> AwaitingHttpClient::sendSynchronousRequest(const Http
     patience.start(slow);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     worker.join();
+    if (!patience.isActive() && slowRequestEnded_)
+        slowRequestEnded_();
     return answer;
 }
 

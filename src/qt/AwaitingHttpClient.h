@@ -17,13 +17,19 @@ public:
     /// `client` does the work; it must bear being called on another thread, one request at a time.
     explicit AwaitingHttpClient(HttpClient& client);
 
-    void setSlowRequestObserver(SlowRequestObserver observer) { slowRequestObserver_ = std::move(observer); }
+    /// `ended` is called when a request that was told of has its answer, or has failed.
+    void setSlowRequestObserver(SlowRequestObserver observer, std::function<void()> ended = {})
+    {
+        slowRequestObserver_ = std::move(observer);
+        slowRequestEnded_ = std::move(ended);
+    }
 
     std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) override;
 
 private:
     HttpClient& client_;
     SlowRequestObserver slowRequestObserver_;
+    std::function<void()> slowRequestEnded_;
 };
 
 } // namespace sonavel

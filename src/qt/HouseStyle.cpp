@@ -14,6 +14,7 @@ int HouseStyle::styleHint(
 {
     switch (hint) {
     case SH_ComboBox_Popup:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     case SH_Slider_AbsoluteSetButtons:
         return Qt::LeftButton;

@@ -14,9 +14,6 @@ constexpr int paledByStyles = 140; // percent; styles lighten the colour of a bu
 PrimaryButton::PrimaryButton(QWidget* parent)
     : QPushButton(parent)
 {
-    QFont bold = font();
-    bold.setBold(true);
-    setFont(bold);
     takeHighlightColors();
 }
 

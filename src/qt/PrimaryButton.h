@@ -5,7 +5,7 @@
 
 namespace sonavel {
 
-/// Stands out in the palette's highlight colour and in bold, and keeps its width whichever of its words it shows.
+/// Stands out in the palette's highlight colour, and keeps its width whichever of its words it shows.
 class PrimaryButton : public QPushButton {
 public:
     explicit PrimaryButton(QWidget* parent = nullptr);

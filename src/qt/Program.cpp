@@ -150,7 +150,8 @@ Program::Program(std::unique_ptr<Parts> parts)
 {
     parts_->terminationSignals = std::make_unique<TerminationSignals>([this] { endAsTheSessionDoes(); });
     parts_->httpClient.setSlowRequestObserver(
-        [this](const HttpRequest& request) { showWaiting(QUrl(toQString(request.address)).host()); });
+        [this](const HttpRequest& request) { showWaiting(QUrl(toQString(request.address)).host()); },
+        [this] { parts_->splashScreen.reset(); });
     parts_->files.setWriteFailureObserver([this](const Text& path, const Text& why) { tellSaveFailure(path, why); });
     parts_->process.beforeExit([this] { leaveWindows(); });
 }
@@ -166,7 +167,6 @@ void Program::start(std::function<void()> whenVisible)
         parts_->engine.start();
         whenVisible();
     });
-    parts_->splashScreen.reset();
     parts_->controller.awakeFromNib();
 }
 

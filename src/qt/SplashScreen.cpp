@@ -1,10 +1,10 @@
 #include "qt/SplashScreen.h"
 
 #include "qt/ElidedLabel.h"
+#include "qt/Images.h"
 
 #include <QApplication>
 #include <QGridLayout>
-#include <QIcon>
 #include <QScreen>
 
 namespace sonavel {
@@ -21,7 +21,7 @@ SplashScreen::SplashScreen()
     , line_(new ElidedLabel(this))
 {
     auto* picture = new QLabel(this);
-    picture->setPixmap(QApplication::windowIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
+    picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
     auto* name = new QLabel(QApplication::applicationDisplayName(), this);
     name->setTextFormat(Qt::PlainText);
     QFont large = font();

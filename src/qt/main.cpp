@@ -30,7 +30,6 @@ void setUpNames(QApplication& application)
     application.setApplicationName(QStringLiteral("sonavel"));
     application.setApplicationDisplayName(QStringLiteral("Sonavel"));
     application.setDesktopFileName(QStringLiteral("sonavel"));
-    application.setWindowIcon(sonavel::programIcon());
     application.setQuitOnLastWindowClosed(false);
 }
 
@@ -76,6 +75,8 @@ int main(int argumentCount, char** arguments)
     if (!program)
         return print({1, QStringLiteral("sonavel: ") + whyNot});
     program->start([&desktop] {
+        // A window manager takes the picture at any time; the window is there sooner without it.
+        QApplication::setWindowIcon(sonavel::programIcon());
         if (desktop)
             desktop->follow();
     });

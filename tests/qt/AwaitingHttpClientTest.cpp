@@ -57,18 +57,22 @@ TEST(AwaitingHttp, TheWindowPaintsWhileAServerIsSlow)
     ASSERT_TRUE(handleEventsUntil([&] { return button.paintings > 0; }));
 
     int paintingsBefore = 0;
+    bool hasEnded = false;
     QTimer::singleShot(0, [&] {
         paintingsBefore = button.paintings;
         button.update();
     });
-    client.setSlowRequestObserver([&](const HttpRequest& request) {
-        EXPECT_EQ(request.address, Text("http://slow/"));
-        EXPECT_GT(button.paintings, paintingsBefore);
-        server.release();
-    });
+    client.setSlowRequestObserver(
+        [&](const HttpRequest& request) {
+            EXPECT_EQ(request.address, Text("http://slow/"));
+            EXPECT_GT(button.paintings, paintingsBefore);
+            server.release();
+        },
+        [&] { hasEnded = true; });
     HttpRequest request;
     request.address = "http://slow/";
     EXPECT_EQ(client.sendSynchronousRequest(request), "answer of http://slow/");
+    EXPECT_TRUE(hasEnded);
 }
 
 TEST(AwaitingHttp, AQuickAnswerTellsNobodyOfWaiting)
@@ -76,7 +80,7 @@ TEST(AwaitingHttp, AQuickAnswerTellsNobodyOfWaiting)
     HeldHttpClient server;
     server.release();
     AwaitingHttpClient client(server);
-    client.setSlowRequestObserver([](const HttpRequest&) { FAIL(); });
+    client.setSlowRequestObserver([](const HttpRequest&) { FAIL(); }, [] { FAIL(); });
     for (int request = 0; request < 20; ++request)
         EXPECT_TRUE(client.sendSynchronousRequest({}).has_value());
 }
