@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""From a key on Mute, the volume, Pause and Stop to what is heard at the null sink's monitor, while a steady tone plays."""
+"""From a key on the volume, Pause, Stop and Mute to what is heard at the null sink's monitor, while a steady tone plays."""
 
 import array
 import http.server
@@ -76,7 +76,7 @@ def until(recording, condition):
 
 
 def main(runs):
-    figures = {"Mute": [], "volume": [], "Pause": [], "Stop": []}
+    figures = {"volume": [], "Pause": [], "Stop": [], "Mute": []}
     with setting.desktop.Desktop(accessibility=False) as desk, setting.data_server() as server, \
             tone_server() as address, setting.home(10, address, isAutoPlayOpenApp="YES") as folder:
         desk.start(setting.player_command(folder, server))
@@ -93,6 +93,11 @@ def main(runs):
 
             desk.keys("Tab")
             for _ in range(runs):
+                figures["volume"].append(heard(desk, recording, "Home", silent))
+                desk.keys("End")
+                until(recording, sounding)
+            desk.keys("Tab")
+            for _ in range(runs):
                 figures["Pause"].append(heard(desk, recording, "space", silent))
                 desk.keys("space")
                 until(recording, sounding)
@@ -105,11 +110,6 @@ def main(runs):
             for _ in range(runs):
                 figures["Mute"].append(heard(desk, recording, "space", silent))
                 desk.keys("space")
-                until(recording, sounding)
-            desk.keys("Tab")
-            for _ in range(runs):
-                figures["volume"].append(heard(desk, recording, "Home", silent))
-                desk.keys("End")
                 until(recording, sounding)
     for name, values in figures.items():
         setting.verdict(f"{name} pressed to heard", setting.row(name, values, "ms"), 150, "ms")

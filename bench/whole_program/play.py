@@ -37,7 +37,7 @@ def player(desk, server, folder):
     process = subprocess.Popen(setting.player_command(folder, server), env=desk.environment, stderr=subprocess.DEVNULL)
     try:
         desk.activate("Sonavel")
-        desk.keys("Tab")
+        desk.keys("Tab", "Tab")
         time.sleep(1)
         with desk.record() as recording:
             key = subprocess.Popen(["xdotool", "-"], env=desk.environment, stdin=subprocess.PIPE, text=True)
