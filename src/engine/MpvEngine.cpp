@@ -37,7 +37,8 @@ constexpr std::array options{
     Option{"cache", "yes"},
     Option{"cache-on-disk", "no"},
     Option{"demuxer-max-bytes", "3MiB"},
-    Option{"demuxer-max-back-bytes", "0"},
+    // With nothing kept, the titles that lie between the music are lost.
+    Option{"demuxer-max-back-bytes", "256KiB"},
     Option{"network-timeout", "20"},
     Option{"tls-verify", "yes"},
     Option{"metadata-codepage", "utf-8"},

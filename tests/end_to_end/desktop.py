@@ -134,7 +134,8 @@ class Desktop:
 
     def _start_bus(self):
         bus = self.start(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE, text=True)
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        with bus.stdout:
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
         if self.accessibility:
             self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
             self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
