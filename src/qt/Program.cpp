@@ -56,8 +56,8 @@ DataServerSettings serverSettings(const Settings& settings)
 {
     DataServerSettings server;
     server.content = settings.isDemo ? DataServerSettings::Content::Demo : DataServerSettings::Content::Starter;
-    server.version = SONAVEL_VERSION;
-    server.build = buildNumber;
+    server.version = std::string(SONAVEL_VERSION);
+    server.build = std::string(buildNumber);
     return server;
 }
 
