@@ -24,6 +24,11 @@ struct Option {
 constexpr std::array options{
     Option{"config", "no"},
     Option{"load-scripts", "no"},
+    // Scripts of its own for a screen that is never there; to run them it reads every font of the system.
+    Option{"osc", "no"},
+    Option{"load-osd-console", "no"},
+    Option{"load-stats-overlay", "no"},
+    Option{"load-auto-profiles", "no"},
     Option{"ytdl", "no"},
     Option{"terminal", "no"},
     Option{"input-default-bindings", "no"},
