@@ -39,12 +39,5 @@ TEST_F(QuitTest, WhatTheUserDoesWhileTheQuestionIsOpenWaitsForTheAnswer)
     EXPECT_EQ(controller.player.playRadioLink, Text("http://a/"));
 }
 
-TEST_F(QuitTest, TheNoticeOfTheUpdateCheckCloses)
-{
-    outlets.winUpdateNotification.setIsVisible(true);
-    controller.buttonClose();
-    EXPECT_FALSE(outlets.winUpdateNotification.isVisible());
-}
-
 } // namespace
 } // namespace sonavel

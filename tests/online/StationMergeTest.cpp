@@ -81,15 +81,5 @@ TEST(StationMerge, ResultsInWhatTheNestedScanResultsIn)
     }
 }
 
-TEST(StationMerge, TheDownloadedRecordsStayTheirOwn)
-{
-    StationRecords stored;
-    const StationRecords downloaded{std::make_shared<KVStationWebRadio>(3, "A", "a")};
-    EXPECT_TRUE(mergeStations(stored, downloaded));
-    ASSERT_EQ(stored.size(), 1U);
-    EXPECT_NE(stored.front(), downloaded.front());
-    EXPECT_TRUE(stored.front()->radio().isSameObject(downloaded.front()->radio()));
-}
-
 } // namespace
 } // namespace sonavel

@@ -126,14 +126,5 @@ TEST_F(PlayerTest, AStreamThatFailsChangesNothing)
     EXPECT_FALSE(streams.last().isGone);
 }
 
-TEST_F(PlayerTest, WithoutAPlayerOnlyFieldsAndControlsChange)
-{
-    player.pause();
-    expectPaused();
-    player.resume();
-    expectPlaying();
-    EXPECT_TRUE(streams.players.empty());
-}
-
 } // namespace
 } // namespace sonavel
