@@ -7,7 +7,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr int paledByStyles = 140; // percent; styles lighten the colour of a button, and its words must stay readable
+constexpr int paledByStyles = 160; // percent; styles lighten the colour of a button, and its words must stay readable
 
 } // namespace
 
