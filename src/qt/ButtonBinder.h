@@ -7,7 +7,8 @@
 
 namespace sonavel {
 
-/// Renders the button's state into the widget and reports what the user does there. Lives as long as the widget.
+/// Renders the button's state into the widget and reports what the user does there. Lives as long as the widget;
+/// the button must live longer.
 class ButtonBinder : public QObject {
 public:
     /// Takes over what the widget says; its property "imageName" names the image that it shows at first.

@@ -7,7 +7,8 @@
 
 namespace sonavel {
 
-/// Renders the text into the label, as plain text. Lives as long as the widget.
+/// Renders the text into the label, as plain text. Lives as long as the widget;
+/// the field must live longer.
 class LabelBinder : public QObject {
 public:
     LabelBinder(TextField& field, QLabel& widget);

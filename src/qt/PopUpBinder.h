@@ -6,7 +6,8 @@
 
 namespace sonavel {
 
-/// Renders the pop-up's state into the box and reports what the user chooses there. Lives as long as the widget.
+/// Renders the pop-up's state into the box and reports what the user chooses there. Lives as long as the widget;
+/// the pop-up must live longer.
 class PopUpBinder : public QObject {
 public:
     PopUpBinder(PopUpButton& popUp, StationComboBox& widget);

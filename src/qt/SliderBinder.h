@@ -8,7 +8,8 @@
 namespace sonavel {
 
 /// Renders the slider's state into the widget and reports how the user moves it. The widget counts whole steps from 0;
-/// its layout stands for the range 0.0 to 1.0. Lives as long as the widget.
+/// its layout stands for the range 0.0 to 1.0. Lives as long as the widget;
+/// the slider must live longer.
 class SliderBinder : public QObject {
 public:
     SliderBinder(Slider& slider, QSlider& widget);

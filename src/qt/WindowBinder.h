@@ -8,7 +8,8 @@
 namespace sonavel {
 
 /// Renders title and visibility; the user's wish to close the window is reported, and the window stays until the
-/// program hides it. Lives as long as the widget.
+/// program hides it. Lives as long as the widget;
+/// the window must live longer.
 class WindowBinder : public QObject {
 public:
     WindowBinder(Window& window, QWidget& widget);

@@ -110,9 +110,9 @@ TEST_F(PopUpBinding, AHundredThousandStationsAreSharedAndNotMeasuredOneByOne)
 
 TEST(SliderBinding, RenderingKeepsTheProgramsOwnValue)
 {
+    Slider slider;
     QSlider widget;
     widget.setMaximum(100);
-    Slider slider;
     new SliderBinder(slider, widget);
     EXPECT_EQ(slider.state().maxValue, 1.0);
     int moves = 0;
@@ -125,9 +125,9 @@ TEST(SliderBinding, RenderingKeepsTheProgramsOwnValue)
 
 TEST(SliderBinding, AMoveOfTheUserIsStoredBeforeTheActionHearsOfIt)
 {
+    Slider slider;
     QSlider widget;
     widget.setMaximum(100);
-    Slider slider;
     new SliderBinder(slider, widget);
     slider.setDoubleValue(0.5);
     float heard = -1.0F;
@@ -138,9 +138,9 @@ TEST(SliderBinding, AMoveOfTheUserIsStoredBeforeTheActionHearsOfIt)
 
 TEST(ButtonBinding, LooksFollowTheProgramWithoutAClick)
 {
+    Button button;
     QPushButton widget("Play");
     widget.setProperty("imageName", "play.png");
-    Button button;
     new ButtonBinder(button, widget);
     EXPECT_EQ(button.state().image, Text("play.png"));
     EXPECT_FALSE(widget.icon().isNull());
@@ -159,8 +159,8 @@ TEST(ButtonBinding, LooksFollowTheProgramWithoutAClick)
 
 TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)
 {
-    QPushButton widget("Mute");
     Button button;
+    QPushButton widget("Mute");
     new ButtonBinder(button, widget);
     const QColor usual = widget.palette().color(QPalette::ButtonText);
     button.setTitleColor(TitleColor::Red);
@@ -173,8 +173,8 @@ TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)
 
 TEST(ButtonBinding, ACheckBoxReportsTheUsersTicksAlone)
 {
-    QCheckBox widget;
     Button button;
+    QCheckBox widget;
     new ButtonBinder(button, widget);
     std::vector<bool> heard;
     button.action.set([&] { heard.push_back(button.state().isOn); });
@@ -186,8 +186,8 @@ TEST(ButtonBinding, ACheckBoxReportsTheUsersTicksAlone)
 
 TEST(WindowBinding, ClosingAsksTheProgramAndHidesNothing)
 {
-    QWidget widget;
     Window window;
+    QWidget widget;
     new WindowBinder(window, widget);
     int requests = 0;
     window.action.set([&] { ++requests; });
@@ -201,11 +201,11 @@ TEST(WindowBinding, ClosingAsksTheProgramAndHidesNothing)
 
 TEST(Connecting, AMissingOrMistakenWidgetIsNamed)
 {
+    Outlets outlets;
     QWidget window;
     window.setObjectName("winSonavel");
     auto* impostor = new QComboBox(&window);
     impostor->setObjectName("popupbuttonRadioList");
-    Outlets outlets;
     try {
         connectMainWindow(outlets, window);
         FAIL() << "connected a plain combo box";
