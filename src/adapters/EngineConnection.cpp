@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <csignal>
 #include <optional>
+#include <thread>
 #include <utility>
 
 extern char** environ;
@@ -27,13 +28,16 @@ std::optional<pid_t> spawn(const std::string& program, int engineSocket)
     posix_spawn_file_actions_adddup2(&files, engineSocket, STDIN_FILENO);
     posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addclosefrom_np(&files, STDERR_FILENO + 1);
-    // The player may have blocked or redirected signals for itself.
+    // The player may have blocked or ignored signals for itself.
     posix_spawnattr_t attributes{};
     posix_spawnattr_init(&attributes);
     sigset_t signals{};
     sigemptyset(&signals);
     posix_spawnattr_setsigmask(&attributes, &signals);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    sigset_t defaults{};
+    sigfillset(&defaults);
+    posix_spawnattr_setsigdefault(&attributes, &defaults);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
 
     std::string name = program;
     std::array<char*, 2> arguments{name.data(), nullptr};
@@ -79,7 +83,8 @@ EngineConnection::~EngineConnection()
     reading_.reset();
     close(socket_);
     kill(process_, SIGKILL);
-    while (waitpid(process_, nullptr, 0) < 0 && errno == EINTR) { }
+    // Even a killed process may take its time, when a driver holds it.
+    std::thread([process = process_] { waitpid(process, nullptr, 0); }).detach();
 }
 
 void EngineConnection::send(const EngineCommand& command)

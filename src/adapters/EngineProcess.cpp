@@ -3,9 +3,18 @@
 #include "platform/NotificationCenter.h"
 
 #include <algorithm>
+#include <chrono>
+#include <ctime>
 #include <utility>
 
 namespace sonavel {
+
+namespace {
+
+/// How long an engine that was busy with another stream may take to begin with a new one.
+constexpr std::chrono::milliseconds longestChange{700};
+
+} // namespace
 
 /// Has the engine from its first `play` until it is destroyed or another player plays.
 class EngineProcess::Player : public StreamPlayer {
@@ -45,10 +54,13 @@ private:
     bool isMuted_ = false;
 };
 
-EngineProcess::EngineProcess(EventLoop& eventLoop, NotificationCenter& notificationCenter, std::string program)
+EngineProcess::EngineProcess(EventLoop& eventLoop, NotificationCenter& notificationCenter, std::string program,
+    const StreamSupervisor::Limits& limits)
     : eventLoop_(eventLoop)
     , notificationCenter_(notificationCenter)
     , program_(std::move(program))
+    , limits_(limits)
+    , supervisor_(limits)
 {
 }
 
@@ -58,6 +70,7 @@ void EngineProcess::start()
 {
     if (engine_)
         return;
+    engineIsReady_ = false;
     engine_ = EngineConnection::create(
         eventLoop_, program_, [this](const EngineEvent& event) { receive(event); }, [this] { loseEngine(); });
 }
@@ -85,7 +98,7 @@ void EngineProcess::take(Player& player)
     player_ = &player;
     isHeld_ = false;
     hasSounded_ = false;
-    supervisor_ = StreamSupervisor();
+    supervisor_ = StreamSupervisor(limits_);
     open();
 }
 
@@ -95,6 +108,7 @@ void EngineProcess::release(const Player& player)
         return;
     player_ = nullptr;
     timer_.reset();
+    patience_.reset();
     if (engine_)
         engine_->send(StopCommand{});
     show();
@@ -110,6 +124,9 @@ void EngineProcess::setHeld(const Player& player, bool isHeld)
     const auto advice = isHeld ? StreamSupervisor::Advice::Nothing : supervisor_.continued(now());
     if (advice == StreamSupervisor::Advice::Nothing && engine_)
         engine_->send(isHeld ? EngineCommand(HoldCommand{}) : EngineCommand(ContinueCommand{}));
+    // A hold so short that the engine has nothing to tell of it.
+    if (!isHeld && state_ == StreamState::Playing)
+        supervisor_.sounds(now());
     follow(advice);
 }
 
@@ -134,7 +151,9 @@ void EngineProcess::open()
         return;
     }
     sendSound(*player_);
-    engine_->send(LoadCommand{load_, isHeld_, player_->address()});
+    engine_->send(LoadCommand{load_, player_->address()});
+    if (engineIsReady_)
+        patience_ = eventLoop_.after(longestChange, [this] { replaceStuckEngine(); });
     watchTime();
     show();
 }
@@ -148,7 +167,7 @@ void EngineProcess::follow(StreamSupervisor::Advice advice)
     if (advice == StreamSupervisor::Advice::GiveUp) {
         // A new process also gets rid of an attempt that hangs where it cannot be ended.
         engine_.reset();
-        breakDown(PlaybackFailure::Silent);
+        breakDown(state_ == StreamState::Connecting ? PlaybackFailure::TimedOut : PlaybackFailure::Silent);
         start();
         return;
     }
@@ -161,6 +180,8 @@ void EngineProcess::receive(const EngineEvent& event)
     const std::uint64_t load = std::visit([](const auto& about) { return about.load; }, event);
     if (!player_ || load != load_)
         return;
+    engineIsReady_ = true;
+    patience_.reset();
     if (const auto* state = std::get_if<StateEvent>(&event)) {
         receiveState(state->state);
     } else if (const auto* title = std::get_if<TitleEvent>(&event)) {
@@ -187,11 +208,19 @@ void EngineProcess::receiveState(StreamState state)
         post(playbackStalledNotification);
 }
 
+/// While a name server does not answer, the engine can let go of nothing.
+void EngineProcess::replaceStuckEngine()
+{
+    engine_.reset();
+    open();
+}
+
 void EngineProcess::breakDown(PlaybackFailure failure)
 {
     failure_ = failure;
     // What the engine still says of this load is of no interest.
     ++load_;
+    patience_.reset();
     supervisor_.broke(now());
     watchTime();
     show();
@@ -261,9 +290,13 @@ NowPlaying EngineProcess::nowPlaying() const
     return result;
 }
 
-StreamSupervisor::Time EngineProcess::now() const
+/// Goes on while the machine sleeps, so that what was held over a night counts as held for long.
+StreamSupervisor::Time EngineProcess::now()
 {
-    return std::chrono::duration_cast<StreamSupervisor::Time>(std::chrono::steady_clock::now() - beginning_);
+    timespec time{};
+    clock_gettime(CLOCK_BOOTTIME, &time);
+    return std::chrono::duration_cast<StreamSupervisor::Time>(
+        std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
 }
 
 } // namespace sonavel

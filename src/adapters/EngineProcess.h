@@ -7,7 +7,6 @@
 #include "adapters/StreamSupervisor.h"
 #include "platform/StreamPlayer.h"
 
-#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -27,7 +26,8 @@ public:
     using Observer = std::function<void(const NowPlaying&)>;
 
     /// `program` is the engine's file. Nothing is started yet.
-    EngineProcess(EventLoop& eventLoop, NotificationCenter& notificationCenter, std::string program);
+    EngineProcess(EventLoop& eventLoop, NotificationCenter& notificationCenter, std::string program,
+        const StreamSupervisor::Limits& limits = {});
     ~EngineProcess() override;
 
     /// Starts the engine, so that the first stream need not wait for it. Does nothing when it runs.
@@ -55,6 +55,7 @@ private:
     void follow(StreamSupervisor::Advice advice);
     void receive(const EngineEvent& event);
     void receiveState(StreamState state);
+    void replaceStuckEngine();
     void breakDown(PlaybackFailure failure);
     void loseEngine();
     void post(const char* notification) const;
@@ -63,14 +64,16 @@ private:
     void tick();
     void show();
     [[nodiscard]] NowPlaying nowPlaying() const;
-    [[nodiscard]] StreamSupervisor::Time now() const;
+    [[nodiscard]] static StreamSupervisor::Time now();
 
     EventLoop& eventLoop_;
     NotificationCenter& notificationCenter_;
     const std::string program_;
-    const std::chrono::steady_clock::time_point beginning_ = std::chrono::steady_clock::now();
+    const StreamSupervisor::Limits limits_;
     Observer observer_;
     std::unique_ptr<EngineConnection> engine_;
+    /// The engine has begun with a load before, so that it is not busy with its own start.
+    bool engineIsReady_ = false;
 
     /// The player that has the engine; null when none has.
     Player* player_ = nullptr;
@@ -83,6 +86,7 @@ private:
     PlaybackFailure failure_ = PlaybackFailure::Unknown;
 
     std::unique_ptr<EventLoop::Registration> timer_;
+    std::unique_ptr<EventLoop::Registration> patience_;
     NowPlaying shown_;
 };
 

@@ -4,9 +4,15 @@
 
 namespace sonavel {
 
+StreamSupervisor::StreamSupervisor(const Limits& limits)
+    : limits_(limits)
+    , delay_(limits.shortestDelay)
+{
+}
+
 void StreamSupervisor::opened(Time now)
 {
-    phase_ = Phase::Silent;
+    phase_ = Phase::Opening;
     since_ = now;
 }
 
@@ -22,8 +28,8 @@ void StreamSupervisor::isSilent(Time now)
 {
     if (phase_ != Phase::Sounding)
         return;
-    if (now - since_ >= provenAfter)
-        delay_ = shortestDelay;
+    if (now - since_ >= limits_.proven)
+        delay_ = limits_.shortestDelay;
     phase_ = Phase::Silent;
     since_ = now;
 }
@@ -35,7 +41,7 @@ void StreamSupervisor::broke(Time now)
         return;
     phase_ = Phase::Broken;
     nextAttempt_ = now + delay_;
-    delay_ = std::min(2 * delay_, longestDelay);
+    delay_ = std::min(2 * delay_, limits_.longestDelay);
 }
 
 void StreamSupervisor::held(Time now)
@@ -50,7 +56,7 @@ StreamSupervisor::Advice StreamSupervisor::continued(Time now)
 {
     if (!heldSince_)
         return Advice::Nothing;
-    const bool hasToOpen = phase_ == Phase::Broken || isStale(now);
+    const bool hasToOpen = phase_ == Phase::Broken || now - *heldSince_ > limits_.hold;
     heldSince_.reset();
     since_ = now;
     return hasToOpen ? Advice::Open : Advice::Nothing;
@@ -58,7 +64,7 @@ StreamSupervisor::Advice StreamSupervisor::continued(Time now)
 
 StreamSupervisor::Advice StreamSupervisor::renew(Time now)
 {
-    delay_ = shortestDelay;
+    delay_ = limits_.shortestDelay;
     if (phase_ != Phase::Broken)
         return Advice::Nothing;
     nextAttempt_ = now;
@@ -80,7 +86,9 @@ std::optional<StreamSupervisor::Time> StreamSupervisor::deadline() const
 {
     if (heldSince_ || phase_ == Phase::Sounding)
         return std::nullopt;
-    return phase_ == Phase::Broken ? nextAttempt_ : since_ + silenceLimit;
+    if (phase_ == Phase::Broken)
+        return nextAttempt_;
+    return since_ + (phase_ == Phase::Opening ? limits_.opening : limits_.silence);
 }
 
 std::optional<StreamSupervisor::Time> StreamSupervisor::nextAttempt() const
@@ -88,11 +96,6 @@ std::optional<StreamSupervisor::Time> StreamSupervisor::nextAttempt() const
     if (heldSince_ || phase_ != Phase::Broken)
         return std::nullopt;
     return nextAttempt_;
-}
-
-bool StreamSupervisor::isStale(Time now) const
-{
-    return now - *heldSince_ > staleAfter;
 }
 
 } // namespace sonavel

@@ -6,21 +6,28 @@
 
 namespace sonavel {
 
-/// A stream that breaks, or stays silent for `silenceLimit` although it is not held, is opened again: after one second,
-/// then after twice the time each, up to half a minute. A stream that has sounded for `provenAfter` starts at one
-/// second again. While it is held nothing is opened; one that broke meanwhile, or was held for longer than
-/// `staleAfter`, is opened afresh when it is continued.
+/// A stream that breaks, takes too long to open, or falls silent for too long although it is not held, is opened again:
+/// after the shortest delay, then after twice the time each, up to the longest. While it is held nothing is opened; one
+/// that broke meanwhile, or was held for long, is opened afresh when it is continued.
 ///
 /// Pure: the time is told with every call, counted from any fixed point, and never runs backwards.
 class StreamSupervisor {
 public:
     using Time = std::chrono::milliseconds;
 
-    static constexpr Time silenceLimit = std::chrono::seconds(10);
-    static constexpr Time provenAfter = std::chrono::seconds(10);
-    static constexpr Time staleAfter = std::chrono::seconds(20);
-    static constexpr Time shortestDelay = std::chrono::seconds(1);
-    static constexpr Time longestDelay = std::chrono::seconds(30);
+    struct Limits {
+        /// From the request to the first sound.
+        Time opening = std::chrono::seconds(20);
+        Time silence = std::chrono::seconds(10);
+        /// A stream that sounded for so long starts with the shortest delay again.
+        Time proven = std::chrono::seconds(10);
+        /// What was held for longer is too old to go on with.
+        Time hold = std::chrono::seconds(20);
+        Time shortestDelay = std::chrono::seconds(1);
+        Time longestDelay = std::chrono::seconds(30);
+    };
+
+    explicit StreamSupervisor(const Limits& limits);
 
     enum class Advice {
         Nothing,
@@ -49,15 +56,14 @@ public:
     [[nodiscard]] std::optional<Time> nextAttempt() const;
 
 private:
-    enum class Phase { Silent, Sounding, Broken };
+    enum class Phase { Opening, Sounding, Silent, Broken };
 
-    [[nodiscard]] bool isStale(Time now) const;
-
-    Phase phase_ = Phase::Silent;
-    /// Since when the phase lasts; while silent or sounding, not before the stream was last continued.
+    Limits limits_;
+    Phase phase_ = Phase::Opening;
+    /// Since when the phase lasts, but not before the stream was last continued.
     Time since_{0};
     Time nextAttempt_{0};
-    Time delay_ = shortestDelay;
+    Time delay_;
     std::optional<Time> heldSince_;
 };
 

@@ -36,12 +36,11 @@ constexpr std::uint64_t rightControlDevice = 1U << 15U;
 
 constexpr std::uint64_t allRightsOfTheFirstVersion = (1U << 13U) - 1;
 constexpr std::uint64_t readFile = LANDLOCK_ACCESS_FS_READ_FILE;
-constexpr std::uint64_t readAll = readFile | LANDLOCK_ACCESS_FS_READ_DIR | LANDLOCK_ACCESS_FS_EXECUTE;
+constexpr std::uint64_t readAll = readFile | LANDLOCK_ACCESS_FS_READ_DIR;
 constexpr std::uint64_t useDevice = readFile | LANDLOCK_ACCESS_FS_WRITE_FILE | rightControlDevice;
 constexpr std::uint64_t useSharedMemory = readAll | LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_MAKE_REG
     | LANDLOCK_ACCESS_FS_REMOVE_FILE | rightTruncate;
-constexpr std::uint64_t fileRights =
-    readFile | LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_EXECUTE | rightTruncate | rightControlDevice;
+constexpr std::uint64_t fileRights = readFile | LANDLOCK_ACCESS_FS_WRITE_FILE | rightTruncate | rightControlDevice;
 
 struct Rule {
     std::string path;

@@ -10,9 +10,9 @@ enum class Confinement {
     NotSupported,
 };
 
-/// Gives up new privileges for good, and lets this process and those it starts reach only: the system's programs,
-/// libraries, settings and certificates (reading), what sound needs (its devices, sockets and shared memory), and the
-/// network. No file of the user's can be read, none can be written anywhere. Call it while there is one thread, before
+/// Gives up new privileges and starting programs for good, and lets this process reach only: the system's libraries,
+/// settings and certificates (reading), what sound needs (its devices, sockets and shared memory), and the network. No
+/// file of the user's can be read, none can be written anywhere. Call it while there is one thread, before
 /// anything from outside is opened; there is no way back.
 [[nodiscard]] Confinement confineThisProcess();
 

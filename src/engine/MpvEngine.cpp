@@ -37,14 +37,13 @@ constexpr std::array options{
     Option{"audio-display", "no"},
     Option{"load-unsafe-playlists", "no"},
     Option{"autoload-files", "no"},
-    Option{"access-references", "no"},
     Option{"idle", "yes"},
     Option{"cache", "yes"},
     Option{"cache-on-disk", "no"},
     Option{"demuxer-max-bytes", "3MiB"},
     // With nothing kept, the titles that lie between the music are lost.
     Option{"demuxer-max-back-bytes", "256KiB"},
-    Option{"network-timeout", "20"},
+    Option{"network-timeout", "15"},
     Option{"tls-verify", "yes"},
     Option{"metadata-codepage", "utf-8"},
     Option{"audio-client-name", "Sonavel"},
@@ -57,7 +56,7 @@ constexpr std::array options{
 };
 
 /// Protocols that a stream may lead to, those that carry them included.
-char usableProtocols[] = "http,https,httpproxy,tcp,tls,udp,rtp,rtsp,rtmp,rtmpt,rtmps,mmsh,mmst,crypto,hls";
+char usableProtocols[] = "http,https,httpproxy,tcp,tls,udp,rtp,rtsp,rtmp,rtmpt,rtmps,mmsh,mmst,crypto";
 
 /// Sets an option that is a map of keys to values, some of which hold commas.
 template <std::size_t count>
@@ -75,6 +74,15 @@ int setMap(mpv_handle* player, const char* name, std::array<std::pair<const char
     node.format = MPV_FORMAT_NODE_MAP;
     node.u.list = &list;
     return mpv_set_option(player, name, MPV_FORMAT_NODE, &node);
+}
+
+/// A server can make playlists lead to playlists for ever.
+constexpr int mostAttempts = 20;
+
+void endPlaying(mpv_handle* player)
+{
+    std::array<const char*, 2> arguments{"stop", nullptr};
+    (void)mpv_command(player, arguments.data());
 }
 
 bool setUp(mpv_handle* player)
@@ -97,7 +105,7 @@ bool setUp(mpv_handle* player)
 
 void observe(mpv_handle* player)
 {
-    mpv_request_log_messages(player, "error");
+    mpv_request_log_messages(player, "warn");
     mpv_observe_property(player, 0, "core-idle", MPV_FORMAT_NONE);
     mpv_observe_property(player, 0, "idle-active", MPV_FORMAT_NONE);
     mpv_observe_property(player, 0, "metadata", MPV_FORMAT_NONE);
@@ -166,7 +174,7 @@ void MpvEngine::load(const LoadCommand& command)
 {
     stop();
     load_ = command.load;
-    isHeld_ = command.isHeld;
+    isHeld_ = false;
     const Text address = usableStreamAddress(command.address);
     if (address.isAbsent()) {
         failure_ = PlaybackFailure::NotUsable;
@@ -200,9 +208,10 @@ void MpvEngine::stop()
     failure_.reset();
     shownState_.reset();
     shownTitle_ = Text();
+    attempts_ = 0;
+    hasBegun_ = false;
     soundIsSet_ = false;
-    std::array<const char*, 2> arguments{"stop", nullptr};
-    (void)mpv_command(player_, arguments.data());
+    endPlaying(player_);
 }
 
 int MpvEngine::wakeUpDescriptor() const
@@ -215,9 +224,11 @@ void MpvEngine::handleEvents()
     for (;;) {
         const mpv_event* event = mpv_wait_event(player_, 0);
         if (event->event_id == MPV_EVENT_NONE)
-            return;
+            break;
         handle(*event);
     }
+    // Log lines, which tell the reason, come after the events that they belong to.
+    showFailure();
 }
 
 void MpvEngine::handle(const mpv_event& event)
@@ -229,6 +240,9 @@ void MpvEngine::handle(const mpv_event& event)
     case MPV_EVENT_LOG_MESSAGE:
         noteLogLine(event);
         break;
+    case MPV_EVENT_START_FILE:
+        noteStart(event);
+        break;
     case MPV_EVENT_END_FILE:
         noteEnd(event);
         break;
@@ -238,7 +252,6 @@ void MpvEngine::handle(const mpv_event& event)
     case MPV_EVENT_PROPERTY_CHANGE:
         showState();
         showTitle();
-        showFailure();
         break;
     default:
         break;
@@ -253,6 +266,10 @@ void MpvEngine::checkAddress(const mpv_event& event)
         failure_ = PlaybackFailure::NotUsable;
         (void)mpv_set_property_string(player_, "stream-open-filename", "");
     }
+    if (++attempts_ > mostAttempts) {
+        failure_ = PlaybackFailure::NotAStream;
+        endPlaying(player_);
+    }
     (void)mpv_hook_continue(player_, hook->id);
 }
 
@@ -261,6 +278,14 @@ void MpvEngine::noteLogLine(const mpv_event& event)
     const auto* message = static_cast<const mpv_event_log_message*>(event.data);
     if (const auto failure = failureFromLogLine(message->text); load_ && failure && !failure_)
         failure_ = failure;
+}
+
+void MpvEngine::noteStart(const mpv_event& event)
+{
+    if (!isPresentEntry(static_cast<const mpv_event_start_file*>(event.data)->playlist_entry_id))
+        return;
+    hasBegun_ = true;
+    showState();
 }
 
 void MpvEngine::noteEnd(const mpv_event& event)
@@ -277,7 +302,7 @@ void MpvEngine::noteEnd(const mpv_event& event)
 
 void MpvEngine::showState()
 {
-    if (!load_)
+    if (!load_ || !hasBegun_)
         return;
     StreamState state = StreamState::Connecting;
     if (!flag("core-idle"))

@@ -41,6 +41,7 @@ private:
 
     void handle(const mpv_event& event);
     void checkAddress(const mpv_event& event);
+    void noteStart(const mpv_event& event);
     void noteEnd(const mpv_event& event);
     void noteLogLine(const mpv_event& event);
     void showState();
@@ -64,6 +65,10 @@ private:
     std::optional<std::uint64_t> load_;
     /// libmpv's number of the first playlist entry of the present load; what belongs to an earlier one comes late.
     std::int64_t firstEntry_ = 0;
+    /// The present load's attempts, more than one where its address leads to a playlist.
+    int attempts_ = 0;
+    /// libmpv has let go of the former load and begun with the present one.
+    bool hasBegun_ = false;
     /// The sound output is open and has its volume.
     bool soundIsSet_ = false;
     std::optional<PlaybackFailure> failure_;

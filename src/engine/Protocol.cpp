@@ -38,7 +38,6 @@ constexpr std::array failureWords{
     Word<PlaybackFailure>{"engine-failed", PlaybackFailure::EngineFailed},
 };
 
-constexpr std::array holdWords{Word<bool>{"held", true}, Word<bool>{"playing", false}};
 constexpr std::array flagWords{Word<bool>{"yes", true}, Word<bool>{"no", false}};
 
 template <class Words, class Value> std::string_view wordOf(const Words& words, Value value)
@@ -134,8 +133,7 @@ std::string volumeText(float volume)
 struct CommandLine {
     std::string operator()(const LoadCommand& command) const
     {
-        return lineOf(
-            {"load", std::to_string(command.load), wordOf(holdWords, command.isHeld), escaped(command.address.view())});
+        return lineOf({"load", std::to_string(command.load), escaped(command.address.view())});
     }
     std::string operator()(const HoldCommand&) const { return lineOf({"hold"}); }
     std::string operator()(const ContinueCommand&) const { return lineOf({"continue"}); }
@@ -168,11 +166,10 @@ struct EventLine {
 std::optional<EngineCommand> loadFrom(std::string_view arguments)
 {
     const auto load = numberFrom<std::uint64_t>(takeWord(arguments));
-    const auto isHeld = valueOf(holdWords, takeWord(arguments));
     const auto address = unescaped(arguments);
-    if (!load || !isHeld || !address)
+    if (!load || !address)
         return std::nullopt;
-    return LoadCommand{*load, *isHeld, *address};
+    return LoadCommand{*load, *address};
 }
 
 std::optional<EngineCommand> volumeFrom(std::string_view arguments)

@@ -5,7 +5,7 @@
 // one of these, or is too long, is ignored: neither side trusts the other.
 //
 //   player to engine                       engine to player
-//     load ID held|playing ADDRESS           state ID connecting|buffering|playing
+//     load ID ADDRESS                        state ID connecting|buffering|playing
 //     hold, continue, stop                   failed ID REASON
 //     volume 0.7                             title ID TEXT
 //     muted yes|no
@@ -44,9 +44,9 @@ enum class PlaybackFailure {
 
 enum class StreamState { Connecting, Buffering, Playing };
 
+/// Plays the stream in the place of the present one, not held.
 struct LoadCommand {
     std::uint64_t load = 0;
-    bool isHeld = false;
     Text address;
 
     friend bool operator==(const LoadCommand&, const LoadCommand&) = default;
@@ -79,6 +79,7 @@ struct MutedCommand {
 
 using EngineCommand = std::variant<LoadCommand, HoldCommand, ContinueCommand, StopCommand, VolumeCommand, MutedCommand>;
 
+/// The first one of a load says that the engine has let go of the former load and begun with this one.
 struct StateEvent {
     std::uint64_t load = 0;
     StreamState state = StreamState::Connecting;
@@ -112,10 +113,12 @@ using EngineEvent = std::variant<StateEvent, FailedEvent, TitleEvent>;
 [[nodiscard]] std::optional<EngineCommand> commandFromLine(std::string_view line);
 [[nodiscard]] std::optional<EngineEvent> eventFromLine(std::string_view line);
 
-/// Cuts a stream of bytes into lines, whatever pieces it comes in. A line of more than `longestLine` bytes is dropped.
+/// Cuts a stream of bytes into lines, whatever pieces it comes in. A line of more than `longestLine` bytes is dropped,
+/// and no more than that is ever kept.
 class LineReader {
 public:
-    static constexpr std::size_t longestLine = 16 * 1024;
+    /// Holds the longest address with every byte of it escaped.
+    static constexpr std::size_t longestLine = 32 * 1024;
 
     /// Takes the bytes over; then `nextLine` gives the lines that they end.
     void append(std::string_view bytes);

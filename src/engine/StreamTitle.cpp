@@ -47,6 +47,35 @@ std::string utf8From(std::string_view bytes)
     return text;
 }
 
+std::size_t characterSize(char lead)
+{
+    const auto byte = static_cast<unsigned char>(lead);
+    if (byte < 0x80)
+        return 1;
+    return byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+}
+
+/// The controls, and the characters that end a line or override the direction of what follows.
+bool isControl(std::string_view character)
+{
+    const auto isWithin = [character](std::string_view first, std::string_view last) {
+        return character.size() == first.size() && first <= character && character <= last;
+    };
+    return character[0] == '\0' || isWithin("\x01", "\x1F") || character == "\x7F" || isWithin("\xC2\x80", "\xC2\x9F")
+        || isWithin("\xE2\x80\xA8", "\xE2\x80\xAE") || isWithin("\xE2\x81\xA6", "\xE2\x81\xA9");
+}
+
+std::string withoutControls(std::string_view text)
+{
+    std::string result;
+    while (!text.empty()) {
+        const std::string_view character = text.substr(0, characterSize(text.front()));
+        result += isControl(character) ? " " : character;
+        text.remove_prefix(character.size());
+    }
+    return result;
+}
+
 void cutAtCharacter(std::string& text)
 {
     if (text.size() <= longestTitle)
@@ -61,10 +90,7 @@ void cutAtCharacter(std::string& text)
 
 Text streamTitle(std::string_view bytes)
 {
-    std::string title = utf8From(bytes);
-    std::replace_if(
-        title.begin(), title.end(),
-        [](char character) { return static_cast<unsigned char>(character) < 0x20 || character == 0x7F; }, ' ');
+    std::string title = withoutControls(utf8From(bytes));
     title.erase(0, std::min(title.find_first_not_of(' '), title.size()));
     cutAtCharacter(title);
     title.erase(title.find_last_not_of(' ') + 1);

@@ -5,13 +5,16 @@
 #include "engine/MpvEngine.h"
 #include "engine/Protocol.h"
 
+#include <malloc.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -68,6 +71,10 @@ void run(MpvEngine& engine)
 
 int main()
 {
+    // For the case that it cannot watch the socket, being stuck in libmpv.
+    (void)prctl(PR_SET_PDEATHSIG, SIGKILL);
+    // libmpv starts threads for every stream; an arena for each would keep what streams of the past have used.
+    (void)mallopt(M_ARENA_MAX, 1);
     if (confineThisProcess() == Confinement::NotSupported)
         std::fputs("sonavel-engine: this system cannot confine it, so it plays unconfined\n", stderr);
     std::setlocale(LC_NUMERIC, "C");

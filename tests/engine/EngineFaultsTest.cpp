@@ -1,0 +1,135 @@
+#include "engine/EngineProcessFixture.h"
+
+#include <sys/wait.h>
+
+#include <csignal>
+
+namespace sonavel::test {
+namespace {
+
+using namespace std::chrono_literals;
+using EngineFaults = EngineProcessTest;
+
+std::string folderOf(int process)
+{
+    return std::string("/proc/").append(std::to_string(process));
+}
+
+std::size_t entriesIn(const std::string& folder)
+{
+    const std::filesystem::directory_iterator entries(folder);
+    return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+}
+
+/// In pages.
+std::size_t residentMemory(int process)
+{
+    std::ifstream figures(folderOf(process) + "/statm");
+    std::size_t total = 0;
+    std::size_t resident = 0;
+    figures >> total >> resident;
+    return resident;
+}
+
+TEST_F(EngineFaults, AnEngineThatIsKilledPlaysAgainAndLeavesNoZombie)
+{
+    const ScriptedServer server(playTone);
+    play(server.address());
+    for (int round = 0; round < 3; ++round) {
+        ASSERT_TRUE(comesTo(State::Playing));
+        ASSERT_EQ(children().size(), 1U);
+        ::kill(children().front(), SIGKILL);
+        EXPECT_TRUE(failsWith(PlaybackFailure::EngineFailed));
+        lastFailure_.reset();
+    }
+    EXPECT_TRUE(comesTo(State::Playing));
+    EXPECT_TRUE(loop_.runUntil([] { return children().size() == 1; }));
+}
+
+TEST_F(EngineFaults, AnEngineThatIsStuckIsReplacedWhenAnotherStationIsChosen)
+{
+    const ScriptedServer server(playTone);
+    play(server.address());
+    ASSERT_TRUE(comesTo(State::Playing));
+    const int stuck = children().front();
+    ::kill(stuck, SIGSTOP);
+    play(server.address());
+    EXPECT_TRUE(comesTo(State::Playing));
+    EXPECT_NE(children().back(), stuck);
+}
+
+TEST_F(EngineFaults, AnEngineThatCannotBeStartedOrEndsAtOnceIsAFailureAndNothingWorse)
+{
+    for (const char* program : {"/nowhere/sonavel-engine", "/", "/bin/true", "/bin/cat"}) {
+        StreamSupervisor::Limits limits = shortDelays;
+        limits.opening = 300ms;
+        use(limits, program);
+        engine_->start();
+        play("http://127.0.0.1:1/");
+        player_->setMuted(true);
+        player_->pause();
+        player_->play();
+        EXPECT_TRUE(loop_.runUntil([&] { return lastFailure_.has_value(); })) << program;
+    }
+}
+
+TEST_F(EngineFaults, AHundredQuickChangesLeaveNoThreadSocketOrMemoryBehind)
+{
+    std::atomic<int> open = 0;
+    const ScriptedServer server([&](ScriptedServer::Connection& connection) {
+        ++open;
+        playTone(connection);
+        --open;
+    });
+    const auto settle = [&] {
+        play(server.address());
+        ASSERT_TRUE(comesTo(State::Playing));
+        ASSERT_TRUE(loop_.runUntil([&] { return open == 1; }));
+    };
+    for (int warmingUp = 0; warmingUp < 5; ++warmingUp)
+        settle();
+    ASSERT_EQ(children().size(), 1U);
+    const int engine = children().front();
+    const std::string folder = folderOf(engine);
+    const std::size_t threads = entriesIn(folder + "/task");
+    const std::size_t descriptors = entriesIn(folder + "/fd");
+    const std::size_t memory = residentMemory(engine);
+    const std::size_t ownDescriptors = entriesIn("/proc/self/fd");
+
+    for (int change = 0; change < 100; ++change) {
+        play(server.address());
+        loop_.runFor(std::chrono::milliseconds(change % 4 * 5));
+    }
+    settle();
+    ASSERT_EQ(children(), std::vector{engine});
+    EXPECT_LE(entriesIn(folder + "/task"), threads);
+    EXPECT_LE(entriesIn(folder + "/fd"), descriptors);
+    constexpr std::size_t tenMebibytes = 10 * 256;
+    EXPECT_LE(residentMemory(engine), memory + tenMebibytes);
+    EXPECT_LE(entriesIn("/proc/self/fd"), ownDescriptors);
+}
+
+TEST_F(EngineFaults, AnEngineWhosePlayerCrashedEnds)
+{
+    // A player that starts an engine, tells its number and crashes.
+    std::array<int, 2> report{};
+    ASSERT_EQ(::pipe(report.data()), 0);
+    const int player = ::fork();
+    if (player == 0) {
+        engine_->start();
+        const int engine = children().front();
+        (void)!::write(report[1], &engine, sizeof engine);
+        ::_exit(0);
+    }
+    int engine = 0;
+    ASSERT_EQ(::read(report[0], &engine, sizeof engine), static_cast<ssize_t>(sizeof engine));
+    ASSERT_EQ(::waitpid(player, nullptr, 0), player);
+    const std::string status = folderOf(engine) + "/cmdline";
+    const auto isGone = [&] { return std::ifstream(status).get() == std::ifstream::traits_type::eof(); };
+    EXPECT_TRUE(loop_.runUntil(isGone));
+    ::close(report[0]);
+    ::close(report[1]);
+}
+
+} // namespace
+} // namespace sonavel::test

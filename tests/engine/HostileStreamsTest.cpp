@@ -1,0 +1,154 @@
+#include "engine/EngineProcessFixture.h"
+#include "support/SelfSignedTls.h"
+
+#include <csignal>
+
+namespace sonavel::test {
+namespace {
+
+using namespace std::chrono_literals;
+using HostileStreams = EngineProcessTest;
+
+std::string answer(std::string_view type, std::string_view body)
+{
+    return "HTTP/1.0 200 OK\r\nContent-Type: " + std::string(type) + "\r\n\r\n" + std::string(body);
+}
+
+TEST_F(HostileStreams, WhatIsNoStreamSaysWhyAndTheNextOneStillPlays)
+{
+    const std::string page = "<!DOCTYPE html><html><body>" + std::string(3000, 'x') + "</body></html>";
+    const std::vector<std::pair<std::string, PlaybackFailure>> rows{
+        {"HTTP/1.0 404 Not Found\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::NotFound},
+        {"HTTP/1.0 403 Forbidden\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::NotAllowed},
+        {"HTTP/1.0 503 Busy\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::ServerError},
+        {answer("text/html", page), PlaybackFailure::NotAStream},
+        {answer("audio/mpeg", ""), PlaybackFailure::NotAStream},
+        {"", PlaybackFailure::Unknown},
+        {"no server of the web at all\r\n", PlaybackFailure::Unknown},
+        {"HTTP/1.0 302 Found\r\nLocation: /\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::Unknown},
+    };
+    const ScriptedServer good(playTone);
+    for (const auto& [text, failure] : rows) {
+        const ScriptedServer bad(ScriptedServer::answering(text));
+        play(bad.address());
+        EXPECT_TRUE(failsWith(failure)) << text.substr(0, 40);
+        EXPECT_FALSE(shown_.hasSounded);
+        EXPECT_TRUE(loop_.runUntil([&] { return bad.connectionCount() >= 2; })) << "not tried again";
+        play(good.address());
+        EXPECT_TRUE(comesTo(State::Playing)) << text.substr(0, 40);
+    }
+    EXPECT_GE(errors_, static_cast<int>(rows.size()));
+}
+
+TEST_F(HostileStreams, AHostThatCannotBeReachedSaysWhy)
+{
+    // The engine goes away from a server that it does not trust.
+    ::signal(SIGPIPE, SIG_IGN);
+    const SelfSignedTls tls("HTTP/1.0 200 OK\r\n\r\n");
+    const ScriptedServer forged([&](ScriptedServer::Connection& connection) { tls.serve(connection.descriptor()); });
+    const std::vector<std::pair<std::string, PlaybackFailure>> rows{
+        {"http://127.0.0.1:1/", PlaybackFailure::Refused},
+        {"rtsp://127.0.0.1:1/", PlaybackFailure::Refused},
+        {"mms://127.0.0.1:1/", PlaybackFailure::Refused},
+        {"http://nobody..example/", PlaybackFailure::NoSuchHost},
+        {"https" + forged.address().substr(4), PlaybackFailure::Certificate},
+    };
+    for (const auto& [address, failure] : rows) {
+        play(address);
+        EXPECT_TRUE(failsWith(failure)) << address;
+    }
+}
+
+TEST_F(HostileStreams, NothingLeadsToALocalFileOrIntoTheEngine)
+{
+    // Below /usr, since what lies elsewhere is out of the engine's reach anyway.
+    const std::string file = std::filesystem::is_directory("/usr/share") ? "/usr/share/dict" : "/etc/passwd";
+    const std::vector<std::string> addresses{"file://" + file, file, "av://lavfi:sine", "lavf://file:" + file,
+        "memory://x", "fd://0", "fdclose://0", "edl://" + file, "concat:" + file, "archive://" + file, "--ao=null",
+        "http://", ""};
+    for (const std::string& address : addresses) {
+        play(address);
+        EXPECT_TRUE(failsWith(PlaybackFailure::NotUsable)) << address;
+    }
+    for (const std::string& entry : {"file://" + file, file, std::string("av://lavfi:sine"), "lavf://file:" + file,
+             std::string("memory://x"), std::string("fd://0"), "edl://" + file, "archive://" + file}) {
+        const std::vector<std::pair<std::string, std::string>> playlists{
+            {"audio/x-mpegurl", "#EXTM3U\n" + entry + "\n"},
+            {"audio/x-scpls", "[playlist]\nNumberOfEntries=1\nFile1=" + entry + "\n"},
+            {"application/vnd.apple.mpegurl", "#EXTM3U\n#EXT-X-TARGETDURATION:9\n#EXTINF:9,\n" + entry + "\n"},
+            {"application/octet-stream", "# mpv EDL v0\n" + entry + "\n"},
+            {"application/octet-stream", "ffconcat version 1.0\nfile '" + entry + "'\n"},
+        };
+        for (const auto& [type, list] : playlists) {
+            const ScriptedServer server(ScriptedServer::answering(answer(type, list)));
+            play(server.address());
+            EXPECT_TRUE(comesTo(State::Reconnecting)) << list;
+            EXPECT_FALSE(shown_.hasSounded) << list;
+        }
+    }
+}
+
+TEST_F(HostileStreams, PlaylistsThatLeadToPlaylistsForEverAreGivenUp)
+{
+    const ScriptedServer server(ScriptedServer::answering(answer("audio/x-mpegurl", "#EXTM3U\nagain.m3u\n")));
+    play(server.address("/first.m3u"));
+    EXPECT_TRUE(failsWith(PlaybackFailure::NotAStream));
+}
+
+TEST_F(HostileStreams, APlaylistLeadsToItsStream)
+{
+    const ScriptedServer stream(playTone);
+    for (const std::string& list :
+        {"#EXTM3U\n" + stream.address() + "\n", "[playlist]\nNumberOfEntries=1\nFile1=" + stream.address() + "\n"}) {
+        const ScriptedServer server(ScriptedServer::answering(answer("audio/x-scpls", list)));
+        play(server.address());
+        EXPECT_TRUE(comesTo(State::Playing)) << list;
+        player_.reset();
+    }
+}
+
+TEST_F(HostileStreams, AStreamThatNeverComesToItsSoundIsGivenUp)
+{
+    StreamSupervisor::Limits limits = shortDelays;
+    limits.opening = 500ms;
+    use(limits);
+    const ScriptedServer endlessHead([](ScriptedServer::Connection& connection) {
+        connection.send("HTTP/1.0 200 OK\r\n");
+        while (connection.send("X-Filler: " + std::string(1000, 'x') + "\r\n") && connection.wait(1ms)) { }
+    });
+    const ScriptedServer noAnswer([](ScriptedServer::Connection& connection) { connection.waitUntilClosed(); });
+    for (const ScriptedServer* server : {&endlessHead, &noAnswer}) {
+        play(server->address());
+        EXPECT_TRUE(failsWith(PlaybackFailure::TimedOut));
+    }
+}
+
+TEST_F(HostileStreams, ATitleInAnyEncodingIsShown)
+{
+    const std::vector<std::pair<std::string, std::string>> rows{
+        {"Bj\xC3\xB6rk \xE2\x80\x93 J\xC3\xB3ga", "Björk – Jóga"},
+        {"Bj\xF6rk \x96 J\xF3ga", "Björk – Jóga"},
+        {"It's a \x01\n'title'", "It's a   'title'"},
+    };
+    for (const auto& [sent, shown] : rows) {
+        const std::string about = "StreamTitle='" + sent + "';";
+        std::string block(1, static_cast<char>((about.size() + 15) / 16));
+        block += about + std::string((16 - about.size() % 16) % 16, '\0');
+        const ScriptedServer server([&](ScriptedServer::Connection& connection) {
+            connection.readRequestHead();
+            connection.send("ICY 200 OK\r\nContent-Type: audio/wav\r\nicy-metaint: 8000\r\n\r\n");
+            const std::string sound = toneHead() + tone(toneBeginning);
+            for (std::size_t begin = 0; begin < sound.size(); begin += 8000) {
+                connection.send(sound.substr(begin, 8000));
+                connection.send(begin == 0 ? block : std::string(1, '\0'));
+            }
+            connection.waitUntilClosed();
+        });
+        play(server.address());
+        EXPECT_TRUE(loop_.runUntil([&] { return shown_.title == Text(shown); })) << shown;
+        player_.reset();
+    }
+}
+
+} // namespace
+} // namespace sonavel::test

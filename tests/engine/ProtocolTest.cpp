@@ -1,0 +1,79 @@
+#include "engine/Protocol.h"
+
+#include "playback/StreamAddress.h"
+
+#include <gtest/gtest.h>
+
+namespace sonavel {
+namespace {
+
+const std::vector<std::string> hostileTexts{"", " ", "http://host/a b", "a\nstop\n", "\r\n\t\x7F", "%", "%41", "100 %",
+    "Bj\xC3\xB6rk \xE2\x80\x93 \xF0\x9F\x8E\xB5", std::string("a\0b", 3)};
+
+TEST(Protocol, NoTextCanSayMoreThanItself)
+{
+    for (const std::string& text : hostileTexts) {
+        const LoadCommand command{18446744073709551615U, text};
+        const TitleEvent event{7, text};
+        for (std::string line : {lineFromCommand(command), lineFromEvent(event)}) {
+            ASSERT_EQ(line.find('\n'), line.size() - 1);
+            line.pop_back();
+            const auto readCommand = commandFromLine(line);
+            const auto readEvent = eventFromLine(line);
+            EXPECT_TRUE(readCommand == EngineCommand(command) || readEvent == EngineEvent(event)) << line;
+        }
+    }
+}
+
+TEST(Protocol, LinesThatAreNotOfTheProtocolAreIgnored)
+{
+    for (const char* line : {"", " ", "load", "loud 1 http://a/", "load -1 http://a/", "load 1x http://a/",
+             "load 18446744073709551616 http://a/", "load 1 http://a/%4", "load 1 http://a/%zz", "load 1 http://a/% 1",
+             "load 1 http://a/%FF", "load 1 \xFF", "stop now", " hold", "HOLD", "volume", "volume 1.1", "volume -0.1",
+             "volume nan", "volume inf", "volume 0,5", "volume 0.5 ", "volume 1e99", "muted", "muted maybe",
+             "muted yes no"})
+        EXPECT_FALSE(commandFromLine(line).has_value()) << line;
+    for (const char* line : {"", "state", "state playing", "state 1", "state 1 dancing", "state 1 playing ", "title x",
+             "title 1 %0", "title 1 \xC3", "failed 1", "failed 1 no reason", "failed one ended", "load 1 http://a/"})
+        EXPECT_FALSE(eventFromLine(line).has_value()) << line;
+}
+
+TEST(Protocol, LinesComeOutWholeWhateverPiecesTheyComeIn)
+{
+    const std::string bytes = "hold\n\nstop\n" + std::string(LineReader::longestLine, 'x') + "\ncontinue\n";
+    for (const std::size_t piece : {std::size_t{1}, std::size_t{5}, std::size_t{4096}, bytes.size()}) {
+        LineReader reader;
+        std::vector<std::string> lines;
+        for (std::size_t begin = 0; begin < bytes.size(); begin += piece) {
+            reader.append(std::string_view(bytes).substr(begin, piece));
+            while (const auto line = reader.nextLine())
+                lines.push_back(*line);
+        }
+        EXPECT_EQ(lines,
+            (std::vector<std::string>{"hold", "", "stop", std::string(LineReader::longestLine, 'x'), "continue"}));
+    }
+}
+
+TEST(Protocol, ALineThatNeverEndsIsDroppedAndTheNextOneIsRead)
+{
+    LineReader reader;
+    for (int piece = 0; piece < 1000; ++piece) {
+        reader.append(std::string(4096, 'x'));
+        ASSERT_FALSE(reader.nextLine().has_value());
+    }
+    reader.append("the rest of it\nhold\n");
+    EXPECT_EQ(reader.nextLine(), "hold");
+}
+
+TEST(Protocol, TheLongestAddressFitsALine)
+{
+    const std::string address = "http://host/" + std::string(longestStreamAddress - 12, '%');
+    LineReader reader;
+    reader.append(lineFromCommand(LoadCommand{1, address}));
+    const auto line = reader.nextLine();
+    ASSERT_TRUE(line.has_value());
+    EXPECT_EQ(commandFromLine(*line), EngineCommand(LoadCommand{1, address}));
+}
+
+} // namespace
+} // namespace sonavel
