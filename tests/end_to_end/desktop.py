@@ -77,7 +77,7 @@ class Desktop:
             self._start_bus()
             if self.sound:
                 self._start_sound()
-            self.start(["openbox", "--sm-disable"])
+            self._start_window_manager()
         except BaseException:
             self.__exit__()
             raise
@@ -126,7 +126,8 @@ class Desktop:
 
     def _start_display(self):
         reading, writing = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp"],
+        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp",
+                    "-noreset"],
                    pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading) as display:
@@ -139,6 +140,13 @@ class Desktop:
         if self.accessibility:
             self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
             self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
+
+    def _start_window_manager(self):
+        """A window that is shown before the window manager is ready may stay hidden for good."""
+        self.start(["openbox", "--sm-disable"])
+        ask = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
+        wait_until(lambda: "window id" in subprocess.run(ask, env=self.environment, capture_output=True, text=True,
+                                                         check=False).stdout, "the window manager")
 
     def _start_sound(self):
         self.start(["pulseaudio", "--daemonize=no", "--exit-idle-time=-1", "-n", "-L",
