@@ -276,7 +276,9 @@ void MpvEngine::checkAddress(const mpv_event& event)
 void MpvEngine::noteLogLine(const mpv_event& event)
 {
     const auto* message = static_cast<const mpv_event_log_message*>(event.data);
-    if (const auto failure = failureFromLogLine(message->text); load_ && failure && !failure_)
+    // It may come after the end that it explains.
+    const bool isUnexplained = !failure_ || *failure_ == PlaybackFailure::Unknown;
+    if (const auto failure = failureFromLogLine(message->text); load_ && failure && isUnexplained)
         failure_ = failure;
 }
 
