@@ -13,8 +13,6 @@
 #include <thread>
 #include <utility>
 
-extern char** environ;
-
 namespace sonavel {
 
 namespace {

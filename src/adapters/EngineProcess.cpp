@@ -24,6 +24,8 @@ public:
         , item_(std::move(item))
     {
     }
+    Player(const Player&) = delete;
+    Player& operator=(const Player&) = delete;
     ~Player() override { engine_.release(*this); }
 
     void play() override

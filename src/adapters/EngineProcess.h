@@ -28,6 +28,8 @@ public:
     /// `program` is the engine's file. Nothing is started yet.
     EngineProcess(EventLoop& eventLoop, NotificationCenter& notificationCenter, std::string program,
         const StreamSupervisor::Limits& limits = {});
+    EngineProcess(const EngineProcess&) = delete;
+    EngineProcess& operator=(const EngineProcess&) = delete;
     ~EngineProcess() override;
 
     /// Starts the engine, so that the first stream need not wait for it. Does nothing when it runs.

@@ -8,9 +8,10 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -123,11 +124,27 @@ void refuseCoreDumps()
     (void)setrlimit(RLIMIT_CORE, &none);
 }
 
+/// A stream that makes a decoder take memory without end takes the engine down, and nothing else.
+void boundMemory()
+{
+    constexpr rlim_t growth = rlim_t{1} << 30U;
+    std::ifstream figures("/proc/self/statm");
+    std::array<rlim_t, 6> pages{};
+    for (rlim_t& figure : pages)
+        figures >> figure;
+    if (!figures)
+        return;
+    const rlim_t limit = pages.back() * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + growth;
+    const rlimit bound{limit, limit};
+    (void)setrlimit(RLIMIT_DATA, &bound);
+}
+
 } // namespace
 
 Confinement confineThisProcess()
 {
     refuseCoreDumps();
+    boundMemory();
     if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
         return Confinement::NotSupported;
     const long version = syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);

@@ -35,7 +35,7 @@ constexpr std::array signs{
 
 std::optional<PlaybackFailure> failureFromLogLine(std::string_view line)
 {
-    const auto found = std::find_if(signs.begin(), signs.end(),
+    const auto* const found = std::find_if(signs.begin(), signs.end(),
         [line](const Sign& sign) { return line.find(sign.part) != std::string_view::npos; });
     if (found == signs.end())
         return std::nullopt;

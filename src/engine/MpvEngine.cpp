@@ -1,80 +1,19 @@
 #include "engine/MpvEngine.h"
 
 #include "engine/FailureReason.h"
+#include "engine/MpvSetUp.h"
 #include "engine/StreamTitle.h"
 #include "playback/StreamAddress.h"
 
 #include <mpv/client.h>
 
 #include <array>
-#include <cstdlib>
 #include <string_view>
 #include <utility>
 
 namespace sonavel {
 
 namespace {
-
-struct Option {
-    const char* name;
-    const char* value;
-};
-
-/// The defaults are made for films from the user's disk. A radio plays sound from strangers.
-constexpr std::array options{
-    Option{"config", "no"},
-    Option{"load-scripts", "no"},
-    // Scripts of its own for a screen that is never there; to run them it reads every font of the system.
-    Option{"osc", "no"},
-    Option{"load-osd-console", "no"},
-    Option{"load-stats-overlay", "no"},
-    Option{"load-auto-profiles", "no"},
-    Option{"ytdl", "no"},
-    Option{"terminal", "no"},
-    Option{"input-default-bindings", "no"},
-    Option{"vid", "no"},
-    Option{"sid", "no"},
-    Option{"audio-display", "no"},
-    Option{"load-unsafe-playlists", "no"},
-    Option{"autoload-files", "no"},
-    Option{"idle", "yes"},
-    Option{"cache", "yes"},
-    Option{"cache-on-disk", "no"},
-    Option{"demuxer-max-bytes", "3MiB"},
-    // With nothing kept, the titles that lie between the music are lost.
-    Option{"demuxer-max-back-bytes", "256KiB"},
-    Option{"network-timeout", "15"},
-    Option{"tls-verify", "yes"},
-    Option{"metadata-codepage", "utf-8"},
-    Option{"audio-client-name", "Sonavel"},
-    Option{"user-agent", "Sonavel"},
-    // A sound server that speaks the older protocol is the common case, and the quickest to ask.
-    Option{"ao", "pulse,pipewire,"},
-    // A large buffer saves most of the processor time; volume and muting of the output itself are heard at once.
-    Option{"pulse-buffer", "1000"},
-    Option{"replaygain", "no"},
-};
-
-/// Protocols that a stream may lead to, those that carry them included.
-char usableProtocols[] = "http,https,httpproxy,tcp,tls,udp,rtp,rtsp,rtmp,rtmpt,rtmps,mmsh,mmst,crypto";
-
-/// Sets an option that is a map of keys to values, some of which hold commas.
-template <std::size_t count>
-int setMap(mpv_handle* player, const char* name, std::array<std::pair<const char*, const char*>, count> entries)
-{
-    std::array<char*, count> keys{};
-    std::array<mpv_node, count> values{};
-    for (std::size_t index = 0; index < count; ++index) {
-        keys[index] = const_cast<char*>(entries[index].first);
-        values[index].format = MPV_FORMAT_STRING;
-        values[index].u.string = const_cast<char*>(entries[index].second);
-    }
-    mpv_node_list list{static_cast<int>(count), values.data(), keys.data()};
-    mpv_node node{};
-    node.format = MPV_FORMAT_NODE_MAP;
-    node.u.list = &list;
-    return mpv_set_option(player, name, MPV_FORMAT_NODE, &node);
-}
 
 /// A server can make playlists lead to playlists for ever.
 constexpr int mostAttempts = 20;
@@ -83,33 +22,6 @@ void endPlaying(mpv_handle* player)
 {
     std::array<const char*, 2> arguments{"stop", nullptr};
     (void)mpv_command(player, arguments.data());
-}
-
-bool setUp(mpv_handle* player)
-{
-    for (const Option& option : options)
-        if (mpv_set_option_string(player, option.name, option.value) < 0)
-            return false;
-    // Opening a broken stream again is the player's business.
-    if (setMap<3>(player, "stream-lavf-o",
-            {{{"protocol_whitelist", usableProtocols}, {"reconnect", "0"}, {"reconnect_streamed", "0"}}})
-        < 0)
-        return false;
-    if (setMap<1>(player, "demuxer-lavf-o", {{{"protocol_whitelist", usableProtocols}}}) < 0)
-        return false;
-    const char* output = std::getenv("SONAVEL_AUDIO_OUTPUT");
-    if (output != nullptr && *output != '\0' && mpv_set_option_string(player, "ao", output) < 0)
-        return false;
-    return mpv_initialize(player) >= 0;
-}
-
-void observe(mpv_handle* player)
-{
-    mpv_request_log_messages(player, "warn");
-    mpv_observe_property(player, 0, "core-idle", MPV_FORMAT_NONE);
-    mpv_observe_property(player, 0, "idle-active", MPV_FORMAT_NONE);
-    mpv_observe_property(player, 0, "metadata", MPV_FORMAT_NONE);
-    mpv_hook_add(player, 0, "on_load", 0);
 }
 
 PlaybackFailure failureFromError(int error)
@@ -129,14 +41,13 @@ PlaybackFailure failureFromError(int error)
 
 std::unique_ptr<MpvEngine> MpvEngine::create(Tell tell)
 {
-    mpv_handle* player = mpv_create();
+    mpv_handle* player = createMpv();
     if (player == nullptr)
         return nullptr;
-    if (!setUp(player)) {
-        mpv_terminate_destroy(player);
-        return nullptr;
-    }
-    observe(player);
+    mpv_request_log_messages(player, "warn");
+    for (const char* property : {"core-idle", "idle-active", "metadata"})
+        mpv_observe_property(player, 0, property, MPV_FORMAT_NONE);
+    mpv_hook_add(player, 0, "on_load", 0);
     return std::unique_ptr<MpvEngine>(new MpvEngine(player, std::move(tell)));
 }
 
@@ -184,16 +95,11 @@ void MpvEngine::load(const LoadCommand& command)
     applyHold();
     const std::string file = address.string();
     std::array<const char*, 3> arguments{"loadfile", file.c_str(), nullptr};
-    mpv_node result{};
-    if (mpv_command_ret(player_, arguments.data(), &result) < 0) {
+    if (mpv_command(player_, arguments.data()) < 0
+        || mpv_get_property(player_, "playlist/0/id", MPV_FORMAT_INT64, &firstEntry_) < 0) {
+        failure_ = PlaybackFailure::Unknown;
         showFailure();
-        return;
     }
-    if (result.format == MPV_FORMAT_NODE_MAP)
-        for (int index = 0; index < result.u.list->num; ++index)
-            if (std::string_view(result.u.list->keys[index]) == "playlist_entry_id")
-                firstEntry_ = result.u.list->values[index].u.int64;
-    mpv_free_node_contents(&result);
 }
 
 void MpvEngine::setHeld(bool isHeld)

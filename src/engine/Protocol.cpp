@@ -13,6 +13,7 @@ template <class Value> struct Word {
     std::string_view word;
     Value value;
 };
+template <class Value> Word(const char*, Value) -> Word<Value>;
 
 constexpr std::array stateWords{
     Word<StreamState>{"connecting", StreamState::Connecting},

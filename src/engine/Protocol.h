@@ -118,7 +118,7 @@ using EngineEvent = std::variant<StateEvent, FailedEvent, TitleEvent>;
 class LineReader {
 public:
     /// Holds the longest address with every byte of it escaped.
-    static constexpr std::size_t longestLine = 32 * 1024;
+    static constexpr std::size_t longestLine = 32768;
 
     /// Takes the bytes over; then `nextLine` gives the lines that they end.
     void append(std::string_view bytes);

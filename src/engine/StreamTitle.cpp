@@ -55,14 +55,22 @@ std::size_t characterSize(char lead)
     return byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
 }
 
-/// The controls, and the characters that end a line or override the direction of what follows.
-bool isControl(std::string_view character)
+char32_t codePoint(std::string_view character)
 {
-    const auto isWithin = [character](std::string_view first, std::string_view last) {
-        return character.size() == first.size() && first <= character && character <= last;
-    };
-    return character[0] == '\0' || isWithin("\x01", "\x1F") || character == "\x7F" || isWithin("\xC2\x80", "\xC2\x9F")
-        || isWithin("\xE2\x80\xA8", "\xE2\x80\xAE") || isWithin("\xE2\x81\xA6", "\xE2\x81\xA9");
+    char32_t value = static_cast<unsigned char>(character.front());
+    if (character.size() > 1)
+        value &= 0x7FU >> character.size();
+    for (const char next : character.substr(1))
+        value = value << 6U | (static_cast<unsigned char>(next) & 0x3FU);
+    return value;
+}
+
+/// The controls, and the characters that end a line or override the direction of what follows.
+bool isControl(char32_t character)
+{
+    const auto isWithin = [character](
+                              char32_t first, char32_t last) { return character >= first && character <= last; };
+    return character < 0x20 || isWithin(0x7F, 0x9F) || isWithin(0x2028, 0x202E) || isWithin(0x2066, 0x2069);
 }
 
 std::string withoutControls(std::string_view text)
@@ -70,7 +78,7 @@ std::string withoutControls(std::string_view text)
     std::string result;
     while (!text.empty()) {
         const std::string_view character = text.substr(0, characterSize(text.front()));
-        result += isControl(character) ? " " : character;
+        result += isControl(codePoint(character)) ? " " : character;
         text.remove_prefix(character.size());
     }
     return result;

@@ -76,11 +76,11 @@ int main()
     // libmpv starts threads for every stream; an arena for each would keep what streams of the past have used.
     (void)mallopt(M_ARENA_MAX, 1);
     if (confineThisProcess() == Confinement::NotSupported)
-        std::fputs("sonavel-engine: this system cannot confine it, so it plays unconfined\n", stderr);
-    std::setlocale(LC_NUMERIC, "C");
+        (void)std::fputs("sonavel-engine: this system cannot confine it, so it plays unconfined\n", stderr);
+    (void)std::setlocale(LC_NUMERIC, "C");
     const auto engine = MpvEngine::create(tellPlayer);
     if (engine == nullptr) {
-        std::fputs("sonavel-engine: libmpv cannot be set up\n", stderr);
+        (void)std::fputs("sonavel-engine: libmpv cannot be set up\n", stderr);
         return EXIT_FAILURE;
     }
     run(*engine);

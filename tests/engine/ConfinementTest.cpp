@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -32,7 +33,7 @@ bool opens(const std::string& path, int flags)
     return ::open(path.c_str(), flags | O_CLOEXEC, 0600) >= 0;
 }
 
-TEST(Confinement, NothingOfTheUsersCanBeReadWrittenOrRemovedAndNoProgramStarted)
+TEST(Confinement, NothingOfTheUsersCanBeReadWrittenOrRemovedNoProgramStartedAndNoMemoryWithoutEndTaken)
 {
     const test::TemporaryFolder folder;
     const std::string list = folder.path("list.rdb");
@@ -45,6 +46,10 @@ TEST(Confinement, NothingOfTheUsersCanBeReadWrittenOrRemovedAndNoProgramStarted)
         result |= ::unlink(list.c_str()) == 0 ? 8 : 0;
         result |= ::rename(list.c_str(), "/dev/shm/stolen") == 0 ? 16 : 0;
         result |= opens("/etc/sonavel-test", O_WRONLY | O_CREAT) ? 32 : 0;
+        constexpr std::size_t tooMuch = std::size_t{2} << 30U;
+        void* const memory =
+            ::mmap(nullptr, tooMuch, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        result |= memory != MAP_FAILED ? 64 : 0;
         ::execl("/bin/false", "/bin/false", nullptr);
         return result;
     });
