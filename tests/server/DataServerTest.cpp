@@ -1,0 +1,133 @@
+#include "server/DataServer.h"
+
+#include "base/Moment.h"
+#include "model/KVStationWebRadio.h"
+#include "model/NameOrder.h"
+#include "model/StationListText.h"
+#include "playback/StreamAddress.h"
+#include "server/ConnectionThreads.h"
+#include "server/Stations.h"
+#include "storage/AESCrypt.h"
+#include "storage/Passphrase.h"
+#include "support/ServerHost.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <httplib.h>
+
+#include <atomic>
+
+namespace sonavel {
+namespace {
+
+class DataServerTest : public testing::Test {
+protected:
+    void start(const DataServerSettings& settings)
+    {
+        std::string whyNot;
+        server_ = DataServer::create(settings, whyNot);
+        ASSERT_NE(server_, nullptr) << whyNot;
+        client_ = std::make_unique<httplib::Client>(test::hostOf(*server_));
+    }
+
+    static DataServerSettings settings()
+    {
+        DataServerSettings settings;
+        settings.version = std::string("3.4.5");
+        settings.build = std::string("12");
+        return settings;
+    }
+
+    [[nodiscard]] std::string get(const std::string& query, int expectedStatus = 200)
+    {
+        const auto answer = client_->Get(("/app_data_files/testget.php" + query).c_str());
+        EXPECT_TRUE(answer) << query;
+        EXPECT_EQ(answer ? answer->status : 0, expectedStatus) << query;
+        return answer ? answer->body : "";
+    }
+
+    std::unique_ptr<DataServer> server_;
+    std::unique_ptr<httplib::Client> client_;
+};
+
+TEST_F(DataServerTest, TheStarterListArrivesAsThePlayerReadsIt)
+{
+    start(settings());
+    const Text body(get("?file=20161001000000_lr.rdb"));
+    const StationRecords records = recordsFromListText(AES256DecryptWithKey(body, stationDatabasePassphrase));
+    ASSERT_EQ(records.size(), starterStations().size());
+    EXPECT_GE(records.size(), 25U);
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        EXPECT_EQ(records[i]->radio(), Text(starterStations()[i].name));
+        EXPECT_FALSE(usableStreamAddress(records[i]->link()).isAbsent()) << records[i]->link().view();
+        const std::string_view former = i > 0 ? records[i - 1]->radio().view() : "";
+        EXPECT_TRUE(compareNames(former, records[i]->radio().view()) < 0) << records[i]->radio().view();
+    }
+}
+
+TEST_F(DataServerTest, TheVersionAnswerHasItsEightValuesInTheirPlaces)
+{
+    start(settings());
+    const auto answer =
+        client_->Post("/app_data_files/testpost.php", "file=sonavel.ini", "application/x-www-form-urlencoded");
+    ASSERT_TRUE(answer);
+    std::vector<std::string> values;
+    for (std::string_view rest = answer->body; !rest.empty();) {
+        const std::string_view line = rest.substr(0, rest.find('\r'));
+        rest.remove_prefix(line.size() + 1);
+        values.emplace_back(line.substr(line.find(';') + 1));
+    }
+    ASSERT_EQ(values.size(), 8U);
+    EXPECT_EQ(values[0], "Sonavel");
+    EXPECT_EQ(values[1], "3.4.5");
+    EXPECT_EQ(values[2], "12");
+    EXPECT_EQ(values[4], server_->baseAddress().view());
+    EXPECT_TRUE(momentFromInternationalForm(values[6]));
+    EXPECT_TRUE(momentFromInternationalForm(values[7]));
+}
+
+TEST_F(DataServerTest, WhatIsNotPublishedIsAnsweredWithAStatusAndNotWithAFile)
+{
+    const test::TemporaryFolder folder;
+    folder.put("list.rdb", "published");
+    DataServerSettings withFolder = settings();
+    withFolder.folder = folder.path();
+    start(withFolder);
+    EXPECT_EQ(get("?file=list.rdb"), "published");
+    for (const char* query : {"", "?file=", "?file=none", "?file=..%2f..%2fetc%2fpasswd", "?file=%2fetc%2fpasswd",
+             "?file=list.rdb%00", "?file=.%2flist.rdb", "?other=list.rdb"})
+        EXPECT_EQ(get(query, 404).find("root:"), std::string::npos) << query;
+    for (const char* form : {"", "file", "nothing=1", "file=../list.rdb"}) {
+        const auto answer = client_->Post("/app_data_files/testpost.php", form, "application/x-www-form-urlencoded");
+        EXPECT_EQ(answer ? answer->status : 404, 404) << form;
+    }
+    const auto tooBig = client_->Post(
+        "/app_data_files/testpost.php", "file=" + std::string(1 << 20, 'a'), "application/x-www-form-urlencoded");
+    EXPECT_TRUE(!tooBig || tooBig->status >= 400);
+    EXPECT_EQ(get("?file=list.rdb"), "published");
+}
+
+TEST_F(DataServerTest, AnAddressThatIsTakenIsToldInOneSentence)
+{
+    start(settings());
+    DataServerSettings same = settings();
+    same.address = "192.0.2.1";
+    same.port = 1;
+    std::string whyNot;
+    EXPECT_EQ(DataServer::create(same, whyNot), nullptr);
+    EXPECT_NE(whyNot.find("192.0.2.1"), std::string::npos);
+}
+
+TEST(ConnectionThreads, MoreTasksThanThreadsAreAllRun)
+{
+    std::atomic<int> done = 0;
+    {
+        ConnectionThreads threads(3);
+        for (int task = 0; task < 100; ++task)
+            threads.add([&] { ++done; });
+    }
+    EXPECT_EQ(done, 100);
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,112 @@
+#include "server/DataServer.h"
+#include "server/IcyStream.h"
+#include "server/Stations.h"
+#include "support/ServerHost.h"
+
+#include <gtest/gtest.h>
+#include <httplib.h>
+
+#include <condition_variable>
+#include <mutex>
+#include <set>
+#include <thread>
+
+namespace sonavel {
+namespace {
+
+/// What a listener makes of a stream with titles: the music alone, and every title in turn.
+struct Heard {
+    explicit Heard(std::string_view bytes)
+    {
+        while (bytes.size() > IcyStream::titleInterval) {
+            music += bytes.substr(0, IcyStream::titleInterval);
+            bytes.remove_prefix(IcyStream::titleInterval);
+            const std::size_t length = 16U * static_cast<unsigned char>(bytes.front());
+            const std::string_view block = bytes.substr(1, length);
+            if (length > 0)
+                titles.emplace_back(block.substr(0, block.find('\0')));
+            bytes.remove_prefix(std::min(1 + length, bytes.size()));
+        }
+    }
+
+    std::string music;
+    std::vector<std::string> titles;
+};
+
+/// The length of the MP3 frame at the head, 0 when there is none.
+std::size_t frameLength(std::string_view bytes)
+{
+    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(bytes[index]); };
+    const bool isFrame = bytes.size() >= 4 && byte(0) == 0xFF && (byte(1) & 0xFEU) == 0xFA && (byte(2) & 0xFCU) == 0x90;
+    return isFrame ? 144 * 128'000 / 44'100 + ((byte(2) >> 1U) & 1U) : 0;
+}
+
+TEST(DemoStream, FramesAndTitlesStayInTheirPlacesPastTheEndOfTheLoop)
+{
+    for (const DemoStation& station : demoStations()) {
+        EXPECT_GE(station.music.size(), 30 * IcyStream::bytesPerSecond) << station.name;
+        IcyStream stream(station, IcyStream::Titles::Interleaved);
+        std::string bytes;
+        while (stream.musicSent() < 2 * station.music.size() + IcyStream::titleInterval)
+            bytes += stream.next(4096);
+        const Heard heard(bytes);
+
+        std::string_view rest = heard.music;
+        while (rest.size() > 1000) {
+            const std::size_t length = frameLength(rest);
+            ASSERT_NE(length, 0U) << station.name << " at " << heard.music.size() - rest.size();
+            rest.remove_prefix(length);
+        }
+        ASSERT_GE(heard.titles.size(), 2 * station.titles.size());
+        EXPECT_EQ(std::set(heard.titles.begin(), heard.titles.end()).size(), station.titles.size());
+        EXPECT_EQ(heard.titles.front(), "StreamTitle='" + station.titles.front() + "';");
+    }
+}
+
+TEST(DemoStream, ListenersWithoutTitlesGetTheMusicAsItIs)
+{
+    const DemoStation& station = demoStations().front();
+    IcyStream stream(station, IcyStream::Titles::None);
+    std::string bytes;
+    while (bytes.size() < station.music.size())
+        bytes += stream.next(10'000);
+    EXPECT_TRUE(bytes == station.music);
+}
+
+TEST(DemoStream, ManyListenersKeepNobodyFromAnAnswerAndTheServerFromItsEnd)
+{
+    DataServerSettings settings;
+    settings.content = DataServerSettings::Content::Demo;
+    std::string whyNot;
+    auto server = DataServer::create(settings, whyNot);
+    ASSERT_NE(server, nullptr) << whyNot;
+
+    constexpr int most = 12;
+    std::mutex mutex;
+    std::condition_variable heard;
+    int listening = 0;
+    std::vector<std::thread> listeners;
+    for (int number = 0; number < most; ++number)
+        listeners.emplace_back([&, address = test::hostOf(*server)] {
+            httplib::Client client(address);
+            bool isFirst = true;
+            client.Get("/demo/harbour.mp3", {{"Icy-MetaData", "1"}}, [&](const char*, std::size_t) {
+                const std::lock_guard lock(mutex);
+                listening += std::exchange(isFirst, false) ? 1 : 0;
+                heard.notify_one();
+                return true;
+            });
+        });
+    {
+        std::unique_lock lock(mutex);
+        ASSERT_TRUE(heard.wait_for(lock, std::chrono::seconds(30), [&] { return listening == most; }));
+    }
+    const auto answer = httplib::Client(test::hostOf(*server)).Get("/");
+    EXPECT_TRUE(answer);
+    server.reset();
+    for (std::thread& listener : listeners)
+        listener.join();
+}
+
+} // namespace
+} // namespace sonavel

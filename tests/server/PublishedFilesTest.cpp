@@ -1,0 +1,44 @@
+#include "server/PublishedFiles.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace sonavel {
+namespace {
+
+TEST(PublishedFiles, APublishedFileWinsOverTheBuiltInAnswer)
+{
+    const test::TemporaryFolder folder;
+    PublishedFiles files(folder.path());
+    files.addBuiltIn("list.rdb", "built in");
+    EXPECT_EQ(files.contentOf("list.rdb"), "built in");
+    folder.put("list.rdb", "published");
+    EXPECT_EQ(files.contentOf("list.rdb"), "published");
+    EXPECT_EQ(files.contentOf("other.rdb"), std::nullopt);
+    EXPECT_EQ(PublishedFiles("").contentOf("list.rdb"), std::nullopt);
+}
+
+TEST(PublishedFiles, NothingButPlainFilesOfTheFolderItselfIsGivenOut)
+{
+    const test::TemporaryFolder outside;
+    outside.put("secret", "secret");
+    const test::TemporaryFolder folder;
+    folder.put(".hidden", "secret");
+    ASSERT_EQ(::mkdir(folder.path("inner").c_str(), 0700), 0);
+    folder.put("inner/file", "secret");
+    ASSERT_EQ(::symlink(outside.path("secret").c_str(), folder.path("link").c_str()), 0);
+    ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
+
+    const PublishedFiles files(folder.path());
+    for (const std::string& name : {std::string(), std::string("."), std::string(".."), std::string(".hidden"),
+             std::string("inner"), std::string("inner/file"), std::string("inner\\file"), std::string("link"),
+             std::string("pipe"), outside.path("secret"), "../" + outside.path("secret"), std::string("list\0", 5),
+             std::string("a\nb"), std::string(256, 'a')})
+        EXPECT_EQ(files.contentOf(name), std::nullopt) << name;
+}
+
+} // namespace
+} // namespace sonavel
