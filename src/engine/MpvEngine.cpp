@@ -184,7 +184,7 @@ void MpvEngine::noteLogLine(const mpv_event& event)
     const auto* message = static_cast<const mpv_event_log_message*>(event.data);
     // It may come after the end that it explains.
     const bool isUnexplained = !failure_ || *failure_ == PlaybackFailure::Unknown;
-    if (const auto failure = failureFromLogLine(message->text); load_ && failure && isUnexplained)
+    if (const auto failure = failureFromLogLine(message->text); load_ && hasBegun_ && failure && isUnexplained)
         failure_ = failure;
 }
 
