@@ -7,11 +7,13 @@ rounds without the bit reservoir: the last frame is followed by the first as if 
 """
 
 import array
+import io
 import math
 import os
 import random
 import subprocess
 import sys
+import wave
 
 RATE = 44100
 FRAME = 1152  # samples in one MP3 frame
@@ -92,16 +94,22 @@ def vibraphone(hertz, seconds):
     return samples
 
 
-def plucked(hertz, seconds, brightness=0.5, decay=0.996):
-    """A plucked string: a burst of noise runs around a delay line that smooths it at every round."""
+def plucked(hertz, seconds, brightness, decay):
+    """A plucked string: a burst of noise runs around a delay line that smooths it at every round.
+
+    `brightness` (0 to 1) is how hard the burst is, `decay` (just below 1) how long the string rings.
+    """
     noise = random.Random(int(hertz * 100))
     period = RATE / hertz
     size = int(period - 0.5)
     tuning = period - 0.5 - size
     tuning = (1.0 - tuning) / (1.0 + tuning)
     line = [noise.uniform(-1.0, 1.0) for _ in range(size)]
-    for _ in range(3):
-        line = [brightness * line[i] + (1.0 - brightness) * line[i - 1] for i in range(size)]
+    for _ in range(2):
+        dull = line[-1]
+        for i in range(size):
+            dull += brightness * (line[i] - dull)
+            line[i] = dull
     middle = sum(line) / size
     line = [value - middle for value in line]
     peak = max(abs(value) for value in line)
@@ -122,11 +130,11 @@ def plucked(hertz, seconds, brightness=0.5, decay=0.996):
 
 
 def guitar(hertz, seconds):
-    return plucked(hertz, seconds, 0.45, 0.995)
+    return plucked(hertz, seconds, 0.30, 0.995)
 
 
 def string_bass(hertz, seconds):
-    return plucked(hertz, seconds, 0.25, 0.993)
+    return plucked(hertz, seconds, 0.07, 0.992)
 
 
 def electric_piano(hertz, seconds):
@@ -150,7 +158,8 @@ def round_bass(hertz, seconds):
     for i in range(count):
         t = i / RATE
         envelope = min(1.0, t / 0.012) * math.exp(-t / 0.9)
-        samples[i] = envelope * (0.75 * math.sin(turn * i) + 0.22 * math.sin(2 * turn * i) + 0.06 * math.sin(3 * turn * i))
+        tone = 0.75 * math.sin(turn * i) + 0.22 * math.sin(2 * turn * i) + 0.06 * math.sin(3 * turn * i)
+        samples[i] = envelope * tone
     return fade_out(samples, 0.08)
 
 
@@ -219,17 +228,14 @@ class Loop:
         self.right = mixed(self.right, room(self.right, tail, damping, 23), share)
 
     def soften(self, strength):
-        """Takes the top off: two smoothing filters in a row, `strength` 0 to 1, lower is duller."""
+        """Takes the top off: a smoothing filter, started where it ends; `strength` 0 to 1, lower is duller."""
         for channel in (self.left, self.right):
-            first = second = 0.0
-            for _ in range(2):
-                for i in range(self.length):
-                    first += strength * (channel[i] - first)
-                    if _ == 1:
-                        second += strength * (first - second)
-                        channel[i] = second
-                    else:
-                        second += strength * (first - second)
+            smooth = 0.0
+            for sample in channel[-RATE:]:
+                smooth += strength * (sample - smooth)
+            for i, sample in enumerate(channel):
+                smooth += strength * (sample - smooth)
+                channel[i] = smooth
 
     def finished(self, loudness):
         """16-bit samples, left and right in turn; peaks are rounded off, never cut."""
@@ -306,15 +312,15 @@ def harbour():
     chord_length = loop.length / len(chords)
     for number, chord in enumerate(chords):
         start = number * chord_length - 0.5 * RATE
-        for voice, note in enumerate(chord):
-            loop.play(pad, note, start, chord_length / RATE, 0.30 if voice == 0 else 0.22, 0.3 * (voice % 2 * 2 - 1) if voice else 0)
+        for note, level, pan in zip(chord, (0.30, 0.22, 0.22, 0.22, 0.22), (0, 0.3, -0.3, 0.3, -0.3)):
+            loop.play(pad, note, start, chord_length / RATE, level, pan)
         for place, note in bells[number]:
             start = (number + place) * chord_length
             for echo in range(3):
                 pan = (-0.35, 0.5, -0.6)[echo]
-                loop.play(bell, note, start + echo * chord_length / 8, 0, 0.20 * 0.42 ** echo, pan)
+                loop.play(bell, note, start + echo * chord_length / 8, 0, 0.27 * 0.42 ** echo, pan)
     loop.reverberate(0.9, 0.86)
-    return loop.finished(0.62)
+    return loop.finished(0.60)
 
 
 def orchard():
@@ -356,16 +362,16 @@ def orchard():
     for number, (chord, *tune) in enumerate(bars):
         start = number * 3 * beat
         bass, *inner = chords[chord]
-        loop.play(string_bass, bass, start, 1.1, 0.62, -0.1)
+        loop.play(string_bass, bass, start, 1.1, 1.25, -0.1)
         for step in range(4):  # the broken chord: four eighths from the second beat on
-            note = inner[(0, 1, 2, 1)[step]]
-            loop.play(guitar, note, start + (1 + step / 2) * beat + hand.uniform(0, 250), 0.9, 0.24 - 0.03 * (step % 2), 0.45)
+            place = start + (1 + step / 2) * beat + hand.uniform(0, 250)
+            loop.play(guitar, inner[(0, 1, 2, 1)[step]], place, 0.9, 0.40 - 0.05 * (step % 2), 0.45)
         place = start
         for note, beats in tune:
-            loop.play(marimba, note, place + hand.uniform(0, 250), 0, 0.50 if place == start else 0.42, -0.3)
+            loop.play(marimba, note, place + hand.uniform(0, 250), 0, 0.42 if place == start else 0.36, -0.3)
             place += beats * beat
     loop.reverberate(0.30, 0.72)
-    return loop.finished(0.95)
+    return loop.finished(0.53)
 
 
 def lamplight():
@@ -403,7 +409,8 @@ def lamplight():
         bass, *hands = chords[chord]
         for sixteenth, seconds, level in ((0, 1.5, 0.20), (6, 0.4, 0.13), (11, 1.0, 0.16)):
             for voice, note in enumerate(hands):
-                loop.play(electric_piano, note, place(bar, sixteenth) + voice * 260, seconds, level, -0.3 + 0.15 * voice)
+                start = place(bar, sixteenth) + voice * 260
+                loop.play(electric_piano, note, start, seconds, level, -0.3 + 0.15 * voice)
         for sixteenth, seconds, level in ((0, 1.2, 0.50), (10, 0.5, 0.38), (14, 0.35, 0.32)):
             loop.play(round_bass, bass, place(bar, sixteenth), seconds, level)
         for sixteenth in (0, 7, 10) if bar % 2 else (0, 10):
@@ -413,10 +420,10 @@ def lamplight():
         for sixteenth in range(0, 16, 2):
             loop.play(hat, "A4", place(bar, sixteenth), 0, 0.20 if sixteenth % 4 else 0.13, 0.3)
         for sixteenth, note in tune:
-            loop.play(vibraphone, note, place(bar, sixteenth), 0, 0.21, 0.35)
-    loop.soften(0.62)
+            loop.play(vibraphone, note, place(bar, sixteenth), 0, 0.28, 0.35)
+    loop.soften(0.5)
     loop.reverberate(0.22, 0.74)
-    return loop.finished(0.85)
+    return loop.finished(0.88)
 
 
 PIECES = {"harbour": harbour, "orchard": orchard, "lamplight": lamplight}
@@ -424,10 +431,14 @@ PIECES = {"harbour": harbour, "orchard": orchard, "lamplight": lamplight}
 
 def encode(samples, target):
     """Writes the frames of one round of the loop, taken from the middle of three."""
-    command = ["lame", "--quiet", "-r", "-s", "44.1", "--signed", "--little-endian", "--bitwidth", "16", "-m", "j",
-               "--cbr", "-b", "128", "-q", "0", "--nores", "-t", "-", "-"]
-    rounds = samples.tobytes() * 3
-    mp3 = subprocess.run(command, input=rounds, stdout=subprocess.PIPE, check=True).stdout
+    rounds = io.BytesIO()
+    with wave.open(rounds, "wb") as sound:
+        sound.setnchannels(2)
+        sound.setsampwidth(2)
+        sound.setframerate(RATE)
+        sound.writeframes(samples.tobytes() * 3)
+    command = ["lame", "--quiet", "-m", "j", "--cbr", "-b", "128", "-q", "0", "--nores", "-t", "-", "-"]
+    mp3 = subprocess.run(command, input=rounds.getvalue(), stdout=subprocess.PIPE, check=True).stdout
     count = len(samples) // 2 // FRAME
     frames = mp3_frames(mp3)[count:2 * count]
     with open(target, "wb") as file:
