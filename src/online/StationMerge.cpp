@@ -11,13 +11,13 @@ namespace {
 
 /// What all downloaded stations of one name come to.
 struct Update {
-    /// The first of them: this one is appended when no stored station has the
-    /// name.
+    /// The first of them: this one is appended when no stored station has the name.
     const KVStationWebRadio* first;
     /// The last of them, whose address remains.
     const KVStationWebRadio* last;
-    /// Whether they do not all have the same address, so that one after another
-    /// changes it.
+    /// That address, so that comparing it need not look for its station.
+    std::string_view lastLink;
+    /// Whether they do not all have the same address, so that one after another changes it.
     bool linkVaries = false;
     bool isStored = false;
 };
@@ -35,19 +35,20 @@ Updates updatesFrom(const StationRecords& downloaded)
     updates.byName.reserve(downloaded.size());
     updates.inOrder.reserve(downloaded.size());
     for (const auto& station : downloaded) {
+        const std::string_view link = station->link().view();
         const auto [found, isNew] =
-            updates.byName.try_emplace(station->radio().view(), Update{station.get(), station.get()});
+            updates.byName.try_emplace(station->radio().view(), Update{station.get(), station.get(), link});
         Update& update = found->second;
         if (isNew)
             updates.inOrder.push_back(&update);
-        update.linkVaries = update.linkVaries || update.last->link() != station->link();
+        update.linkVaries = update.linkVaries || update.lastLink != link;
         update.last = station.get();
+        update.lastLink = link;
     }
     return updates;
 }
 
-/// Gives the stored stations their new addresses and marks the updates that met
-/// one.
+/// Gives the stored stations their new addresses and marks the updates that met one.
 bool updateStored(StationRecords& stored, Updates& updates)
 {
     bool changed = false;
@@ -58,7 +59,7 @@ bool updateStored(StationRecords& stored, Updates& updates)
         Update& update = found->second;
         update.isStored = true;
         changed = changed || update.linkVaries;
-        if (station->link() == update.last->link())
+        if (!station->link().isAbsent() && station->link().view() == update.lastLink)
             continue;
         station->setLink(update.last->link());
         changed = true;
