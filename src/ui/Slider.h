@@ -16,19 +16,25 @@ struct SliderState {
     friend bool operator==(const SliderState&, const SliderState&) = default;
 };
 
-/// Its value lies between its minimum and its maximum; a value set beyond them becomes the nearer one, and one that is
-/// no number changes nothing.
+/// Its value lies between its minimum and its maximum, also when these change; a value set beyond them becomes the
+/// nearer one, and one that is no number changes nothing.
 class Slider : public Rendered<SliderState> {
 public:
     [[nodiscard]] float floatValue() const { return static_cast<float>(state().value); }
 
     void setMinValue(double value)
     {
-        update([&](SliderState& state) { state.minValue = value; });
+        update([&](SliderState& state) {
+            state.minValue = value;
+            put(state, state.value);
+        });
     }
     void setMaxValue(double value)
     {
-        update([&](SliderState& state) { state.maxValue = value; });
+        update([&](SliderState& state) {
+            state.maxValue = value;
+            put(state, state.value);
+        });
     }
     void setDoubleValue(double value)
     {

@@ -123,6 +123,17 @@ TEST(SliderBinding, RenderingKeepsTheProgramsOwnValue)
     EXPECT_EQ(moves, 0);
 }
 
+TEST(SliderBinding, TheValueFollowsARangeThatLeavesItOutside)
+{
+    Slider slider;
+    slider.connect({0.0, 100.0, 50.0, true});
+    slider.setMaxValue(1.0);
+    EXPECT_EQ(slider.floatValue(), 1.0F);
+    slider.setMaxValue(3.0);
+    slider.setMinValue(2.0);
+    EXPECT_EQ(slider.floatValue(), 2.0F);
+}
+
 TEST(SliderBinding, AMoveOfTheUserIsStoredBeforeTheActionHearsOfIt)
 {
     Slider slider;
