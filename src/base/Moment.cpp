@@ -1,5 +1,7 @@
 #include "base/Moment.h"
 
+#include "base/Numbers.h"
+
 #include <array>
 #include <charconv>
 #include <chrono>
@@ -16,7 +18,7 @@ std::optional<int> takeDigits(std::string_view& rest, std::size_t digits)
         return std::nullopt;
     int value = 0;
     for (const char digit : rest.substr(0, digits)) {
-        if (digit < '0' || digit > '9')
+        if (!isDigit(digit))
             return std::nullopt;
         value = value * 10 + (digit - '0');
     }

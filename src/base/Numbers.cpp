@@ -11,11 +11,6 @@ namespace sonavel {
 
 namespace {
 
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
 std::string_view withoutLeading(std::string_view text, std::string_view characters)
 {
     text.remove_prefix(std::min(text.find_first_not_of(characters), text.size()));

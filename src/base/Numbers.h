@@ -7,6 +7,12 @@
 
 namespace sonavel {
 
+/// Whether it is one of the digits 0 to 9.
+[[nodiscard]] constexpr bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
 /// The number at the head of a text, after white space and an optional sign; what follows it is ignored. 0 for a text
 /// without one, an absent text included.
 ///

@@ -1,5 +1,7 @@
 #include "model/NameKeys.h"
 
+#include "base/Numbers.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstring>

@@ -9,11 +9,6 @@
 
 namespace sonavel {
 
-[[nodiscard]] constexpr bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
 /// Cuts the digits at the head of `name` off and returns them without leading zeros; none remain of the number 0.
 [[nodiscard]] std::string_view takeNumber(std::string_view& name);
 

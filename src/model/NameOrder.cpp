@@ -1,5 +1,6 @@
 #include "model/NameOrder.h"
 
+#include "base/Numbers.h"
 #include "model/NameKeys.h"
 
 #include <algorithm>
