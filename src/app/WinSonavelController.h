@@ -14,8 +14,11 @@
 #include "prefs/PreferencesWindow.h"
 #include "storage/StationDatabase.h"
 
+#include <memory>
+
 namespace sonavel {
 
+class AppUpdater;
 struct Outlets;
 
 /// How it is started: make it, `init`, connect the outlets, `awakeFromNib`. All of it on the main thread.
@@ -48,6 +51,8 @@ public:
     Player player;
     StationSelection stationSelection;
     ServerDates serverDates;
+    /// The checker of the last check for a new version; absent before the first.
+    std::shared_ptr<AppUpdater> updaterApp;
     Connectivity connectivity;
     CalendarDays calendarDays;
     StationRefresh stationRefresh;

@@ -2,16 +2,36 @@
 #pragma once
 
 #include "ui/Button.h"
+#include "ui/ImageView.h"
+#include "ui/MenuItem.h"
 #include "ui/PopUpButton.h"
 #include "ui/Slider.h"
 #include "ui/TableView.h"
 #include "ui/TextField.h"
+#include "ui/Toolbar.h"
+#include "ui/ToolbarItem.h"
 #include "ui/Window.h"
 
 namespace sonavel {
 
 /// The controls exist from the start; a toolkit connects those whose windows it has, between the two start-up phases.
+/// Some are there for the windows' own use: the program neither reads nor sets them.
 struct Outlets {
+    MenuItem menuRadioAdd;
+    MenuItem menuRadioEdit;
+    MenuItem menuRadioRemove;
+    MenuItem menuRadioImport;
+    MenuItem menuRadioExport;
+    MenuItem menuRadioShowEditRadio;
+    MenuItem menuPlayPause;
+    MenuItem menuStop;
+    MenuItem menuMute;
+    MenuItem menuPreviousStation;
+    MenuItem menuNextStation;
+    MenuItem menuCheckUpdates;
+
+    Window winSplashScreen;
+
     Window winSonavel;
     PopUpButton popupbuttonRadioList;
     Button buttonPlayPause;
@@ -22,14 +42,34 @@ struct Outlets {
     TextField labelVolume;
 
     Window winWebRadioListEdit;
+    Toolbar toolBar;
+    ToolbarItem radioAdd;
+    ToolbarItem radioRemove;
     TableView tableViewListRadio;
 
+    /// The sheet of the station list window.
+    Window winEditData;
+    TextField textFieldRadioName;
+    TextField textFieldRadioLink;
+    Button buttonAction;
+    Button buttonCancel;
+
+    Window winPreferences;
     Button checkBoxDefaultAutoPlayAtStartApp;
     Button checkBoxDefaultAutoPlay;
+    TextField labelSetDeaultRadio;
     PopUpButton popupDefaultButtonListRadio;
+    TextField labelSetDefaultVolume;
     Slider sliderDefaultVolume;
 
     Window winUpdateNotification;
+
+    // What the program tells of itself.
+    ImageView imageAppIcon;
+    TextField labelAppName;
+    TextField labelAppVersion;
+    TextField labelAppLicense;
+    TextField labelAppCopytight;
 };
 
 } // namespace sonavel
