@@ -6,6 +6,7 @@
 #include "adapters/PosixFiles.h"
 #include "adapters/SystemClock.h"
 #include "app/Actions.h"
+#include "app/AppDelegate.h"
 #include "app/Gate.h"
 #include "app/Ports.h"
 #include "app/WinSonavelController.h"
@@ -103,6 +104,7 @@ struct Program::Parts {
     EngineProcess engine;
 
     Outlets outlets;
+    AppDelegate appDelegate;
     WinSonavelController controller;
     Gate gate;
     Actions actions;
@@ -168,6 +170,7 @@ void Program::start(std::function<void()> whenVisible)
         whenVisible();
     });
     parts_->controller.awakeFromNib();
+    parts_->appDelegate.applicationDidFinishLaunching();
 }
 
 void Program::buildMainWindow()
@@ -175,6 +178,7 @@ void Program::buildMainWindow()
     parts_->mainWindow = std::make_unique<MainWindow>();
     MainWindow& window = *parts_->mainWindow;
     connectMainWindow(parts_->outlets, window);
+    parts_->appDelegate.window = &parts_->outlets.winSonavel;
     parts_->windowMemory.restore(window);
     parts_->engine.setNowPlayingObserver([&window](const NowPlaying& nowPlaying) {
         const bool sounds = nowPlaying.state == NowPlaying::State::Playing;
@@ -208,6 +212,7 @@ void Program::endAsTheSessionDoes()
 {
     if (parts_->isInitialized)
         parts_->controller.preferences.updatePreference();
+    parts_->appDelegate.applicationWillTerminate();
     parts_->process.exit(0);
 }
 
