@@ -49,7 +49,7 @@ void PlistPreferenceDomains::synchronize()
 
 void PlistPreferenceDomains::write(const Text& path, StoredDomain& domain)
 {
-    if (domain.isFileDamaged && !keepRescueCopy(files_, path, "damaged"))
+    if (domain.isFileDamaged && !keepDamaged(files_, path))
         return;
     domain.isFileDamaged = false;
     files_.makeFolder(folder());

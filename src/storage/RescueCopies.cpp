@@ -95,4 +95,10 @@ bool setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reaso
     return keep(files, path, reason, &Files::moveFile);
 }
 
+bool keepDamaged(Files& files, const Text& path)
+{
+    constexpr std::string_view reason = "damaged";
+    return keepRescueCopy(files, path, reason) || setAsideAsRescueCopy(files, path, reason);
+}
+
 } // namespace sonavel

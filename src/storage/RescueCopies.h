@@ -15,4 +15,8 @@ namespace sonavel {
 /// The same by renaming, so that nothing is left at `path`; takes folders too.
 [[nodiscard]] bool setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reason);
 
+/// Keeps what cannot be read as "damaged", so that a new file may take its place: in either way, as the second also
+/// works for folders. False when neither does; then it must not be replaced.
+[[nodiscard]] bool keepDamaged(Files& files, const Text& path);
+
 } // namespace sonavel

@@ -83,9 +83,8 @@ bool StationDatabase::keepUnreadDatabase()
     if (databaseMayBeReplaced_ || !fileRadioDBVerify(false))
         return true;
     const bool isReadable = !databaseText(files_.contentsOfFile(databasePath_)).isAbsent();
-    databaseMayBeReplaced_ = isReadable
-        ? keepRescueCopy(files_, databasePath_, "before-import")
-        : keepRescueCopy(files_, databasePath_, "damaged") || setAsideAsRescueCopy(files_, databasePath_, "damaged");
+    databaseMayBeReplaced_ =
+        isReadable ? keepRescueCopy(files_, databasePath_, "before-import") : keepDamaged(files_, databasePath_);
     return databaseMayBeReplaced_;
 }
 

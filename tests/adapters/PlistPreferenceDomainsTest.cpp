@@ -68,17 +68,28 @@ TEST_F(PlistPreferenceDomainsTest, AnUnreadableFileIsNotStoredAndKeptBeforeTheFi
 
 TEST_F(PlistPreferenceDomainsTest, WhatCannotBeKeptIsNotReplaced)
 {
-    files.files = {{path, "rubbish"}};
-    files.failAll("keep");
+    const std::map<std::string, std::string> before{{path, "rubbish"}, {copy, "older"}};
+    files.files = before;
+    files.failAll("list");
     PlistPreferenceDomains domains(files);
     store(domains, some);
-    EXPECT_EQ(files.files, (std::map<std::string, std::string>{{path, "rubbish"}}));
+    EXPECT_EQ(files.files, before);
     EXPECT_EQ(domains.persistentDomainForName(name), some);
 
     files.failAll("");
     domains.synchronize();
     EXPECT_EQ(storedOnDisk(), some);
-    EXPECT_EQ(files.files[copy], "rubbish");
+    EXPECT_EQ(files.files[copy], "older");
+    EXPECT_EQ(files.files[files.inPreferences("Mertzan-Software.Sonavel.damaged-2.plist")], "rubbish");
+}
+
+TEST_F(PlistPreferenceDomainsTest, AFolderInTheFilesPlaceDoesNotKeepThePreferencesFromBeingStored)
+{
+    files.folders = {path};
+    PlistPreferenceDomains domains(files);
+    store(domains, some);
+    EXPECT_EQ(storedOnDisk(), some);
+    EXPECT_TRUE(files.folders.contains(copy));
 }
 
 TEST_F(PlistPreferenceDomainsTest, AFailedWriteLeavesTheFormerDomainAndIsTriedAgain)
