@@ -29,8 +29,7 @@ struct DataServerSettings {
     double burstSeconds = 4.0;
 };
 
-/// Serves on threads of its own from `create` until it is destroyed, which ends running streams and takes no longer
-/// than a slow request.
+/// Serves on threads of its own from `create` until it is destroyed, which ends running streams and requests at once.
 ///
 /// `GET /` answers with a small page. `GET /app_data_files/testget.php?file=NAME` and `POST
 /// /app_data_files/testpost.php` with the form field `file=NAME` answer with what is published under that name, status

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <utility>
 
 namespace sonavel {
@@ -64,6 +65,8 @@ std::optional<std::string> PublishedFiles::contentOf(const std::string& name) co
             close(file);
             return content;
         }
+        if (errno != ENOENT)
+            return std::nullopt;
     }
     const auto found = builtIn_.find(name);
     if (found == builtIn_.end())

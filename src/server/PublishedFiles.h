@@ -21,6 +21,7 @@ public:
 
     /// The content published under a name. Only a plain name of a regular file in the folder itself is looked for:
     /// nothing with a "/", "\" or control character, hidden, of more than 255 bytes, behind a link, or above 64 MiB.
+    /// What is there but cannot be given out is not replaced by the built-in answer.
     [[nodiscard]] std::optional<std::string> contentOf(const std::string& name) const;
 
 private:

@@ -32,7 +32,8 @@ TEST(PublishedFiles, NothingButPlainFilesOfTheFolderItselfIsGivenOut)
     ASSERT_EQ(::symlink(outside.path("secret").c_str(), folder.path("link").c_str()), 0);
     ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
 
-    const PublishedFiles files(folder.path());
+    PublishedFiles files(folder.path());
+    files.addBuiltIn("link", "built in");
     for (const std::string& name : {std::string(), std::string("."), std::string(".."), std::string(".hidden"),
              std::string("inner"), std::string("inner/file"), std::string("inner\\file"), std::string("link"),
              std::string("pipe"), outside.path("secret"), "../" + outside.path("secret"), std::string("list\0", 5),

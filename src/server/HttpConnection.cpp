@@ -1,0 +1,134 @@
+#include "server/HttpConnection.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace sonavel {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto timeBetweenRequests = 2s;
+constexpr auto timeOfARequest = 10s;
+constexpr auto timeWithoutTaking = 30s;
+constexpr auto timeOfAFarewell = 500ms;
+constexpr std::size_t sizeOfARequest = 128 * 1024;
+constexpr std::size_t sizeOfAFarewell = 1024 * 1024;
+
+} // namespace
+
+HttpConnection::HttpConnection(socket_t socket)
+    : socket_(socket)
+{
+    fcntl(socket_, F_SETFD, FD_CLOEXEC);
+}
+
+HttpConnection::~HttpConnection()
+{
+    shutdown(socket_, SHUT_WR);
+    if (isCutShort_)
+        drain();
+    close(socket_);
+}
+
+bool HttpConnection::awaitRequest()
+{
+    if (begin_ == end_ && !waitFor(POLLIN, timeBetweenRequests))
+        return false;
+    deadline_ = Clock::now() + timeOfARequest;
+    allowance_ = sizeOfARequest;
+    return true;
+}
+
+void HttpConnection::abort() const
+{
+    shutdown(socket_, SHUT_RDWR);
+}
+
+bool HttpConnection::is_readable() const
+{
+    return begin_ < end_ || waitFor(POLLIN, deadline_ - Clock::now());
+}
+
+bool HttpConnection::is_writable() const
+{
+    return waitFor(POLLOUT, timeWithoutTaking);
+}
+
+ssize_t HttpConnection::read(char* bytes, std::size_t size)
+{
+    if (begin_ == end_ && !receive())
+        return isCutShort_ ? -1 : 0;
+    const std::size_t count = std::min(size, end_ - begin_);
+    std::copy_n(received_.data() + begin_, count, bytes);
+    begin_ += count;
+    return static_cast<ssize_t>(count);
+}
+
+/// False at the end of what the client sends, or at a limit.
+bool HttpConnection::receive()
+{
+    if (allowance_ == 0 || !waitFor(POLLIN, deadline_ - Clock::now())) {
+        isCutShort_ = true;
+        return false;
+    }
+    const ssize_t count = recv(socket_, received_.data(), std::min(received_.size(), allowance_), 0);
+    if (count <= 0)
+        return false;
+    begin_ = 0;
+    end_ = static_cast<std::size_t>(count);
+    allowance_ -= end_;
+    return true;
+}
+
+ssize_t HttpConnection::write(const char* bytes, std::size_t size)
+{
+    if (!waitFor(POLLOUT, timeWithoutTaking))
+        return -1;
+    return send(socket_, bytes, size, MSG_NOSIGNAL | MSG_DONTWAIT);
+}
+
+/// A close with bytes left unread resets the connection, and the client may lose the answer: takes some of them first.
+void HttpConnection::drain()
+{
+    const auto end = Clock::now() + timeOfAFarewell;
+    for (std::size_t taken = 0; taken < sizeOfAFarewell && waitFor(POLLIN, end - Clock::now());) {
+        const ssize_t count = recv(socket_, received_.data(), received_.size(), 0);
+        if (count <= 0)
+            return;
+        taken += static_cast<std::size_t>(count);
+    }
+}
+
+bool HttpConnection::waitFor(short events, Clock::duration time) const
+{
+    const auto end = Clock::now() + time;
+    for (;;) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now());
+        pollfd waiting{socket_, events, 0};
+        const int ready = poll(&waiting, 1, std::max(0, static_cast<int>(left.count())));
+        if (ready >= 0 || errno != EINTR)
+            return ready > 0;
+    }
+}
+
+// The handlers of this server do not ask who the client is.
+
+void HttpConnection::get_remote_ip_and_port(std::string& ip, int& port) const
+{
+    ip.clear();
+    port = 0;
+}
+
+void HttpConnection::get_local_ip_and_port(std::string& ip, int& port) const
+{
+    get_remote_ip_and_port(ip, port);
+}
+
+} // namespace sonavel

@@ -1,0 +1,159 @@
+#include "server/HttpServer.h"
+
+#include "server/HttpConnection.h"
+
+#include <sys/socket.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <future>
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+constexpr std::size_t mostConnections = 64;
+constexpr std::size_t mostRequestsOfAConnection = 20;
+constexpr std::size_t largestForm = 64 * 1024;
+constexpr int mostWaitingToConnect = 128;
+
+/// Lets the library use threads that are made when they are needed.
+class TaskQueue final : public httplib::TaskQueue {
+public:
+    void enqueue(std::function<void()> task) override { threads_.add(std::move(task)); }
+    void shutdown() override { threads_.finish(); }
+
+private:
+    ConnectionThreads threads_{mostConnections};
+};
+
+/// The library would let several servers share a port, and the user would not learn that it is taken.
+void takePortAlone(socket_t socket)
+{
+    const int yes = 1;
+    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+}
+
+/// Threads that are made in its lifetime leave all signals to the others.
+class SignalsHeldBack {
+public:
+    SignalsHeldBack()
+    {
+        sigset_t all{};
+        sigfillset(&all);
+        pthread_sigmask(SIG_BLOCK, &all, &before_);
+    }
+    SignalsHeldBack(const SignalsHeldBack&) = delete;
+    SignalsHeldBack& operator=(const SignalsHeldBack&) = delete;
+    ~SignalsHeldBack() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+private:
+    sigset_t before_{};
+};
+
+/// Empty for errors that tell a user nothing.
+std::string reasonFrom(int error)
+{
+    switch (error) {
+    case EADDRINUSE:
+        return ": another program does";
+    case EADDRNOTAVAIL:
+        return ": this machine has no such address";
+    case EACCES:
+        return ": it needs more rights";
+    default:
+        return "";
+    }
+}
+
+} // namespace
+
+int HttpServer::listenAt(const std::string& address, int port, std::string& whyNot)
+{
+    set_payload_max_length(largestForm);
+    set_keep_alive_max_count(mostRequestsOfAConnection);
+    set_socket_options(takePortAlone);
+    errno = 0;
+    const bool anyPort = port == 0;
+    const int bound = anyPort ? bind_to_any_port(address) : bind_to_port(address, port) ? port : -1;
+    if (bound <= 0) {
+        whyNot = "The server cannot listen at " + address + (anyPort ? "" : ", port " + std::to_string(port))
+            + reasonFrom(errno) + '.';
+        return 0;
+    }
+    ::listen(svr_sock_, mostWaitingToConnect); // The library's own bound lets a fifth client wait for a second.
+    return bound;
+}
+
+void HttpServer::start()
+{
+    std::promise<void> isServing;
+    new_task_queue = [&isServing] {
+        auto* queue = new TaskQueue;
+        isServing.set_value();
+        return queue;
+    };
+    const SignalsHeldBack heldBack;
+    listening_ = std::thread([this] { listen_after_bind(); });
+    isServing.get_future().wait(); // before this, the library would not hear that it is to stop
+}
+
+bool HttpServer::waitUntil(std::chrono::steady_clock::time_point moment)
+{
+    std::unique_lock lock(mutex_);
+    return !ending_.wait_until(lock, moment, [this] { return isEnding_; });
+}
+
+void HttpServer::end()
+{
+    if (!listening_.joinable())
+        return;
+    {
+        const std::lock_guard lock(mutex_);
+        isEnding_ = true;
+        for (const HttpConnection* connection : connections_)
+            connection->abort();
+    }
+    ending_.notify_all();
+    stop();
+    listening_.join();
+}
+
+bool HttpServer::process_and_close_socket(socket_t socket)
+{
+    HttpConnection connection(socket);
+    if (!add(connection))
+        return false;
+    converse(connection);
+    remove(connection);
+    return true;
+}
+
+void HttpServer::converse(HttpConnection& connection)
+{
+    const auto wantTheWhole = [](httplib::Request& request) { request.ranges.clear(); };
+    for (std::size_t left = mostRequestsOfAConnection; left > 0 && connection.awaitRequest(); --left) {
+        bool isClosed = false;
+        if (!process_request(connection, left == 1, isClosed, wantTheWhole) || isClosed || connection.isCutShort())
+            return;
+    }
+}
+
+/// False when the server is ending: nobody would end the waits of a connection that comes later.
+bool HttpServer::add(HttpConnection& connection)
+{
+    const std::lock_guard lock(mutex_);
+    if (!isEnding_)
+        connections_.insert(&connection);
+    return !isEnding_;
+}
+
+void HttpServer::remove(HttpConnection& connection)
+{
+    const std::lock_guard lock(mutex_);
+    connections_.erase(&connection);
+}
+
+} // namespace sonavel

@@ -1,0 +1,55 @@
+// The HTTP server under the data server: the library's, with clients that are bounded and an end that is quick.
+#pragma once
+
+#include "server/ConnectionThreads.h"
+
+#include <httplib.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <set>
+#include <string>
+#include <thread>
+
+namespace sonavel {
+
+class HttpConnection;
+
+/// Lifecycle: `listenAt`, the library's `Get` and `Post`, `start`, `end`. Handlers run on threads of their own, at most
+/// 64 at a time; further clients wait. Requests for a part of a content are answered with the whole.
+class HttpServer final : public httplib::Server {
+public:
+    HttpServer() = default;
+    HttpServer(const HttpServer&) = delete;
+    HttpServer& operator=(const HttpServer&) = delete;
+    ~HttpServer() override { end(); }
+
+    /// The port that it listens at, `port` or a free one for 0. When it cannot it gives 0, and `whyNot` is one sentence
+    /// for the user.
+    [[nodiscard]] int listenAt(const std::string& address, int port, std::string& whyNot);
+
+    /// Serves from now on. Its threads take none of the program's signals.
+    void start();
+
+    /// For handlers whose answer takes its time: waits until `moment`, or until the end of the server, and answers
+    /// whether to go on.
+    [[nodiscard]] bool waitUntil(std::chrono::steady_clock::time_point moment);
+
+    /// Ends what is being answered, with every wait in it, and returns when all threads have ended.
+    void end();
+
+private:
+    bool process_and_close_socket(socket_t socket) override;
+    void converse(HttpConnection& connection);
+    [[nodiscard]] bool add(HttpConnection& connection);
+    void remove(HttpConnection& connection);
+
+    std::mutex mutex_;
+    std::condition_variable ending_;
+    bool isEnding_ = false;
+    std::set<HttpConnection*> connections_;
+    std::thread listening_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,109 @@
+#include "server/DataServer.h"
+#include "server/RawClient.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <deque>
+#include <stdexcept>
+
+namespace sonavel {
+namespace {
+
+using test::RawClient;
+
+constexpr char listen[] = "GET /demo/orchard.mp3 HTTP/1.1\r\nRange: bytes=0-\r\n\r\n";
+constexpr char ask[] = "GET / HTTP/1.1\r\nConnection: close\r\n\r\n";
+constexpr char granted[] = "HTTP/1.1 200 ";
+
+std::unique_ptr<DataServer> startedServer()
+{
+    DataServerSettings settings;
+    settings.content = DataServerSettings::Content::Demo;
+    std::string whyNot;
+    auto server = DataServer::create(settings, whyNot);
+    if (server == nullptr)
+        throw std::runtime_error(whyNot);
+    return server;
+}
+
+std::string answerTo(const DataServer& server, std::string_view request)
+{
+    const RawClient client(server);
+    EXPECT_TRUE(client.send(request));
+    return client.read(std::string_view(granted).size());
+}
+
+TEST(HttpServer, ARequestWithoutEndIsGivenUp)
+{
+    const auto server = startedServer();
+    const std::string piece(1 << 20, 'a');
+    for (const std::string beginning : {"", "GET / HTTP/1.1\r\nName: ", "GET /?file="}) {
+        const RawClient client(*server);
+        std::size_t taken = 0;
+        for (client.send(beginning); taken < 64 && client.send(piece);)
+            ++taken;
+        EXPECT_LT(taken, 64U) << beginning;
+    }
+    EXPECT_EQ(answerTo(*server, ask), granted);
+}
+
+TEST(HttpServer, AFormThatIsTooBigIsRefusedInWords)
+{
+    const auto server = startedServer();
+    const RawClient client(*server);
+    client.send("POST /app_data_files/testpost.php HTTP/1.1\r\nContent-Type: application/x-www-form-urlencoded\r\n"
+                "Content-Length: 300000\r\n\r\n"
+        + std::string(300'000, 'a'));
+    EXPECT_EQ(client.read(13), "HTTP/1.1 413 ");
+}
+
+TEST(HttpServer, ListenersWithoutEndLeaveRoomForRequests)
+{
+    const auto server = startedServer();
+    std::deque<RawClient> listeners;
+    const auto isSeated = [&] {
+        listeners.emplace_back(*server).send(listen);
+        return listeners.back().read(std::string_view(granted).size()) == granted;
+    };
+    std::size_t seated = 0;
+    while (seated < 100 && isSeated())
+        ++seated;
+    EXPECT_GE(seated, 8U);
+    EXPECT_LT(seated, 100U);
+    EXPECT_EQ(answerTo(*server, ask), granted);
+}
+
+TEST(HttpServer, ClientsWhoDoNothingDoNotHoldUpItsEnd)
+{
+    auto server = startedServer();
+    const RawClient silent(*server);
+    const RawClient halfway(*server);
+    const RawClient listening(*server);
+    ASSERT_TRUE(halfway.send("GET / HT"));
+    ASSERT_TRUE(listening.send(listen));
+    ASSERT_FALSE(listening.read(1).empty());
+
+    const auto beginning = std::chrono::steady_clock::now();
+    server.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - beginning, std::chrono::seconds(2));
+    EXPECT_EQ(silent.read(1) + halfway.read(1), "");
+}
+
+TEST(HttpServer, APortThatIsTakenIsToldInOneSentence)
+{
+    const auto server = startedServer();
+    const std::string address = server->baseAddress().string();
+    DataServerSettings same;
+    same.port = std::stoi(address.substr(address.rfind(':') + 1));
+    for (const std::string host : {"127.0.0.1", "192.0.2.1", "no address"}) {
+        same.address = host;
+        std::string whyNot;
+        EXPECT_EQ(DataServer::create(same, whyNot), nullptr) << host;
+        EXPECT_NE(whyNot.find(host), std::string::npos);
+        EXPECT_EQ(whyNot.back(), '.');
+    }
+}
+
+} // namespace
+} // namespace sonavel
