@@ -17,14 +17,14 @@ namespace sonavel {
 
 namespace {
 
-constexpr char listName[] = "20161001000000_lr.rdb";
-constexpr char versionName[] = "sonavel.ini";
+constexpr const char* listName = "20161001000000_lr.rdb";
+constexpr const char* versionName = "sonavel.ini";
 constexpr std::size_t largestPiece = 4096;
-/// Half of the server's connections: the others are for answers.
-constexpr int mostListeners = 32;
+/// Listeners stay for hours; the other half of the connections is for answers.
+constexpr int mostListeners = HttpServer::mostConnections / 2;
 
-constexpr char page[] = "<!DOCTYPE html>\n<html lang=\"en\">\n<title>Sonavel data server</title>\n"
-                        "<p>This server publishes station lists for Sonavel.</p>\n</html>\n";
+constexpr const char* page = "<!DOCTYPE html>\n<html lang=\"en\">\n<title>Sonavel data server</title>\n"
+                             "<p>This server publishes station lists for Sonavel.</p>\n</html>\n";
 
 std::string encryptedList(const StationRecords& stations)
 {
@@ -104,8 +104,8 @@ void DataServer::Implementation::publish(const DataServerSettings& settings)
 
 void DataServer::Implementation::answer(const httplib::Request& request, httplib::Response& response) const
 {
-    if (auto content = files.contentOf(request.get_param_value("file"))) {
-        response.set_content(std::move(*content), "text/plain");
+    if (const auto content = files.contentOf(request.get_param_value("file"))) {
+        response.set_content(*content, "text/plain");
         return;
     }
     response.status = 404;

@@ -18,8 +18,8 @@ constexpr auto timeBetweenRequests = 2s;
 constexpr auto timeOfARequest = 10s;
 constexpr auto timeWithoutTaking = 30s;
 constexpr auto timeOfAFarewell = 500ms;
-constexpr std::size_t sizeOfARequest = 128 * 1024;
-constexpr std::size_t sizeOfAFarewell = 1024 * 1024;
+constexpr std::size_t sizeOfARequest = 131'072;
+constexpr std::size_t sizeOfAFarewell = 1'048'576;
 
 } // namespace
 

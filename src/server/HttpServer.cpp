@@ -14,9 +14,8 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::size_t mostConnections = 64;
 constexpr std::size_t mostRequestsOfAConnection = 20;
-constexpr std::size_t largestForm = 64 * 1024;
+constexpr std::size_t largestForm = 65'536;
 constexpr int mostWaitingToConnect = 128;
 
 /// Lets the library use threads that are made when they are needed.
@@ -26,7 +25,7 @@ public:
     void shutdown() override { threads_.finish(); }
 
 private:
-    ConnectionThreads threads_{mostConnections};
+    ConnectionThreads threads_{HttpServer::mostConnections};
 };
 
 /// The library would let several servers share a port, and the user would not learn that it is taken.

@@ -16,10 +16,13 @@ namespace sonavel {
 
 class HttpConnection;
 
-/// Lifecycle: `listenAt`, the library's `Get` and `Post`, `start`, `end`. Handlers run on threads of their own, at most
-/// 64 at a time; further clients wait. Requests for a part of a content are answered with the whole.
+/// Lifecycle: `listenAt`, the library's `Get` and `Post`, `start`, `end`. Each connection has a thread of its own
+/// as long as there are fewer than `mostConnections`; further ones wait. Requests for a part of a content are answered
+/// with the whole.
 class HttpServer final : public httplib::Server {
 public:
+    static constexpr int mostConnections = 64;
+
     HttpServer() = default;
     HttpServer(const HttpServer&) = delete;
     HttpServer& operator=(const HttpServer&) = delete;

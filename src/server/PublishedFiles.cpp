@@ -13,7 +13,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr off_t largestFile = 64 * 1024 * 1024;
+constexpr off_t largestFile = off_t{64} * 1024 * 1024;
 constexpr std::size_t longestName = 255;
 
 bool isPlainName(std::string_view name)
@@ -31,7 +31,7 @@ std::optional<std::string> readAll(int file)
     if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > largestFile)
         return std::nullopt;
     std::string content;
-    std::array<char, 64 * 1024> piece{};
+    std::array<char, 65'536> piece{};
     for (;;) {
         const ssize_t count = read(file, piece.data(), piece.size());
         if (count < 0 || content.size() > static_cast<std::size_t>(largestFile))

@@ -20,15 +20,15 @@ using namespace sonavel;
 
 constexpr int usageError = 2;
 
-constexpr char help[] = "Usage: sonavel-data-server [OPTION]...\n"
-                        "Publishes station lists and versions for Sonavel.\n\n"
-                        "  --directory DIR    publish the files of this folder; what it lacks is built in\n"
-                        "  --port N           listen at this port; 0, as without this option, takes a free one\n"
-                        "  --address ADDRESS  listen at this address (127.0.0.1)\n"
-                        "  --demo             offer three demo stations, and stream them\n"
-                        "  --version          print the version\n"
-                        "  --help             print this\n\n"
-                        "Prints \"listening on http://ADDRESS:PORT/\" once it does. SIGTERM and SIGINT end it.\n";
+constexpr const char* help = "Usage: sonavel-data-server [OPTION]...\n"
+                             "Publishes station lists and versions for Sonavel.\n\n"
+                             "  --directory DIR    publish the files of this folder; what it lacks is built in\n"
+                             "  --port N           listen at this port; 0, as without this option, takes a free one\n"
+                             "  --address ADDRESS  listen at this address (127.0.0.1)\n"
+                             "  --demo             offer three demo stations, and stream them\n"
+                             "  --version          print the version\n"
+                             "  --help             print this\n\n"
+                             "Prints \"listening on http://ADDRESS:PORT/\" once it does. SIGTERM and SIGINT end it.\n";
 
 [[noreturn]] void refuse(const std::string& why)
 {
