@@ -5,6 +5,9 @@
 #include <QIconEngine>
 #include <QPainter>
 
+#include <array>
+#include <utility>
+
 namespace sonavel {
 
 namespace {
@@ -19,7 +22,7 @@ public:
     {
     }
 
-    QIconEngine* clone() const override { return new TintedIconEngine(*this); }
+    [[nodiscard]] QIconEngine* clone() const override { return new TintedIconEngine(*this); }
 
     void paint(QPainter* painter, const QRect& rectangle, QIcon::Mode mode, QIcon::State state) override
     {
@@ -59,7 +62,7 @@ private:
 QIcon readImage(const QString& path)
 {
     QIcon icon;
-    const std::pair<const char*, qreal> versions[] = {{".png", 1.0}, {"@2x.png", 2.0}, {"@3x.png", 3.0}};
+    constexpr std::array versions{std::pair{".png", 1.0}, std::pair{"@2x.png", 2.0}, std::pair{"@3x.png", 3.0}};
     for (const auto& [ending, scale] : versions) {
         QPixmap pixmap(path + QLatin1String(ending), "PNG");
         if (pixmap.isNull())
