@@ -131,6 +131,18 @@
         <source>A file could not be saved: %@</source>
         <translation>A file could not be saved: %@</translation>
     </message>
+    <message id="PANEL_IMPORT">
+        <source>Import Stations</source>
+        <translation>Import Stations</translation>
+    </message>
+    <message id="PANEL_EXPORT">
+        <source>Export Stations</source>
+        <translation>Export Stations</translation>
+    </message>
+    <message id="PANEL_STATION_LISTS">
+        <source>Station lists</source>
+        <translation>Station lists</translation>
+    </message>
     <message id="SPLASH_WAITING">
         <source>Waiting for %@…</source>
         <translation>Waiting for %@…</translation>

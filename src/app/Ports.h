@@ -8,6 +8,7 @@ namespace sonavel {
 
 class Alerts;
 class Clock;
+class FilePanels;
 class Files;
 class HttpClient;
 class LocalizedStrings;
@@ -20,6 +21,7 @@ class StreamPlayers;
 /// Borrowed: they outlive the controller that is made with them.
 struct Ports {
     Alerts& alerts;
+    FilePanels& filePanels;
     Files& files;
     HttpClient& httpClient;
     StreamPlayers& streamPlayers;

@@ -19,4 +19,9 @@ public:
     [[nodiscard]] virtual Text localizedStringForKey(std::string_view key) const = 0;
 };
 
+/// Puts `value` in the place of the first "%@" of a localized text. What `value` contains is not expanded again.
+[[nodiscard]] Text filledIn(const Text& localized, const Text& value);
+/// Puts `number` in the place of the first "%li".
+[[nodiscard]] Text filledIn(const Text& localized, long number);
+
 } // namespace sonavel

@@ -18,6 +18,7 @@
 #include "qt/OutletConnector.h"
 #include "qt/QtAlerts.h"
 #include "qt/QtEventLoop.h"
+#include "qt/QtFilePanels.h"
 #include "qt/QtProcess.h"
 #include "qt/QtRunLoop.h"
 #include "qt/SaveFailure.h"
@@ -83,7 +84,7 @@ struct Program::Parts {
 
     Ports ports()
     {
-        return {alerts, files, httpClient, engine, preferenceDomains, clock, strings, notificationCenter, runLoop,
+        return {alerts, filePanels, files, httpClient, engine, preferenceDomains, clock, strings, notificationCenter, runLoop,
             process, {"Sonavel", SONAVEL_VERSION, buildNumber}};
     }
 
@@ -92,6 +93,7 @@ struct Program::Parts {
 
     QtProcess process;
     QtAlerts alerts;
+    QtFilePanels filePanels;
     QtRunLoop runLoop;
     QtEventLoop eventLoop;
     TranslatedStrings strings;

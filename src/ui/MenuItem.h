@@ -8,11 +8,34 @@ namespace sonavel {
 
 struct MenuItemState {
     Text title;
+    /// Tells the items of all menus apart; −1 for none.
+    int tag = -1;
     bool isEnabled = false;
 
     friend bool operator==(const MenuItemState&, const MenuItemState&) = default;
 };
 
-class MenuItem : public Rendered<MenuItemState> { };
+class MenuItem : public Rendered<MenuItemState> {
+public:
+    [[nodiscard]] int tag() const { return state().tag; }
+
+    void setTitle(const Text& title)
+    {
+        update([&](MenuItemState& state) { state.title = title; });
+    }
+    void setEnabled(bool enabled)
+    {
+        update([&](MenuItemState& state) { state.isEnabled = enabled; });
+    }
+
+    /// The user chose it, or pressed its key.
+    void chosenByUser() const
+    {
+        if (state().isEnabled)
+            action.send();
+    }
+
+    Action action;
+};
 
 } // namespace sonavel

@@ -29,6 +29,7 @@ struct Outlets {
     MenuItem menuPreviousStation;
     MenuItem menuNextStation;
     MenuItem menuCheckUpdates;
+    MenuItem menuQuit;
 
     Window winSplashScreen;
 
@@ -44,8 +45,13 @@ struct Outlets {
     Window winWebRadioListEdit;
     Toolbar toolBar;
     ToolbarItem radioAdd;
+    ToolbarItem radioEdit;
     ToolbarItem radioRemove;
+    ToolbarItem radioImport;
+    ToolbarItem radioExport;
     TableView tableViewListRadio;
+    /// One line on what came of an import, or of a list that could not be saved.
+    TextField labelListStatus;
 
     /// The sheet of the station list window.
     Window winEditData;

@@ -20,6 +20,16 @@ public:
     {
         update([&](TextFieldState& state) { state.stringValue = text; });
     }
+
+    /// The user changed the text to this.
+    void typedByUser(const Text& text)
+    {
+        if (store([&](TextFieldState& state) { state.stringValue = text; }))
+            action.send();
+    }
+
+    /// The user changed the text.
+    Action action;
 };
 
 } // namespace sonavel

@@ -10,6 +10,7 @@
 #include "support/MemoryPreferenceDomains.h"
 #include "support/RecordingStreamPlayers.h"
 #include "support/ScriptedAlerts.h"
+#include "support/ScriptedFilePanels.h"
 #include "support/ScriptedHttpClient.h"
 #include "support/SettableClock.h"
 
@@ -59,6 +60,7 @@ struct MemoryPlatform {
     /// What was done to files, servers and preferences, in order.
     std::vector<std::string>& log = files.log;
     ScriptedAlerts alerts;
+    ScriptedFilePanels filePanels;
     ScriptedHttpClient httpClient{log};
     RecordingStreamPlayers streamPlayers;
     MemoryPreferenceDomains preferenceDomains{log};
@@ -73,7 +75,7 @@ struct MemoryPlatform {
 
     [[nodiscard]] Ports ports()
     {
-        return {alerts, files, httpClient, streamPlayers, preferenceDomains, clock, localizedStrings,
+        return {alerts, filePanels, files, httpClient, streamPlayers, preferenceDomains, clock, localizedStrings,
             notificationCenter, runLoop, process, {"Sonavel", "1.2.0", "5"}};
     }
 };
