@@ -10,6 +10,7 @@ namespace sonavel {
 namespace {
 
 constexpr mode_t ownerAlone = 0600;
+constexpr mode_t everybody = 0666; // less what the umask takes off
 
 std::string temporaryNameFor(std::string_view name)
 {
@@ -41,15 +42,16 @@ FileReplacement::FileReplacement(FileCalls& calls, std::string_view path)
 {
 }
 
-std::error_code FileReplacement::replace(std::string_view bytes)
+std::error_code FileReplacement::replace(std::string_view bytes, FileAccess access)
 {
     OpenFile folder(calls_, openFolderOf(calls_, path_));
     if (!folder.isOpen())
         return lastError();
-    mode_t mode = ownerAlone;
-    if (const std::error_code failure = modeOfOldFile(folder, mode))
+    std::optional<mode_t> oldMode;
+    if (const std::error_code failure = modeOfOldFile(folder, oldMode))
         return failure;
-    if (const std::error_code failure = writeTemporary(folder, bytes, mode))
+    const mode_t firstMode = oldMode || access == FileAccess::OwnerOnly ? ownerAlone : everybody;
+    if (const std::error_code failure = writeTemporary(folder, bytes, firstMode, oldMode))
         return failure;
     if (calls_.rename(folder.descriptor(), temporaryName_.c_str(), folder.descriptor(), name_.c_str()) != 0) {
         const std::error_code failure = lastError();
@@ -64,7 +66,7 @@ std::error_code FileReplacement::create(std::string_view bytes, mode_t mode)
     OpenFile folder(calls_, openFolderOf(calls_, path_));
     if (!folder.isOpen())
         return lastError();
-    if (const std::error_code failure = writeTemporary(folder, bytes, mode))
+    if (const std::error_code failure = writeTemporary(folder, bytes, ownerAlone, mode))
         return failure;
     const int at = folder.descriptor();
     const bool isRenamed = calls_.renameUnlessTaken(at, temporaryName_.c_str(), at, name_.c_str()) == 0;
@@ -74,7 +76,7 @@ std::error_code FileReplacement::create(std::string_view bytes, mode_t mode)
     return failure;
 }
 
-std::error_code FileReplacement::modeOfOldFile(const OpenFile& folder, mode_t& mode)
+std::error_code FileReplacement::modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode)
 {
     struct stat old { };
     if (calls_.statusOfName(folder.descriptor(), name_.c_str(), old) != 0)
@@ -85,21 +87,23 @@ std::error_code FileReplacement::modeOfOldFile(const OpenFile& folder, mode_t& m
     return {};
 }
 
-/// Leaves no temporary file when it fails. What already has the temporary name is a crash's left-over or was planted
-/// there: it is removed, and neither opened nor followed.
-std::error_code FileReplacement::writeTemporary(const OpenFile& folder, std::string_view bytes, mode_t mode)
+/// Makes the file with the first mode and, once it is complete, gives it the last one. Leaves no temporary file when it
+/// fails. What already has the temporary name is a crash's left-over or was planted there: it is removed, and neither
+/// opened nor followed.
+std::error_code FileReplacement::writeTemporary(
+    const OpenFile& folder, std::string_view bytes, mode_t firstMode, std::optional<mode_t> lastMode)
 {
     if (calls_.unlink(folder.descriptor(), temporaryName_.c_str()) != 0 && errno != ENOENT)
         return lastError();
     OpenFile temporary(calls_,
-        calls_.open(folder.descriptor(), temporaryName_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, ownerAlone));
+        calls_.open(folder.descriptor(), temporaryName_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, firstMode));
     if (!temporary.isOpen())
         return lastError();
 
     std::error_code failure = writeAll(calls_, temporary.descriptor(), bytes);
     // Some file systems have no modes; the content must not be lost over that, and 0600 errs on the safe side.
-    if (!failure && mode != ownerAlone)
-        calls_.changeMode(temporary.descriptor(), mode);
+    if (!failure && lastMode && *lastMode != firstMode)
+        calls_.changeMode(temporary.descriptor(), *lastMode);
     if (!failure && calls_.synchronize(temporary.descriptor()) != 0)
         failure = lastError();
     if (temporary.close() != 0 && !failure)

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "adapters/FileCalls.h"
+#include "platform/Files.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,17 +18,18 @@ public:
     /// `path` is absolute, and itself no link.
     FileReplacement(FileCalls& calls, std::string_view path);
 
-    /// Replaces the file, which keeps its mode, or makes it with mode 0600. On failure the old content stands and the
+    /// Replaces the file, which keeps its mode, or makes it with `access`. On failure the old content stands and the
     /// temporary file is gone; when only the last step failed, which makes the replacement outlast a power cut, the
     /// new content stands, whole.
-    [[nodiscard]] std::error_code replace(std::string_view bytes);
+    [[nodiscard]] std::error_code replace(std::string_view bytes, FileAccess access);
 
     /// Makes the file with the given mode. Fails when its name is taken; nothing has changed then.
     [[nodiscard]] std::error_code create(std::string_view bytes, mode_t mode);
 
 private:
-    [[nodiscard]] std::error_code modeOfOldFile(const OpenFile& folder, mode_t& mode);
-    [[nodiscard]] std::error_code writeTemporary(const OpenFile& folder, std::string_view bytes, mode_t mode);
+    [[nodiscard]] std::error_code modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode);
+    [[nodiscard]] std::error_code writeTemporary(
+        const OpenFile& folder, std::string_view bytes, mode_t firstMode, std::optional<mode_t> lastMode);
 
     FileCalls& calls_;
     std::string path_;

@@ -77,12 +77,12 @@ std::error_code PosixFiles::readFile(const std::string& path, std::string& conte
     return std::make_error_code(std::errc::file_too_large);
 }
 
-bool PosixFiles::writeAtomically(const Text& path, std::string_view bytes)
+bool PosixFiles::writeAtomically(const Text& path, std::string_view bytes, FileAccess access)
 {
     std::string target = path.string();
     std::error_code failure = followLinks(target);
     if (!failure)
-        failure = FileReplacement(*calls_, target).replace(bytes);
+        failure = FileReplacement(*calls_, target).replace(bytes, access);
     return tell(failure, path);
 }
 

@@ -29,7 +29,7 @@ public:
     [[nodiscard]] bool fileExists(const Text& path) const override;
     /// Never waits for another program: what is not a regular file (a pipe, a device) cannot be read.
     [[nodiscard]] std::optional<std::string> contentsOfFile(const Text& path) const override;
-    bool writeAtomically(const Text& path, std::string_view bytes) override;
+    bool writeAtomically(const Text& path, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) override;
     bool keepCopy(const Text& path, const Text& copy) override;
     bool moveFile(const Text& path, const Text& newPath) override;
     bool removeFile(const Text& path) override;

@@ -10,6 +10,9 @@
 
 namespace sonavel {
 
+/// Who may read a file that is made: its owner alone, or whoever the user lets read new files (the umask).
+enum class FileAccess { OwnerOnly, AsUsual };
+
 /// Paths are absolute, in UTF-8. Links are followed. No operation throws; main thread.
 class Files {
 public:
@@ -27,11 +30,12 @@ public:
     /// The whole content. Nothing when there is no such file, it is a folder, or it cannot be read to its end.
     [[nodiscard]] virtual std::optional<std::string> contentsOfFile(const Text& path) const = 0;
 
-    /// Replaces the file, or makes it (readable by its owner alone), in one step: a reader, or a later run after a
-    /// crash or power cut, finds either the old content whole or the new. Answers false when it could not; the old
+    /// Replaces the file, which keeps its mode, or makes it with `access`, in one step: a reader, or a later run after
+    /// a crash or power cut, finds either the old content whole or the new. Answers false when it could not; the old
     /// content then stands (or the new, whole, where only the last step failed, that makes it outlast a power cut) and
     /// no temporary file is left.
-    virtual bool writeAtomically(const Text& path, std::string_view bytes) = 0;
+    virtual bool writeAtomically(
+        const Text& path, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) = 0;
 
     /// Gives the content of `path` a second name, which keeps it when `path` is replaced. False when `copy` is taken or
     /// cannot be made; nothing has changed then.

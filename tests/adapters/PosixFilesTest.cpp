@@ -143,6 +143,21 @@ TEST_F(PosixFilesTest, OthersCannotReadANewFileAndAnOldOneKeepsItsMode)
     EXPECT_EQ(modeOf("new"), 0644);
 }
 
+TEST_F(PosixFilesTest, AFileForOthersIsAsReadableAsTheUserLetsNewFilesBe)
+{
+    const mode_t before = ::umask(0);
+    for (const auto& [mask, mode] : {std::pair(0022U, 0644U), std::pair(0077U, 0600U), std::pair(0U, 0666U)}) {
+        ::umask(mask);
+        const std::string name = "new " + std::to_string(mask);
+        EXPECT_TRUE(files.writeAtomically(folder.path(name), "content", FileAccess::AsUsual));
+        EXPECT_EQ(modeOf(name), mode);
+        fs::permissions(folder.path(name), fs::perms(0640));
+        EXPECT_TRUE(files.writeAtomically(folder.path(name), "more", FileAccess::AsUsual));
+        EXPECT_EQ(modeOf(name), 0640) << "an old file keeps its mode";
+    }
+    ::umask(before);
+}
+
 TEST_F(PosixFilesTest, AWriteThroughLinksKeepsThem)
 {
     fs::create_directories(folder.path("deep/down"));

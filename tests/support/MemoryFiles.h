@@ -48,7 +48,8 @@ public:
         return files.at(path.string());
     }
 
-    bool writeAtomically(const Text& path, std::string_view bytes) override
+    bool writeAtomically(
+        const Text& path, std::string_view bytes, FileAccess /*access*/ = FileAccess::OwnerOnly) override
     {
         if (fails("write " + path.string()) || isFolder(path.string()) || !isFolder(folderOf(path.string())))
             return false;
