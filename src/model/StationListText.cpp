@@ -84,4 +84,13 @@ std::string listTextFromRecords(const StationRecords& records, Heading heading)
     return text;
 }
 
+Text withoutSeparators(const Text& text)
+{
+    if (text.view().find_first_of(";\r") == std::string_view::npos)
+        return text;
+    std::string rest = text.string();
+    std::erase_if(rest, [](char character) { return character == ';' || character == '\r'; });
+    return rest;
+}
+
 } // namespace sonavel

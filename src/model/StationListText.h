@@ -54,4 +54,8 @@ enum class Heading { None, FieldNames };
 /// name or address contains is not examined, so the text reads back the same only without ";" and carriage returns.
 [[nodiscard]] std::string listTextFromRecords(const StationRecords& records, Heading heading);
 
+/// The name or address without every ";" and carriage return, which no list text can hold in one; the very same text
+/// when it has none.
+[[nodiscard]] Text withoutSeparators(const Text& text);
+
 } // namespace sonavel

@@ -69,5 +69,14 @@ TEST(StationListText, WritingGivesTheHeadingOnlyWhenAsked)
     EXPECT_EQ(listTextFromRecords({std::make_shared<KVStationWebRadio>()}, Heading::None), ";\r");
 }
 
+TEST(StationListText, NoSeparatorGetsIntoANameOrAddress)
+{
+    for (const auto& [text, expected] : {std::pair("a;b\r;c", "abc"), std::pair(";\r", ""), std::pair("ü;\n", "ü\n")})
+        EXPECT_EQ(withoutSeparators(text), Text(expected));
+    for (const Text& text : {Text(), Text(""), Text("Zürich\n")})
+        EXPECT_TRUE(withoutSeparators(text).isSameObject(text));
+    EXPECT_TRUE(withoutSeparators({}).isAbsent());
+}
+
 } // namespace
 } // namespace sonavel
