@@ -27,6 +27,70 @@
         <source>No stations</source>
         <translation>No stations</translation>
     </message>
+    <message id="BUTTON_CONTINUE">
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message id="BUTTON_ADD">
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message id="BUTTON_EDIT">
+        <source>Change</source>
+        <translation>Change</translation>
+    </message>
+    <message id="SHOW_EDIT_RADIO_LIST">
+        <source>Show Station List</source>
+        <translation>Show Station List</translation>
+    </message>
+    <message id="CLOSE_EDIT_RADIO_LIST">
+        <source>Close Station List</source>
+        <translation>Close Station List</translation>
+    </message>
+    <message id="WIN_EDIT_RADIO_LIST">
+        <source>Station List</source>
+        <translation>Station List</translation>
+    </message>
+    <message id="REMOVE_RADIO">
+        <source>Remove the station “%@”?</source>
+        <translation>Remove the station “%@”?</translation>
+    </message>
+    <message id="REMOVE_RADIO_TO_PLAY">
+        <source>“%@” is the chosen station. Stop it and remove it?</source>
+        <translation>“%@” is the chosen station. Stop it and remove it?</translation>
+    </message>
+    <message id="REMOVE_ALL_RADIO_SELECTED">
+        <source>Remove the %li selected stations?</source>
+        <translation>Remove the %li selected stations?</translation>
+    </message>
+    <message id="ERASE_ALL_PREVIOUS_DATA">
+        <source>Replace the present stations by those in the file? “No” adds them to the list.</source>
+        <translation>Replace the present stations by those in the file? “No” adds them to the list.</translation>
+    </message>
+    <message id="LIMIT_IMPORT_DATA">
+        <source>The station list is full. The rest of the file was not imported.</source>
+        <translation>The station list is full. The rest of the file was not imported.</translation>
+    </message>
+    <message id="AS_DUPLICATED_DATA">
+        <source>Some names in the file were already in the list. Those stations got a number after their name.</source>
+        <translation>Some names in the file were already in the list. Those stations got a number after their name.</translation>
+    </message>
+    <message id="STATUS_IMPORTED">
+        <source>%li stations were imported.</source>
+        <translation>%li stations were imported.</translation>
+    </message>
+    <message id="STATUS_NOTHING_IMPORTED">
+        <source>No stations were found in the file.</source>
+        <translation>No stations were found in the file.</translation>
+    </message>
+    <message id="STATUS_LIST_KEPT">
+        <source>The former list was kept as %@.</source>
+        <translation>The former list was kept as %@.</translation>
+    </message>
+    <message id="STATUS_LIST_NOT_KEPT">
+        <source>The present list could not be kept, so nothing was imported.</source>
+        <translation>The present list could not be kept, so nothing was imported.</translation>
+    </message>
     <message id="WIN_SONAVEL">
         <source>Sonavel</source>
         <translation>Sonavel</translation>
@@ -84,8 +148,136 @@
         <translation>Silence the sound, or let it be heard again</translation>
     </message>
     <message id="HINT_STATION_LIST">
-        <source>The window for adding and changing stations comes with a later version</source>
-        <translation>The window for adding and changing stations comes with a later version</translation>
+        <source>Show the list of stations, to add to it or change it</source>
+        <translation>Show the list of stations, to add to it or change it</translation>
+    </message>
+    <message id="WIN_EDIT_DATA">
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message id="BUTTON_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="LABEL_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="LABEL_ADDRESS">
+        <source>Address</source>
+        <translation>Address</translation>
+    </message>
+    <message id="TOOL_ADD">
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message id="TOOL_EDIT">
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="TOOL_REMOVE">
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message id="TOOL_IMPORT">
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message id="TOOL_EXPORT">
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message id="HINT_ADD">
+        <source>Add a station</source>
+        <translation>Add a station</translation>
+    </message>
+    <message id="HINT_EDIT">
+        <source>Change the selected station</source>
+        <translation>Change the selected station</translation>
+    </message>
+    <message id="HINT_REMOVE">
+        <source>Remove the selected stations</source>
+        <translation>Remove the selected stations</translation>
+    </message>
+    <message id="HINT_IMPORT">
+        <source>Bring in stations from a file</source>
+        <translation>Bring in stations from a file</translation>
+    </message>
+    <message id="HINT_EXPORT">
+        <source>Save all stations to a file</source>
+        <translation>Save all stations to a file</translation>
+    </message>
+    <message id="LIST_EMPTY">
+        <source>No stations yet. Add one, or import a list.</source>
+        <translation>No stations yet. Add one, or import a list.</translation>
+    </message>
+    <message id="FIND">
+        <source>Find</source>
+        <translation>Find</translation>
+    </message>
+    <message id="FIND_PLACEHOLDER">
+        <source>Find a name or address</source>
+        <translation>Find a name or address</translation>
+    </message>
+    <message id="FIND_NOTHING">
+        <source>Not found</source>
+        <translation>Not found</translation>
+    </message>
+    <message id="MENU_SONAVEL">
+        <source>&amp;Sonavel</source>
+        <translation>&amp;Sonavel</translation>
+    </message>
+    <message id="MENU_PLAYBACK">
+        <source>&amp;Playback</source>
+        <translation>&amp;Playback</translation>
+    </message>
+    <message id="MENU_STATIONS">
+        <source>S&amp;tations</source>
+        <translation>S&amp;tations</translation>
+    </message>
+    <message id="MENU_QUIT">
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="MENU_PLAY_PAUSE">
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Play/Pause</translation>
+    </message>
+    <message id="MENU_STOP">
+        <source>&amp;Stop</source>
+        <translation>&amp;Stop</translation>
+    </message>
+    <message id="MENU_MUTE">
+        <source>&amp;Mute</source>
+        <translation>&amp;Mute</translation>
+    </message>
+    <message id="MENU_PREVIOUS">
+        <source>P&amp;revious Station</source>
+        <translation>P&amp;revious Station</translation>
+    </message>
+    <message id="MENU_NEXT">
+        <source>&amp;Next Station</source>
+        <translation>&amp;Next Station</translation>
+    </message>
+    <message id="MENU_ADD">
+        <source>&amp;Add…</source>
+        <translation>&amp;Add…</translation>
+    </message>
+    <message id="MENU_EDIT">
+        <source>&amp;Edit…</source>
+        <translation>&amp;Edit…</translation>
+    </message>
+    <message id="MENU_REMOVE">
+        <source>&amp;Remove…</source>
+        <translation>&amp;Remove…</translation>
+    </message>
+    <message id="MENU_IMPORT">
+        <source>&amp;Import…</source>
+        <translation>&amp;Import…</translation>
+    </message>
+    <message id="MENU_EXPORT">
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xport…</translation>
     </message>
     <message id="NOW_PLAYING">
         <source>Now playing</source>

@@ -69,7 +69,7 @@ public:
     /// Selects rows in addition to or instead of the selected ones; those beyond the last row are left out.
     void selectRowIndexes(const IndexSet& rows, Extending byExtendingSelection);
     /// What a double click does.
-    void setDoubleAction(std::function<void()> action) { doubleAction.set(std::move(action)); }
+    void setDoubleAction(std::function<void()> perform) { doubleAction.set(std::move(perform)); }
 
     /// The user selected exactly these rows; `latest` is the one that he touched.
     void selectedByUser(const IndexSet& rows, long latest);
