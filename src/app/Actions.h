@@ -1,17 +1,44 @@
 // The wiring table: which control does what.
 #pragma once
 
+#include <functional>
+
 namespace sonavel {
 
+class Action;
 class Gate;
 class WinSonavelController;
 struct Outlets;
 
-/// Sets the action of every control that the user acts on. Each goes through the gate. Controller and gate have to
-/// outlive the outlets' actions.
+/// Sets the action of every control that the user acts on. Each goes through the gate, and after each, toolbar and menu
+/// items are enabled anew. Controller, outlets and gate have to outlive this object, and this object the outlets' use.
 class Actions {
 public:
     Actions(WinSonavelController& controller, Outlets& outlets, Gate& gate);
+    Actions(const Actions&) = delete;
+    Actions& operator=(const Actions&) = delete;
+    ~Actions() = default;
+
+    /// Enables toolbar and menu items as the state of the program asks for: at the start, before a menu is shown,
+    /// before a key is matched, and when the keyboard comes to another window.
+    void validateItems();
+
+    /// Does something that no control stands for, such as with a file that was dropped on a window. One that waits
+    /// gives way to a later one for the same `source`.
+    void perform(const void* source, std::function<void(WinSonavelController&)> operation);
+
+private:
+    /// What becomes of a cell that is being edited. What works on the list as it is shown finds the edit made.
+    enum class OpenCell { Stays, IsEnded };
+
+    void wire(Action& action, OpenCell openCell, std::function<void(WinSonavelController&)> operation);
+    void wireMainWindow();
+    void wireEditor();
+    void wireItems();
+
+    WinSonavelController& controller_;
+    Outlets& outlets_;
+    Gate& gate_;
 };
 
 } // namespace sonavel

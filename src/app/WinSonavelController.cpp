@@ -20,6 +20,17 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
     , stationRefresh(ports.httpClient, ports.clock, configuration.dataServer, serverDates, preferences, stationList,
           stationDatabase)
     , stationLoading(stationList, stationDatabase, stationRefresh)
+    , editorWindow(stationList, ports.localizedStrings, ports.runLoop, outlets)
+    , editSheet(
+          stationList, stationDatabase, stationSelection, editorWindow, preferences, ports.localizedStrings, outlets)
+    , stationRemoval(stationList, stationDatabase, stationSelection, player, editorWindow, ports.alerts,
+          ports.localizedStrings, outlets)
+    , stationImport(stationList, stationDatabase, stationSelection, preferences, ports.files, ports.filePanels,
+          ports.alerts, ports.localizedStrings, outlets)
+    , stationExport(stationList, ports.files, ports.filePanels)
+    , editorTable(stationList, stationDatabase, stationSelection, editSheet, outlets)
+    , editorToolbar(editSheet, stationRemoval, stationImport, stationExport, outlets)
+    , menus(*this, ports.localizedStrings, outlets)
     , ports_(ports)
     , configuration_(configuration)
     , outlets_(outlets)
@@ -50,6 +61,7 @@ void WinSonavelController::awakeFromNib()
 {
     player.registerForNotifications();
     stationSelection.updatePopupListRadioWithListStation();
+    editorWindow.updateTitleWebRadioListEdit();
     showPreferences();
     player.applyVolume();
     prepareDefaultStation();
@@ -66,6 +78,8 @@ void WinSonavelController::showPreferences()
     outlets_.sliderDefaultVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
     outlets_.sliderVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
     outlets_.tableViewListRadio.setAllowsMultipleSelection(preferences.PREF_ENABLE_MULTIPLE_SELECTION);
+    outlets_.tableViewListRadio.setDoubleAction([this] { editorTable.myDoubleClickAction(); });
+    outlets_.tableViewListRadio.reloadData();
 }
 
 void WinSonavelController::prepareDefaultStation()

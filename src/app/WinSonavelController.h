@@ -1,8 +1,16 @@
 // The controller: everything that the program is made of, its start and its end.
 #pragma once
 
+#include "app/Menus.h"
 #include "app/Ports.h"
 #include "app/StationLoading.h"
+#include "editor/EditSheet.h"
+#include "editor/EditorTable.h"
+#include "editor/EditorToolbar.h"
+#include "editor/EditorWindow.h"
+#include "editor/StationExport.h"
+#include "editor/StationImport.h"
+#include "editor/StationRemoval.h"
 #include "model/StationList.h"
 #include "online/CalendarDays.h"
 #include "online/Connectivity.h"
@@ -57,6 +65,14 @@ public:
     CalendarDays calendarDays;
     StationRefresh stationRefresh;
     StationLoading stationLoading;
+    EditorWindow editorWindow;
+    EditSheet editSheet;
+    StationRemoval stationRemoval;
+    StationImport stationImport;
+    StationExport stationExport;
+    EditorTable editorTable;
+    EditorToolbar editorToolbar;
+    Menus menus;
 
 private:
     void endWithoutInternet();

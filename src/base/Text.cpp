@@ -43,17 +43,34 @@ std::size_t sequenceLength(std::string_view bytes)
     return length;
 }
 
+/// How many UTF-16 code units the character takes of which this is the first byte; 0 for a further one.
+std::size_t unitsBegunBy(char character)
+{
+    const auto byte = static_cast<unsigned char>(character);
+    if (isContinuation(byte))
+        return 0;
+    return byte >= 0xF0 ? 2 : 1;
+}
+
 } // namespace
 
 std::size_t Text::length() const
 {
     std::size_t units = 0;
-    for (const char character : view_) {
-        const auto byte = static_cast<unsigned char>(character);
-        units += isContinuation(byte) ? 0 : 1;
-        units += byte >= 0xF0 ? 1 : 0;
-    }
+    for (const char character : view_)
+        units += unitsBegunBy(character);
     return units;
+}
+
+Text Text::prefix(std::size_t length) const
+{
+    std::size_t bytes = 0;
+    for (std::size_t units = 0; bytes < view_.size(); ++bytes) {
+        units += unitsBegunBy(view_[bytes]);
+        if (units > length)
+            return slice(view_.substr(0, bytes));
+    }
+    return *this;
 }
 
 bool isValidUtf8(std::string_view bytes)

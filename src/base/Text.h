@@ -46,6 +46,8 @@ public:
 
     /// The length in UTF-16 code units, which is what field limits count; 0 for an absent text.
     [[nodiscard]] std::size_t length() const;
+    /// The beginning of the text, of as many whole characters as fit into that many UTF-16 code units.
+    [[nodiscard]] Text prefix(std::size_t length) const;
 
     /// Whether both are the very same characters in memory, not only equal ones; two absent texts are the same.
     [[nodiscard]] bool isSameObject(const Text& other) const

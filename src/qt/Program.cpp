@@ -172,6 +172,7 @@ void Program::start(std::function<void()> whenVisible)
         whenVisible();
     });
     parts_->controller.awakeFromNib();
+    parts_->actions.validateItems();
     parts_->appDelegate.applicationDidFinishLaunching();
 }
 

@@ -69,28 +69,28 @@ CopiesByNumber copiesPresent(const Files& files, const CopyNames& names)
 
 using Keep = bool (Files::*)(const Text& path, const Text& copy);
 
-bool keep(Files& files, const Text& path, std::string_view reason, Keep operation)
+Text keep(Files& files, const Text& path, std::string_view reason, Keep operation)
 {
     const CopyNames names(path.view(), reason);
     CopiesByNumber copies = copiesPresent(files, names);
     const std::uint32_t number = copies.empty() ? 1 : copies.rbegin()->first + 1;
     const Text copy = names.pathOf(number);
     if (!(files.*operation)(path, copy))
-        return false;
+        return {};
     copies.emplace(number, copy);
     for (; copies.size() > copiesKept; copies.erase(copies.begin()))
         files.removeFile(copies.begin()->second);
-    return true;
+    return copy;
 }
 
 } // namespace
 
-bool keepRescueCopy(Files& files, const Text& path, std::string_view reason)
+Text keepRescueCopy(Files& files, const Text& path, std::string_view reason)
 {
     return keep(files, path, reason, &Files::keepCopy);
 }
 
-bool setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reason)
+Text setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reason)
 {
     return keep(files, path, reason, &Files::moveFile);
 }
@@ -98,7 +98,7 @@ bool setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reaso
 bool keepDamaged(Files& files, const Text& path)
 {
     constexpr std::string_view reason = "damaged";
-    return keepRescueCopy(files, path, reason) || setAsideAsRescueCopy(files, path, reason);
+    return !keepRescueCopy(files, path, reason).isAbsent() || !setAsideAsRescueCopy(files, path, reason).isAbsent();
 }
 
 } // namespace sonavel

@@ -4,6 +4,7 @@
 #include "model/StationListText.h"
 #include "storage/AESCrypt.h"
 #include "storage/Passphrase.h"
+#include "storage/PlainListFile.h"
 #include "storage/RescueCopies.h"
 
 #include <optional>
@@ -12,16 +13,6 @@
 namespace sonavel {
 
 namespace {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-Text legacyText(std::optional<std::string> content)
-{
-    if (!content || !isValidUtf8(*content))
-        return {};
-    const Text text(std::move(*content));
-    return text.view().starts_with(byteOrderMark) ? text.slice(text.view().substr(byteOrderMark.size())) : text;
-}
 
 /// Content that is not UTF-8 needs no look of its own: no character outside ASCII decodes.
 Text databaseText(std::optional<std::string> content)
@@ -48,7 +39,7 @@ bool StationDatabase::fileRadioDBVerify(bool legacy) const
 Text StationDatabase::fileRadioDBreadCypted(bool crypted)
 {
     if (!crypted)
-        return legacyText(files_.contentsOfFile(legacyPath_));
+        return listTextOfPlainFile(files_, legacyPath_);
     Text text = databaseText(files_.contentsOfFile(databasePath_));
     databaseMayBeReplaced_ = !text.isAbsent();
     return text;
@@ -64,6 +55,11 @@ void StationDatabase::setAsideLegacyFile()
 {
     // Where it cannot be renamed it stays as it is, which loses nothing.
     (void)setAsideAsRescueCopy(files_, legacyPath_, "damaged");
+}
+
+Text StationDatabase::keepListBeforeImport()
+{
+    return writeList() ? keepBeforeImport() : Text();
 }
 
 bool StationDatabase::writeList()
@@ -83,9 +79,13 @@ bool StationDatabase::keepUnreadDatabase()
     if (databaseMayBeReplaced_ || !fileRadioDBVerify(false))
         return true;
     const bool isReadable = !databaseText(files_.contentsOfFile(databasePath_)).isAbsent();
-    databaseMayBeReplaced_ =
-        isReadable ? keepRescueCopy(files_, databasePath_, "before-import") : keepDamaged(files_, databasePath_);
+    databaseMayBeReplaced_ = isReadable ? !keepBeforeImport().isAbsent() : keepDamaged(files_, databasePath_);
     return databaseMayBeReplaced_;
+}
+
+Text StationDatabase::keepBeforeImport()
+{
+    return keepRescueCopy(files_, databasePath_, "before-import");
 }
 
 void StationDatabase::removeLegacyFile()

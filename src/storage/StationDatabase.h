@@ -39,6 +39,10 @@ public:
     /// former content; the next call tries again.
     void fileRadioDBupdate();
 
+    /// Stores the list and keeps the database as the rescue copy "radiolist.before-import.rdb". Answers the copy's
+    /// path; absent when the list could not be kept.
+    [[nodiscard]] Text keepListBeforeImport();
+
     /// Renames the legacy file to the rescue copy "radiolist.damaged.csv"; where that fails it stays.
     void setAsideLegacyFile();
 
@@ -48,6 +52,7 @@ public:
 private:
     [[nodiscard]] bool writeList();
     [[nodiscard]] bool keepUnreadDatabase();
+    [[nodiscard]] Text keepBeforeImport();
     void removeLegacyFile();
 
     Files& files_;

@@ -32,7 +32,8 @@ public:
     [[nodiscard]] std::size_t last() const { return ranges_.back().end - 1; }
 
     /// Rising, apart from each other, none of them empty.
-    [[nodiscard]] const std::vector<IndexRange>& ranges() const { return ranges_; }
+    [[nodiscard]] const std::vector<IndexRange>& ranges() const& { return ranges_; }
+    void ranges() && = delete;
 
     /// The indexes that are in both sets.
     [[nodiscard]] IndexSet intersectedWith(const IndexSet& other) const;

@@ -1,5 +1,7 @@
 #include "ui/TableView.h"
 
+#include <utility>
+
 namespace sonavel {
 
 Text TableView::textOfCell(std::string_view column, long row) const
@@ -51,10 +53,17 @@ void TableView::selectedByUser(const IndexSet& rows, long latest)
         action.send();
 }
 
-void TableView::editedByUser(const Text& value, std::string_view column, long row)
+void TableView::editedByUser(const Text& value, const Text& column, long row)
 {
-    if (dataSource_ != nullptr)
-        dataSource_->tableView(*this, value, column, row);
+    edit_ = {value, column, row};
+    editAction.send();
+}
+
+void TableView::passEditOn()
+{
+    const auto edit = std::exchange(edit_, std::nullopt);
+    if (edit && dataSource_ != nullptr)
+        dataSource_->tableView(*this, edit->value, edit->column.view(), edit->row);
 }
 
 /// Keeps the batches in step, so that the row selected before the last one is known when the last one no longer is.

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -44,6 +45,8 @@ struct TableViewState {
     /// Counts how often the program asked for a row to be scrolled to, and which.
     unsigned scrollRequests = 0;
     long rowToShow = -1;
+    /// Counts how often an open cell was to be closed, with what the user typed.
+    unsigned endsOfEditing = 0;
 
     friend bool operator==(const TableViewState&, const TableViewState&) = default;
 };
@@ -68,6 +71,13 @@ public:
     enum class Extending { No, Yes };
     /// Selects rows in addition to or instead of the selected ones; those beyond the last row are left out.
     void selectRowIndexes(const IndexSet& rows, Extending byExtendingSelection);
+    /// Closes a cell that is being edited, as if the user had ended it.
+    void endEditing()
+    {
+        update([](TableViewState& state) { ++state.endsOfEditing; });
+    }
+    /// Hands the edit that the user ended last to the data source.
+    void passEditOn();
     /// What a double click does.
     void setDoubleAction(std::function<void()> perform) { doubleAction.set(std::move(perform)); }
 
@@ -75,16 +85,25 @@ public:
     void selectedByUser(const IndexSet& rows, long latest);
     void doubleClickedByUser() const { doubleAction.send(); }
     /// The user ended the editing of a cell, changed or not.
-    void editedByUser(const Text& value, std::string_view column, long row);
+    void editedByUser(const Text& value, const Text& column, long row);
 
     /// The user selected other rows.
     Action action;
     Action doubleAction;
+    /// The user ended the editing of a cell; `passEditOn` is to follow.
+    Action editAction;
 
 private:
+    struct Edit {
+        Text value;
+        Text column;
+        long row;
+    };
+
     void select(TableViewState& state, IndexSet rows, long latest);
 
     TableViewDataSource* dataSource_ = nullptr;
+    std::optional<Edit> edit_;
     /// The selected rows as they were selected, each batch at one stroke, the latest last.
     std::vector<IndexSet> batches_;
 };

@@ -31,8 +31,8 @@ TEST_F(StartTest, TheStepsComeInTheirOrder)
     platform.log.emplace_back("returned");
     platform.runLoop.turn();
     EXPECT_EQ(platform.log,
-        (std::vector<std::string>{"pop-up", "station list", "check box", "default volume", "default volume", "table",
-            "returned", "main window"}));
+        (std::vector<std::string>{"pop-up", "station list", "station list", "check box", "default volume",
+            "default volume", "table", "table", "returned", "main window"}));
 }
 
 TEST_F(StartTest, WithoutANetworkOnlyTheMessageIsShownAndNothingStored)

@@ -22,7 +22,7 @@ TEST(RescueCopies, TheNewestThreeAreKeptUnderRisingNumbers)
     MemoryFiles files;
     for (int turn = 1; turn <= 5; ++turn) {
         files.files[path] = std::to_string(turn);
-        EXPECT_TRUE(keepRescueCopy(files, path, "damaged"));
+        EXPECT_FALSE(keepRescueCopy(files, path, "damaged").isAbsent());
     }
     EXPECT_EQ(names(files),
         (std::set<std::string>{
@@ -38,7 +38,7 @@ TEST(RescueCopies, OtherFilesAreNotTakenForCopies)
     for (const std::string& other : others)
         files.files["/home/" + other.substr(0, other.size() - 1)] = "";
     files.files[path] = "now";
-    EXPECT_TRUE(setAsideAsRescueCopy(files, path, "damaged"));
+    EXPECT_FALSE(setAsideAsRescueCopy(files, path, "damaged").isAbsent());
     std::set<std::string> expected = others;
     expected.insert("list.old.damaged.rdb=now");
     EXPECT_EQ(names(files), expected);
@@ -52,9 +52,9 @@ TEST(RescueCopies, AFailedCopyRemovesNoOlderOne)
     files.files[path] = "now";
     const auto before = names(files);
     files.failAll("keep");
-    EXPECT_FALSE(keepRescueCopy(files, path, "damaged"));
+    EXPECT_TRUE(keepRescueCopy(files, path, "damaged").isAbsent());
     files.failAll("list");
-    EXPECT_FALSE(keepRescueCopy(files, path, "damaged"));
+    EXPECT_TRUE(keepRescueCopy(files, path, "damaged").isAbsent());
     EXPECT_EQ(names(files), before);
 }
 

@@ -14,6 +14,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace sonavel {
 
@@ -34,6 +35,7 @@ protected:
         controller.init();
         connectOutlets();
         controller.awakeFromNib();
+        actions.validateItems();
         platform.runLoop.turn();
     }
 
@@ -45,11 +47,13 @@ protected:
 
     void connectOutlets()
     {
-        for (Window* window : {&outlets.winSonavel, &outlets.winWebRadioListEdit, &outlets.winUpdateNotification})
+        for (Window* window : {&outlets.winSonavel, &outlets.winWebRadioListEdit, &outlets.winEditData,
+                 &outlets.winPreferences, &outlets.winUpdateNotification})
             window->connect({});
         for (PopUpButton* popUp : {&outlets.popupbuttonRadioList, &outlets.popupDefaultButtonListRadio})
             popUp->connect({});
         for (Button* button : {&outlets.buttonPlayPause, &outlets.buttonStop, &outlets.buttonMute,
+                 &outlets.buttonEditRadioList, &outlets.buttonAction, &outlets.buttonCancel,
                  &outlets.checkBoxDefaultAutoPlayAtStartApp, &outlets.checkBoxDefaultAutoPlay})
             button->connect({});
         outlets.buttonPlayPause.setImage("play.png");
@@ -58,6 +62,25 @@ protected:
             slider->connect({});
         outlets.sliderVolume.setMaxValue(1.0);
         outlets.tableViewListRadio.connect({});
+        for (TextField* field : {&outlets.textFieldRadioName, &outlets.textFieldRadioLink, &outlets.labelListStatus})
+            field->connect({});
+        connectItems();
+    }
+
+    /// With their tags.
+    void connectItems()
+    {
+        int tag = 0;
+        for (ToolbarItem* item :
+            {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
+            item->connect({tag++, false});
+        const std::pair<MenuItem*, int> menuItems[] = {{&outlets.menuQuit, 0}, {&outlets.menuRadioAdd, 1000},
+            {&outlets.menuRadioEdit, 1001}, {&outlets.menuRadioRemove, 1002}, {&outlets.menuRadioShowEditRadio, 1003},
+            {&outlets.menuPlayPause, 2000}, {&outlets.menuStop, 2001}, {&outlets.menuMute, 2002},
+            {&outlets.menuPreviousStation, 2003}, {&outlets.menuNextStation, 2004}, {&outlets.menuRadioImport, 3000},
+            {&outlets.menuRadioExport, 3001}};
+        for (const auto& [item, itemTag] : menuItems)
+            item->connect({{}, itemTag, false});
     }
 
     void putDatabase(const Text& listText)

@@ -1,0 +1,64 @@
+// The sheet in which one station is added or changed.
+#pragma once
+
+#include <cstdint>
+
+namespace sonavel {
+
+class EditorWindow;
+class LocalizedStrings;
+class StationDatabase;
+class StationList;
+class StationSelection;
+class TextField;
+struct Outlets;
+struct PreferenceFields;
+
+/// Whether it adds or changes is told by the title of its confirm button alone. Both fields are empty whenever it is
+/// closed.
+///
+/// Main thread. Borrows everything it is given.
+class EditSheet {
+public:
+    EditSheet(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
+        EditorWindow& editorWindow, const PreferenceFields& preferences, const LocalizedStrings& localizedStrings,
+        Outlets& outlets);
+    EditSheet(const EditSheet&) = delete;
+    EditSheet& operator=(const EditSheet&) = delete;
+    ~EditSheet() = default;
+
+    /// Opens the sheet for a new station.
+    void radioAddToList();
+    /// Opens the sheet for the station of the table's selected row; does nothing without one.
+    void radioEditToList();
+
+    /// Confirms: adds or changes, sorts the list, shows it, selects its last row, stores it and closes the sheet. A new
+    /// station needs a name of 2 or an address of 10 UTF-16 code units; with neither nothing is added, silently.
+    void buttonAction();
+    /// Closes the sheet and changes nothing.
+    void buttonCancel();
+
+    /// Empties both fields and closes the sheet.
+    void winEditDataCloseAndResetField();
+
+    /// Filters both fields, whichever of them changed.
+    void controlTextDidChange();
+    /// Puts what the filter leaves of the field's text back into it. The limit is in UTF-16 code units.
+    static void filteredInputToField(TextField& field, std::int32_t limitByteANumber);
+
+private:
+    void open();
+    void addStation();
+    void changeSelectedStation();
+    void selectLastRow();
+
+    StationList& stationList_;
+    StationDatabase& stationDatabase_;
+    StationSelection& stationSelection_;
+    EditorWindow& editorWindow_;
+    const PreferenceFields& preferences_;
+    const LocalizedStrings& localizedStrings_;
+    Outlets& outlets_;
+};
+
+} // namespace sonavel

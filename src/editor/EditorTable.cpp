@@ -1,0 +1,77 @@
+#include "editor/EditorTable.h"
+
+#include "base/Numbers.h"
+#include "editor/EditSheet.h"
+#include "model/StationList.h"
+#include "model/StationListText.h"
+#include "playback/StationSelection.h"
+#include "storage/StationDatabase.h"
+#include "ui/Outlets.h"
+
+namespace sonavel {
+
+namespace {
+
+Text valueForKey(const KVStationWebRadio& station, std::string_view key)
+{
+    if (key == "radio")
+        return station.radio();
+    if (key == "link")
+        return station.link();
+    return key == "idRadio" ? decimalText(static_cast<std::int64_t>(station.idRadio())) : Text();
+}
+
+using Setter = void (KVStationWebRadio::*)(Text);
+
+/// Null for what cannot be edited.
+Setter setterForKey(std::string_view key)
+{
+    if (key == "radio")
+        return &KVStationWebRadio::setRadio;
+    return key == "link" ? &KVStationWebRadio::setLink : nullptr;
+}
+
+} // namespace
+
+EditorTable::EditorTable(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
+    EditSheet& editSheet, Outlets& outlets)
+    : stationList_(stationList)
+    , stationDatabase_(stationDatabase)
+    , stationSelection_(stationSelection)
+    , editSheet_(editSheet)
+    , outlets_(outlets)
+{
+    outlets.tableViewListRadio.setDataSource(this);
+}
+
+long EditorTable::numberOfRowsInTableView(const TableView&) const
+{
+    return static_cast<long>(stationList_.numberOfStations());
+}
+
+Text EditorTable::tableView(const TableView&, std::string_view objectValueForTableColumn, long row) const
+{
+    const auto station = stationList_.stationAtIndex(row);
+    return station == nullptr ? Text() : valueForKey(*station, objectValueForTableColumn);
+}
+
+void EditorTable::tableView(
+    const TableView& tableView, const Text& setObjectValue, std::string_view forTableColumn, long row)
+{
+    const auto station = stationList_.stationAtIndex(row);
+    const Setter setValue = setterForKey(forTableColumn);
+    const Text value = withoutSeparators(setObjectValue);
+    if (station == nullptr || setValue == nullptr || value == this->tableView(tableView, forTableColumn, row))
+        return;
+    ((*station).*setValue)(value);
+    stationSelection_.updatePopupListRadioWithListStation();
+    stationDatabase_.fileRadioDBupdate();
+}
+
+void EditorTable::myDoubleClickAction()
+{
+    if (outlets_.tableViewListRadio.selectedRow() >= 0)
+        editSheet_.radioEditToList();
+}
+
+} // namespace sonavel

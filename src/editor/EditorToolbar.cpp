@@ -1,0 +1,70 @@
+#include "editor/EditorToolbar.h"
+
+#include "editor/EditSheet.h"
+#include "editor/StationExport.h"
+#include "editor/StationImport.h"
+#include "editor/StationRemoval.h"
+#include "ui/Outlets.h"
+
+namespace sonavel {
+
+namespace {
+
+enum Tag { adding, editing, removing, importing, exporting };
+
+} // namespace
+
+EditorToolbar::EditorToolbar(EditSheet& editSheet, StationRemoval& stationRemoval, StationImport& stationImport,
+    StationExport& stationExport, Outlets& outlets)
+    : editSheet_(editSheet)
+    , stationRemoval_(stationRemoval)
+    , stationImport_(stationImport)
+    , stationExport_(stationExport)
+    , outlets_(outlets)
+{
+}
+
+void EditorToolbar::toolbar(const ToolbarItem& sender)
+{
+    switch (sender.tag()) {
+    case adding:
+        return editSheet_.radioAddToList();
+    case editing:
+        return editSheet_.radioEditToList();
+    case removing:
+        return stationRemoval_.radioRemoveToList();
+    case importing:
+        return stationImport_.importRadioListFromFile();
+    case exporting:
+        return stationExport_.exportRadioListIntoFile();
+    default:
+        return;
+    }
+}
+
+bool EditorToolbar::validateToolbarItem(const ToolbarItem& item) const
+{
+    const TableView& table = outlets_.tableViewListRadio;
+    switch (item.tag()) {
+    case adding:
+    case importing:
+        return true;
+    case editing:
+        return table.numberOfSelectedRows() == 1;
+    case removing:
+        return table.numberOfSelectedRows() >= 1;
+    case exporting:
+        return table.numberOfRows() >= 1;
+    default:
+        return false;
+    }
+}
+
+void EditorToolbar::validateVisibleItems()
+{
+    for (ToolbarItem* item :
+        {&outlets_.radioAdd, &outlets_.radioEdit, &outlets_.radioRemove, &outlets_.radioImport, &outlets_.radioExport})
+        item->setEnabled(validateToolbarItem(*item));
+}
+
+} // namespace sonavel

@@ -1,0 +1,39 @@
+// The toolbar of the station list window: five commands, told apart by their tags.
+#pragma once
+
+namespace sonavel {
+
+class EditSheet;
+class StationExport;
+class StationImport;
+class StationRemoval;
+class ToolbarItem;
+struct Outlets;
+
+/// Main thread. Borrows everything it is given.
+class EditorToolbar {
+public:
+    EditorToolbar(EditSheet& editSheet, StationRemoval& stationRemoval, StationImport& stationImport,
+        StationExport& stationExport, Outlets& outlets);
+    EditorToolbar(const EditorToolbar&) = delete;
+    EditorToolbar& operator=(const EditorToolbar&) = delete;
+    ~EditorToolbar() = default;
+
+    /// Tag 0 adds, 1 edits, 2 removes, 3 imports, 4 exports; any other does nothing.
+    void toolbar(const ToolbarItem& sender);
+
+    /// Whether the item is to be enabled: editing needs one selected row, removing one or more, exporting a row.
+    [[nodiscard]] bool validateToolbarItem(const ToolbarItem& item) const;
+
+    /// Enables each item as it is to be.
+    void validateVisibleItems();
+
+private:
+    EditSheet& editSheet_;
+    StationRemoval& stationRemoval_;
+    StationImport& stationImport_;
+    StationExport& stationExport_;
+    Outlets& outlets_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,39 @@
+// The window of the station list: its title, and when it is shown.
+#pragma once
+
+namespace sonavel {
+
+class LocalizedStrings;
+class RunLoop;
+class StationList;
+struct Outlets;
+
+/// Main thread. Borrows everything it is given.
+class EditorWindow {
+public:
+    EditorWindow(
+        const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Outlets& outlets);
+    EditorWindow(const EditorWindow&) = delete;
+    EditorWindow& operator=(const EditorWindow&) = delete;
+    ~EditorWindow() = default;
+
+    /// Puts the number of stations into the title. It stays there until the next call, whatever happens to the list.
+    void updateTitleWebRadioListEdit();
+
+    /// Shows the window; one that is shown comes to the front on the loop's next turn.
+    void buttonEditradio();
+
+    /// Hides the window when it is shown, and shows it when it is hidden.
+    void toggleVisibility();
+
+    /// Hides the window.
+    void close();
+
+private:
+    const StationList& stationList_;
+    const LocalizedStrings& localizedStrings_;
+    RunLoop& runLoop_;
+    Outlets& outlets_;
+};
+
+} // namespace sonavel

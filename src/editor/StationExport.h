@@ -1,0 +1,28 @@
+// The export of the station list to a file of the user's.
+#pragma once
+
+namespace sonavel {
+
+class FilePanels;
+class Files;
+class StationList;
+
+/// Main thread. Borrows everything it is given.
+class StationExport {
+public:
+    StationExport(const StationList& stationList, Files& files, FilePanels& filePanels);
+    StationExport(const StationExport&) = delete;
+    StationExport& operator=(const StationExport&) = delete;
+    ~StationExport() = default;
+
+    /// Lets the user choose a file and writes the list to it: a heading line and a line for each station, in the order
+    /// of the list. On failure the file keeps its former content. Changes nothing else.
+    void exportRadioListIntoFile();
+
+private:
+    const StationList& stationList_;
+    Files& files_;
+    FilePanels& filePanels_;
+};
+
+} // namespace sonavel

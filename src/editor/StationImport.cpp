@@ -1,0 +1,164 @@
+#include "editor/StationImport.h"
+
+#include "base/Numbers.h"
+#include "model/StationList.h"
+#include "model/StationListText.h"
+#include "platform/Alerts.h"
+#include "platform/FilePanels.h"
+#include "platform/LocalizedStrings.h"
+#include "playback/StationSelection.h"
+#include "prefs/PreferenceFields.h"
+#include "storage/PlainListFile.h"
+#include "storage/StationDatabase.h"
+#include "ui/Outlets.h"
+
+#include <string>
+#include <unordered_set>
+
+namespace sonavel {
+
+namespace {
+
+/// Gives the stations of an import their names. Looks a name up in the same time however long the list is.
+class ImportedNames {
+public:
+    /// Into an empty list all names go as they are, repeated ones too.
+    explicit ImportedNames(const StationRecords& list)
+        : isMerging_(!list.empty())
+    {
+        if (!isMerging_)
+            return;
+        names_.reserve(list.size());
+        for (const auto& station : list)
+            names_.insert(station->radio().view());
+    }
+
+    /// `number` is put behind a name that is taken. The texts given have to outlive this object.
+    Text nameFor(const Text& name, std::int64_t number)
+    {
+        if (!isMerging_ || names_.insert(name.view()).second)
+            return name;
+        hasDuplicates_ = true;
+        Text numbered(name.string().append(" (").append(decimalText(number).view()).append(")"));
+        names_.insert(numbered.view());
+        return numbered;
+    }
+
+    [[nodiscard]] bool hasDuplicates() const { return hasDuplicates_; }
+
+private:
+    const bool isMerging_;
+    bool hasDuplicates_ = false;
+    std::unordered_set<std::string_view> names_;
+};
+
+} // namespace
+
+StationImport::StationImport(StationList& stationList, StationDatabase& stationDatabase,
+    StationSelection& stationSelection, const PreferenceFields& preferences, Files& files, FilePanels& filePanels,
+    Alerts& alerts, const LocalizedStrings& localizedStrings, Outlets& outlets)
+    : stationList_(stationList)
+    , stationDatabase_(stationDatabase)
+    , stationSelection_(stationSelection)
+    , preferences_(preferences)
+    , files_(files)
+    , filePanels_(filePanels)
+    , alerts_(alerts)
+    , localizedStrings_(localizedStrings)
+    , outlets_(outlets)
+{
+}
+
+void StationImport::importRadioListFromFile()
+{
+    const Text path = filePanels_.runModal(OpenPanel{"csv"});
+    if (!path.isAbsent())
+        importRadioListFromFileAtPath(path);
+}
+
+void StationImport::importRadioListFromFileAtPath(const Text& path)
+{
+    Text rescueCopy;
+    if (stationList_.numberOfStations() > 0 && isToReplaceList()) {
+        rescueCopy = stationDatabase_.keepListBeforeImport();
+        if (rescueCopy.isAbsent())
+            return tell(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
+        stationList_.listRadio = std::make_shared<StationRecords>();
+    }
+    const Text text = listTextOfPlainFile(files_, path);
+    const Outcome outcome = text.isAbsent() ? Outcome() : appendStations(text);
+    stationDatabase_.fileRadioDBupdate();
+    tellOutcome(outcome, rescueCopy);
+    if (outcome.hasDuplicates)
+        notify("AS_DUPLICATED_DATA");
+}
+
+bool StationImport::isToReplaceList() const
+{
+    const auto& strings = localizedStrings_;
+    const Alert question{strings.localizedStringForKey("ERASE_ALL_PREVIOUS_DATA"),
+        {strings.localizedStringForKey("BUTTON_YES"), strings.localizedStringForKey("BUTTON_NO")}};
+    return alerts_.runModal(question) == firstButtonAnswer;
+}
+
+/// What is shown follows the list line by line, but nobody sees it before the first notice or the end: it is brought
+/// up to date there, as it stood before the line that was looked at last.
+StationImport::Outcome StationImport::appendStations(const Text& text)
+{
+    StationRecords& list = *stationList_.listRadio;
+    ImportedNames names(list);
+    const auto initialCount = static_cast<std::int64_t>(list.size());
+    std::int64_t runningCount = initialCount;
+    StationListReader reader(text.view());
+    for (auto line = reader.next(); line;) {
+        const auto following = reader.next();
+        const bool isFull = runningCount >= preferences_.PREF_MAX_NUMBER_RADIO;
+        if (isFull || !following)
+            showList();
+        if (isFull) {
+            notify("LIMIT_IMPORT_DATA");
+            break;
+        }
+        if (line->isStation) {
+            ++runningCount;
+            list.push_back(std::make_shared<KVStationWebRadio>(static_cast<std::uint64_t>(runningCount),
+                names.nameFor(text.slice(line->name), runningCount), text.slice(line->link)));
+        }
+        line = following;
+    }
+    return {static_cast<std::size_t>(runningCount - initialCount), names.hasDuplicates()};
+}
+
+void StationImport::showList()
+{
+    stationSelection_.updatePopupListRadioWithListStation();
+    outlets_.tableViewListRadio.reloadData();
+}
+
+void StationImport::notify(std::string_view message) const
+{
+    const auto& strings = localizedStrings_;
+    alerts_.runModal({strings.localizedStringForKey(message), {strings.localizedStringForKey("BUTTON_CONTINUE")}});
+}
+
+void StationImport::tellOutcome(const Outcome& outcome, const Text& rescueCopy)
+{
+    const auto& strings = localizedStrings_;
+    std::string status = outcome.imported == 0
+        ? strings.localizedStringForKey("STATUS_NOTHING_IMPORTED").string()
+        : filledIn(strings.localizedStringForKey("STATUS_IMPORTED"), static_cast<long>(outcome.imported)).string();
+    if (!rescueCopy.isAbsent()) {
+        const Text name = rescueCopy.view().substr(rescueCopy.view().rfind('/') + 1);
+        status.append(" ").append(filledIn(strings.localizedStringForKey("STATUS_LIST_KEPT"), name).view());
+    }
+    tell(status);
+}
+
+/// Emptied first, so that the same words are shown anew.
+void StationImport::tell(const Text& status)
+{
+    outlets_.labelListStatus.setStringValue("");
+    outlets_.labelListStatus.setStringValue(status);
+}
+
+} // namespace sonavel

@@ -1,0 +1,64 @@
+// The import of stations from a file of the user's.
+#pragma once
+
+#include "base/Text.h"
+
+#include <string_view>
+
+namespace sonavel {
+
+class Alerts;
+class FilePanels;
+class Files;
+class LocalizedStrings;
+class StationDatabase;
+class StationList;
+class StationSelection;
+struct Outlets;
+struct PreferenceFields;
+
+/// Main thread. Borrows everything it is given.
+class StationImport {
+public:
+    StationImport(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
+        const PreferenceFields& preferences, Files& files, FilePanels& filePanels, Alerts& alerts,
+        const LocalizedStrings& localizedStrings, Outlets& outlets);
+    StationImport(const StationImport&) = delete;
+    StationImport& operator=(const StationImport&) = delete;
+    ~StationImport() = default;
+
+    /// Lets the user choose a file and imports it.
+    void importRadioListFromFile();
+
+    /// Appends the stations of a plain list file, in the order of its lines, to the list, or replaces the list by them:
+    /// the user is asked when there are stations. The list that is replaced is kept as a rescue copy first; where that
+    /// fails, nothing is imported. A name that the list holds gets a number behind it. A file that cannot be read has
+    /// no stations. Stores the list; neither sorts it nor refreshes the title. Table and pop-ups show the list as it
+    /// was before the last line.
+    void importRadioListFromFileAtPath(const Text& path);
+
+private:
+    struct Outcome {
+        std::size_t imported = 0;
+        bool hasDuplicates = false;
+    };
+
+    [[nodiscard]] bool isToReplaceList() const;
+    [[nodiscard]] Outcome appendStations(const Text& text);
+    void showList();
+    void notify(std::string_view message) const;
+    void tellOutcome(const Outcome& outcome, const Text& rescueCopy);
+    void tell(const Text& status);
+
+    StationList& stationList_;
+    StationDatabase& stationDatabase_;
+    StationSelection& stationSelection_;
+    const PreferenceFields& preferences_;
+    Files& files_;
+    FilePanels& filePanels_;
+    Alerts& alerts_;
+    const LocalizedStrings& localizedStrings_;
+    Outlets& outlets_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,100 @@
+#include "editor/StationRemoval.h"
+
+#include "editor/EditorWindow.h"
+#include "model/StationList.h"
+#include "platform/Alerts.h"
+#include "platform/LocalizedStrings.h"
+#include "playback/Player.h"
+#include "playback/StationSelection.h"
+#include "storage/StationDatabase.h"
+#include "ui/Outlets.h"
+
+#include <algorithm>
+
+namespace sonavel {
+
+namespace {
+
+/// In one pass, however many: what stays moves up range by range.
+void removeAtIndexes(StationRecords& stations, const IndexSet& indexes)
+{
+    auto kept = stations.begin();
+    std::size_t next = 0;
+    const auto keepUpTo = [&](std::size_t end) {
+        const auto from = stations.begin() + static_cast<std::ptrdiff_t>(next);
+        const auto to = stations.begin() + static_cast<std::ptrdiff_t>(end);
+        kept = kept == from ? to : std::move(from, to, kept);
+    };
+    const IndexSet existing = indexes.below(stations.size());
+    for (const IndexRange& range : existing.ranges()) {
+        keepUpTo(range.first);
+        next = range.end;
+    }
+    keepUpTo(stations.size());
+    stations.erase(kept, stations.end());
+}
+
+} // namespace
+
+StationRemoval::StationRemoval(StationList& stationList, StationDatabase& stationDatabase,
+    StationSelection& stationSelection, Player& player, EditorWindow& editorWindow, Alerts& alerts,
+    const LocalizedStrings& localizedStrings, Outlets& outlets)
+    : stationList_(stationList)
+    , stationDatabase_(stationDatabase)
+    , stationSelection_(stationSelection)
+    , player_(player)
+    , editorWindow_(editorWindow)
+    , alerts_(alerts)
+    , localizedStrings_(localizedStrings)
+    , outlets_(outlets)
+{
+}
+
+void StationRemoval::radioRemoveToList()
+{
+    if (isSelectionPresent()) {
+        const bool isChosen = isSelectedStationChosen();
+        const auto& strings = localizedStrings_;
+        const Alert alert{question(isChosen),
+            {strings.localizedStringForKey("BUTTON_YES"), strings.localizedStringForKey("BUTTON_NO")}};
+        if (alerts_.runModal(alert) == firstButtonAnswer)
+            removeSelected(isChosen);
+    }
+    editorWindow_.updateTitleWebRadioListEdit();
+}
+
+/// Rows can be left over from a longer list.
+bool StationRemoval::isSelectionPresent() const
+{
+    return !outlets_.tableViewListRadio.selectedRowIndexes().below(stationList_.numberOfStations()).isEmpty();
+}
+
+/// Asked of a single station; several are removed without a look at what plays.
+bool StationRemoval::isSelectedStationChosen() const
+{
+    const auto station = stationList_.stationAtIndex(outlets_.tableViewListRadio.selectedRow());
+    return outlets_.tableViewListRadio.numberOfSelectedRows() < 2 && station != nullptr
+        && outlets_.popupbuttonRadioList.titleOfSelectedItem() == station->radio();
+}
+
+Text StationRemoval::question(bool isChosen) const
+{
+    const long rows = outlets_.tableViewListRadio.numberOfSelectedRows();
+    if (rows >= 2)
+        return filledIn(localizedStrings_.localizedStringForKey("REMOVE_ALL_RADIO_SELECTED"), rows);
+    const auto station = stationList_.stationAtIndex(outlets_.tableViewListRadio.selectedRow());
+    return filledIn(
+        localizedStrings_.localizedStringForKey(isChosen ? "REMOVE_RADIO_TO_PLAY" : "REMOVE_RADIO"), station->radio());
+}
+
+void StationRemoval::removeSelected(bool isChosen)
+{
+    if (isChosen)
+        player_.stop();
+    removeAtIndexes(*stationList_.listRadio, outlets_.tableViewListRadio.selectedRowIndexes());
+    outlets_.tableViewListRadio.reloadData();
+    stationSelection_.updatePopupListRadioWithListStation();
+    stationDatabase_.fileRadioDBupdate();
+}
+
+} // namespace sonavel

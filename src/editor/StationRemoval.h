@@ -1,0 +1,48 @@
+// The removal of stations, after a question.
+#pragma once
+
+#include "base/Text.h"
+
+namespace sonavel {
+
+class Alerts;
+class EditorWindow;
+class LocalizedStrings;
+class Player;
+class StationDatabase;
+class StationList;
+class StationSelection;
+struct Outlets;
+
+/// Main thread. Borrows everything it is given.
+class StationRemoval {
+public:
+    StationRemoval(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
+        Player& player, EditorWindow& editorWindow, Alerts& alerts, const LocalizedStrings& localizedStrings,
+        Outlets& outlets);
+    StationRemoval(const StationRemoval&) = delete;
+    StationRemoval& operator=(const StationRemoval&) = delete;
+    ~StationRemoval() = default;
+
+    /// Asks whether to remove the stations of the table's selected rows, removes and stores. A single station whose
+    /// name is the chosen one's is stopped first; among several none is. The order of the others stays. Asks nothing
+    /// when no selected row shows a station.
+    void radioRemoveToList();
+
+private:
+    [[nodiscard]] bool isSelectionPresent() const;
+    [[nodiscard]] bool isSelectedStationChosen() const;
+    [[nodiscard]] Text question(bool isChosen) const;
+    void removeSelected(bool isChosen);
+
+    StationList& stationList_;
+    StationDatabase& stationDatabase_;
+    StationSelection& stationSelection_;
+    Player& player_;
+    EditorWindow& editorWindow_;
+    Alerts& alerts_;
+    const LocalizedStrings& localizedStrings_;
+    Outlets& outlets_;
+};
+
+} // namespace sonavel

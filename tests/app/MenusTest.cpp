@@ -1,0 +1,88 @@
+// Which menu items are enabled when, and what they do.
+#include "support/ControllerTest.h"
+
+namespace sonavel {
+namespace {
+
+class MenusTest : public ControllerTest {
+protected:
+    [[nodiscard]] std::string enabled()
+    {
+        actions.validateItems();
+        std::string tags;
+        for (const MenuItem* item : controller.menus.items())
+            tags += item->state().isEnabled ? std::to_string(item->tag()) + " " : "";
+        return tags;
+    }
+
+    void showEditor(bool hasKeyboard)
+    {
+        outlets.winWebRadioListEdit.setIsVisible(true);
+        outlets.winWebRadioListEdit.keyWindowChangedByUser(hasKeyboard);
+    }
+};
+
+TEST_F(MenusTest, ItemsOfTheListNeedItsWindowWithTheKeyboard)
+{
+    startWithStations("A;http://a/\rB;http://b/\r");
+    EXPECT_EQ(enabled(), "1003 2002 2003 2004 0 ");
+    EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
+    showEditor(false);
+    EXPECT_EQ(enabled(), "1003 2002 2003 2004 0 ");
+    EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<CLOSE_EDIT_RADIO_LIST>");
+    showEditor(true);
+    EXPECT_EQ(enabled(), "1000 3000 3001 1003 2002 2003 2004 0 ");
+    outlets.tableViewListRadio.selectedByUser({0}, 0);
+    EXPECT_EQ(enabled(), "1000 1001 1002 3000 3001 1003 2002 2003 2004 0 ");
+    outlets.tableViewListRadio.selectedByUser({0, 1}, 1);
+    EXPECT_EQ(enabled(), "1000 1002 3000 3001 1003 2002 2003 2004 0 ");
+    controller.stationList.listRadio->clear();
+    EXPECT_EQ(enabled(), "1000 1002 3000 1003 2002 2003 2004 0 ");
+}
+
+TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)
+{
+    startWithStations("A;http://a/\r");
+    outlets.popupbuttonRadioList.chosenByUser(1);
+    EXPECT_EQ(enabled(), "1003 2000 2002 2003 2004 0 ");
+    outlets.menuPlayPause.chosenByUser();
+    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 0 ");
+    outlets.menuPlayPause.chosenByUser();
+    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 0 ") << "paused";
+    controller.stationSelection.updatePopupListRadioWithListStation();
+    EXPECT_EQ(enabled(), "1003 2001 2002 2003 2004 0 ") << "still held, while the pop-up shows its placeholder";
+    outlets.menuMute.chosenByUser();
+    EXPECT_TRUE(controller.player.isMute);
+    outlets.menuStop.chosenByUser();
+    EXPECT_TRUE(controller.player.isStop);
+    outlets.menuNextStation.chosenByUser();
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+}
+
+TEST_F(MenusTest, TheListItemTogglesItsWindowAndWaitsForThePreferences)
+{
+    start();
+    outlets.menuRadioShowEditRadio.chosenByUser();
+    EXPECT_TRUE(outlets.winWebRadioListEdit.isVisible());
+    outlets.menuRadioShowEditRadio.chosenByUser();
+    EXPECT_FALSE(outlets.winWebRadioListEdit.isVisible());
+    outlets.winPreferences.setIsVisible(true);
+    EXPECT_EQ(enabled(), "2002 2003 2004 0 ");
+    EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
+}
+
+TEST_F(MenusTest, TagsThatNoItemHasDoNothing)
+{
+    start();
+    platform.log.clear();
+    for (const int tag : {-1, 1, 999, 1004, 2005, 4000, 4002}) {
+        MenuItem item;
+        item.connect({{}, tag, true});
+        controller.menus.menuView(item);
+        EXPECT_EQ(controller.menus.validateMenuItem(item), tag == 4000) << tag;
+    }
+    EXPECT_TRUE(platform.log.empty());
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,135 @@
+// Adding and changing stations through the sheet.
+#include "support/ControllerTest.h"
+
+namespace sonavel {
+namespace {
+
+class EditSheetTest : public ControllerTest {
+protected:
+    void select(const IndexSet& rows)
+    {
+        outlets.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
+    }
+
+    void add(const Text& name, const Text& address)
+    {
+        controller.editSheet.radioAddToList();
+        type(name, address);
+        outlets.buttonAction.setEnabled(true);
+        outlets.buttonAction.pressedByUser();
+    }
+
+    void type(const Text& name, const Text& address)
+    {
+        outlets.textFieldRadioName.typedByUser(name);
+        outlets.textFieldRadioLink.typedByUser(address);
+    }
+
+    [[nodiscard]] Text title() const { return outlets.winWebRadioListEdit.state().title; }
+};
+
+TEST_F(EditSheetTest, AStationNeedsANameOrAnAddressOfItsLeastLength)
+{
+    startWithStations("B;http://b/\r");
+    add("1", "123456789");
+    EXPECT_EQ(list(), "B;http://b/\r");
+    EXPECT_TRUE(platform.log.back().starts_with("write ")) << "a confirmed sheet is always stored";
+    add("12", "");
+    add("", "1234567890");
+    EXPECT_EQ(list(), ";1234567890\r12;\rB;http://b/\r");
+    add("\U0001F4FB", "");
+    EXPECT_EQ(controller.stationList.numberOfStations(), 4U) << "two UTF-16 code units";
+    EXPECT_EQ(database(), Text(list()));
+}
+
+TEST_F(EditSheetTest, AnAddedStationIsSortedInAndTheLastRowSelected)
+{
+    startWithStations("B;http://b/\rC;http://c/\rD;http://d/\r");
+    outlets.popupbuttonRadioList.chosenByUser(2);
+    controller.editSheet.radioAddToList();
+    EXPECT_EQ(outlets.buttonAction.title(), "<BUTTON_ADD>");
+    EXPECT_TRUE(outlets.winEditData.state().isSheet);
+    EXPECT_EQ(outlets.winEditData.state().focusReleases, 1U);
+    type("Aa", "http://a/");
+    outlets.buttonAction.setEnabled(true);
+    outlets.buttonAction.pressedByUser();
+    EXPECT_EQ(list(), "Aa;http://a/\rB;http://b/\rC;http://c/\rD;http://d/\r");
+    EXPECT_EQ(controller.stationList.listRadio->front()->idRadio(), 4U);
+    EXPECT_EQ(outlets.tableViewListRadio.selectedRowIndexes(), IndexSet{3});
+    EXPECT_EQ(outlets.tableViewListRadio.state().rowToShow, 3);
+    EXPECT_EQ(outlets.popupbuttonRadioList.numberOfItems(), 5);
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 0);
+    EXPECT_EQ(title(), "<WIN_EDIT_RADIO_LIST> (4)");
+    EXPECT_FALSE(outlets.winEditData.isVisible());
+    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "");
+    EXPECT_EQ(outlets.textFieldRadioLink.stringValue(), "");
+}
+
+TEST_F(EditSheetTest, ChangingTakesWhateverIsTypedAndTheStreamGoesOn)
+{
+    putPreferences({{"isAutoPlay", "YES"}});
+    startWithStations("A;http://a/\rB;http://b/\r");
+    outlets.popupbuttonRadioList.chosenByUser(1);
+    select({0});
+    controller.editorTable.myDoubleClickAction();
+    EXPECT_EQ(outlets.buttonAction.title(), "<BUTTON_EDIT>");
+    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "A");
+    EXPECT_EQ(outlets.textFieldRadioLink.stringValue(), "http://a/");
+    type("", "");
+    controller.editSheet.buttonAction();
+    EXPECT_EQ(list(), ";\rB;http://b/\r");
+    EXPECT_TRUE(controller.player.isPlay);
+    EXPECT_EQ(controller.player.playRadioLink, "http://a/");
+}
+
+TEST_F(EditSheetTest, CancelStoresNothing)
+{
+    startWithStations("A;http://a/\r");
+    select({0});
+    controller.editSheet.radioEditToList();
+    type("Z", "Z");
+    platform.log.clear();
+    outlets.winEditData.closeRequestedByUser();
+    EXPECT_EQ(list(), "A;http://a/\r");
+    EXPECT_TRUE(platform.log.empty());
+    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "");
+}
+
+TEST_F(EditSheetTest, TheFieldsHoldWhatTheFilterLeavesWhicheverChanged)
+{
+    putPreferences({{"maxLenghtRadioName", "5"}});
+    start();
+    outlets.textFieldRadioName.setStringValue("set  by the program");
+    outlets.textFieldRadioLink.typedByUser("http://a/  ;x");
+    EXPECT_EQ(outlets.textFieldRadioLink.stringValue(), "http://a/ x");
+    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "set b");
+    controller.preferences.PREF_MAX_NAME_RADIO_LENGHT = 0x1'0000'0002;
+    outlets.textFieldRadioName.typedByUser("abcdef");
+    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "ab") << "the low 32 bits are the limit";
+}
+
+TEST_F(EditSheetTest, NoSeparatorReachesTheListByAPathAroundTheFilter)
+{
+    start();
+    controller.editSheet.radioAddToList();
+    outlets.textFieldRadioName.setStringValue("a;b\rc");
+    controller.editSheet.buttonAction();
+    EXPECT_EQ(database(), "abc;\r");
+}
+
+TEST_F(EditSheetTest, ASelectionThatIsGoneIsNotEdited)
+{
+    startWithStations("A;http://a/\rB;http://b/\r");
+    select({1});
+    controller.editSheet.radioEditToList();
+    controller.stationList.listRadio->pop_back();
+    type("Z", "Z");
+    controller.editSheet.buttonAction();
+    EXPECT_EQ(list(), "A;http://a/\r");
+    controller.stationList.listRadio->clear();
+    controller.editSheet.radioEditToList();
+    EXPECT_FALSE(outlets.winEditData.isVisible());
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,102 @@
+// The table of stations: its cells, its toolbar, its window.
+#include "support/ControllerTest.h"
+
+namespace sonavel {
+namespace {
+
+class EditorTableTest : public ControllerTest {
+protected:
+    TableView& table = outlets.tableViewListRadio;
+
+    [[nodiscard]] std::string enabledItems() const
+    {
+        std::string tags;
+        for (const ToolbarItem* item :
+            {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
+            tags += item->state().isEnabled ? std::to_string(item->tag()) : "";
+        return tags;
+    }
+};
+
+TEST_F(EditorTableTest, ACellTakesWhatIsTypedWithoutSeparatorsAndKeepsItsRow)
+{
+    startWithStations("A;http://a/\rB;http://b/\r");
+    table.editedByUser("Z;  \r ", "radio", 0);
+    table.editedByUser("", "link", 1);
+    EXPECT_EQ(list(), "Z   ;http://a/\rB;\r");
+    EXPECT_EQ(database(), Text(list()));
+    EXPECT_EQ(outlets.popupbuttonRadioList.state().titles->at(1), "Z   ");
+    EXPECT_EQ(table.textOfCell("radio", 0), "Z   ");
+    EXPECT_EQ(table.state().reloads, 1U);
+}
+
+TEST_F(EditorTableTest, AnUnchangedCellOrOneOfAGoneRowIsNoEdit)
+{
+    startWithStations("A;http://a/\rB;http://b/\r");
+    outlets.popupbuttonRadioList.chosenByUser(1);
+    platform.log.clear();
+    table.editedByUser("A", "radio", 0);
+    table.editedByUser("A;", "radio", 0);
+    table.editedByUser("Z", "radio", 2);
+    table.editedByUser("Z", "radio", -1);
+    table.editedByUser("Z", "other", 0);
+    EXPECT_TRUE(platform.log.empty());
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_TRUE(table.textOfCell("radio", 2).isAbsent());
+}
+
+TEST_F(EditorTableTest, ACellThatIsOpenIsEndedBeforeACommandWorksOnTheRows)
+{
+    startWithStations("A;http://a/\rB;http://b/\r");
+    unsigned ends = 0;
+    table.connect(table.state(), [&](const TableViewState& state) {
+        if (std::exchange(ends, state.endsOfEditing) != state.endsOfEditing)
+            table.editedByUser("Typed", "radio", 1);
+    });
+    table.selectedByUser({0}, 0);
+    platform.alerts.expect(
+        "<REMOVE_RADIO>", firstButtonAnswer, [&] { EXPECT_EQ(list(), "A;http://a/\rTyped;http://b/\r"); });
+    outlets.radioRemove.pressedByUser();
+    EXPECT_EQ(list(), "Typed;http://b/\r");
+}
+
+TEST_F(EditorTableTest, TheToolbarFollowsSelectionAndRows)
+{
+    start();
+    EXPECT_EQ(enabledItems(), "03");
+    controller.stationList.listRadio->assign(3, std::make_shared<KVStationWebRadio>(1, "A", "http://a/"));
+    table.reloadData();
+    table.selectedByUser({1}, 1);
+    EXPECT_EQ(enabledItems(), "01234");
+    table.selectedByUser({1, 2}, 2);
+    EXPECT_EQ(enabledItems(), "0234");
+    table.selectedByUser({}, 2);
+    EXPECT_EQ(enabledItems(), "034");
+    controller.editorTable.myDoubleClickAction();
+    EXPECT_FALSE(outlets.winEditData.isVisible()) << "no selected row";
+    ToolbarItem other;
+    other.connect({5, true});
+    controller.editorToolbar.toolbar(other);
+    EXPECT_FALSE(controller.editorToolbar.validateToolbarItem(other));
+}
+
+TEST_F(EditorTableTest, TheButtonShowsTheWindowThenBringsItToTheFront)
+{
+    startWithStations("A;http://a/\r");
+    Window& window = outlets.winWebRadioListEdit;
+    EXPECT_EQ(window.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
+    controller.stationList.listRadio->clear();
+    outlets.buttonEditRadioList.setEnabled(true);
+    outlets.buttonEditRadioList.pressedByUser();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.state().title, "<WIN_EDIT_RADIO_LIST> (0)");
+    outlets.buttonEditRadioList.pressedByUser();
+    EXPECT_EQ(window.state().frontRequests, 0U);
+    platform.runLoop.turn();
+    EXPECT_EQ(window.state().frontRequests, 1U);
+    window.closeRequestedByUser();
+    EXPECT_FALSE(window.isVisible());
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,190 @@
+// Imports: merging, replacing, full lists, and files that are none.
+#include "support/ControllerTest.h"
+
+#include <random>
+
+namespace sonavel {
+namespace {
+
+class StationImportTest : public ControllerTest {
+protected:
+    static constexpr const char* path = "/media/stick/list.csv";
+    static constexpr const char* erase = "<ERASE_ALL_PREVIOUS_DATA>";
+
+    void import(std::string_view content)
+    {
+        platform.files.files[path] = content;
+        platform.filePanels.choice = path;
+        controller.stationImport.importRadioListFromFile();
+    }
+
+    void startAnswering(const Text& listText, int answer)
+    {
+        startWithStations(listText);
+        platform.alerts.expect(erase, answer);
+    }
+
+    [[nodiscard]] int items() const { return outlets.popupbuttonRadioList.numberOfItems(); }
+    [[nodiscard]] Text status() const { return outlets.labelListStatus.stringValue(); }
+    [[nodiscard]] bool hasRescueCopy() const
+    {
+        return platform.files.files.contains(platform.files.inPreferences("radiolist.before-import.rdb"));
+    }
+};
+
+TEST_F(StationImportTest, AnEmptyListTakesEveryLineAsItStands)
+{
+    start();
+    platform.log.clear();
+    import("radio;link\rB;http://b/;more\r\rradio;x\rlink;x\r-;x\rno address\rA  A;\rB;http://b2/\r");
+    EXPECT_EQ(list(), "B;http://b/\rA  A;\rB;http://b2/\r");
+    EXPECT_EQ(controller.stationList.listRadio->back()->idRadio(), 3U);
+    EXPECT_EQ(database(), Text(list()));
+    EXPECT_EQ(std::count_if(platform.log.begin(), platform.log.end(),
+                  [](const std::string& entry) { return entry.starts_with("write "); }),
+        1);
+    EXPECT_EQ(items(), 4);
+    EXPECT_EQ(outlets.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (0)") << "keeps its count";
+    EXPECT_EQ(platform.filePanels.opened->allowedFileType, "csv");
+}
+
+TEST_F(StationImportTest, AMergingImportNumbersWhatIsTaken)
+{
+    startAnswering("A;http://a/\rB;http://b/\r", secondButtonAnswer);
+    platform.alerts.expect("<AS_DUPLICATED_DATA>", firstButtonAnswer, [&] {
+        EXPECT_EQ(database(), Text(list()));
+        EXPECT_EQ(items(), 8) << "the last line has no end: it is not shown yet";
+    });
+    import("A;1\ra;2\rC;3\rC;4\rA (3);5\rA;6");
+    EXPECT_EQ(list(), "A;http://a/\rB;http://b/\rA (3);1\ra;2\rC;3\rC (6);4\rA (3) (7);5\rA (8);6\r");
+    EXPECT_EQ(outlets.tableViewListRadio.numberOfRows(), 7);
+}
+
+TEST_F(StationImportTest, MergingGivesWhatTheLiteralProcedureGives)
+{
+    std::mt19937 random(3);
+    const auto name = [&] { return std::string(1 + random() % 2, static_cast<char>('A' + random() % 3)); };
+    for (int round = 0; round < 200; ++round) {
+        std::vector<std::string> names(1 + random() % 6);
+        std::generate(names.begin(), names.end(), name);
+        std::string imported;
+        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        for (const std::string& present : names)
+            controller.stationList.listRadio->push_back(std::make_shared<KVStationWebRadio>(1, present, ""));
+        bool hasDuplicates = false;
+        for (std::size_t count = random() % 12; count > 0; --count) {
+            std::string next = random() % 4 == 0 ? name() + " (" + std::to_string(random() % 12) + ")" : name();
+            imported += next + ";x\r";
+            if (std::find(names.begin(), names.end(), next) != names.end()) {
+                next += " (" + std::to_string(names.size() + 1) + ")";
+                hasDuplicates = true;
+            }
+            names.push_back(next);
+        }
+        platform.alerts.expect(erase, secondButtonAnswer);
+        if (hasDuplicates)
+            platform.alerts.expect("<AS_DUPLICATED_DATA>", firstButtonAnswer);
+        import(imported);
+        std::vector<std::string> got;
+        for (const auto& station : *controller.stationList.listRadio)
+            got.push_back(station->radio().string());
+        ASSERT_EQ(got, names);
+    }
+}
+
+TEST_F(StationImportTest, YesReplacesTheListAndKeepsTheFormerOne)
+{
+    startAnswering("A;http://a/\rB;http://b/\r", firstButtonAnswer);
+    import("C;http://c/\r");
+    EXPECT_EQ(list(), "C;http://c/\r");
+    EXPECT_EQ(controller.stationList.listRadio->front()->idRadio(), 1U);
+    const std::string copy = platform.files.files.at(platform.files.inPreferences("radiolist.before-import.rdb"));
+    EXPECT_EQ(AES256DecryptWithKey(Text(copy), stationDatabasePassphrase), "A;http://a/\rB;http://b/\r");
+    EXPECT_EQ(status(), "<STATUS_IMPORTED> <STATUS_LIST_KEPT>");
+}
+
+TEST_F(StationImportTest, WithoutARescueCopyNothingIsReplaced)
+{
+    startAnswering("A;http://a/\r", firstButtonAnswer);
+    platform.files.failAll("keep ");
+    import("C;http://c/\r");
+    EXPECT_EQ(list(), "A;http://a/\r");
+    EXPECT_EQ(database(), "A;http://a/\r");
+    EXPECT_EQ(status(), "<STATUS_LIST_NOT_KEPT>");
+}
+
+TEST_F(StationImportTest, AFileWithoutStationsLeavesOldRowsThatNothingTripsOver)
+{
+    const char* const contents[] = {"\xFF\xFE", "caf\xE9;http://x/\r"};
+    for (const char* content : contents) {
+        putDatabase("A;http://a/\rB;http://b/\r");
+        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        startAnswering("A;http://a/\rB;http://b/\r", firstButtonAnswer);
+        outlets.tableViewListRadio.selectedByUser({1}, 1);
+        import(content);
+        EXPECT_EQ(list(), "");
+        EXPECT_EQ(database(), "");
+        EXPECT_TRUE(hasRescueCopy());
+        EXPECT_EQ(outlets.tableViewListRadio.numberOfRows(), 2) << "no line, no refresh";
+        EXPECT_EQ(items(), 3);
+
+        outlets.radioEdit.pressedByUser();
+        outlets.radioRemove.pressedByUser();
+        outlets.tableViewListRadio.editedByUser("Z", "radio", 0);
+        outlets.popupbuttonRadioList.chosenByUser(2);
+        EXPECT_EQ(list(), "");
+        EXPECT_FALSE(controller.player.isPlay);
+        EXPECT_EQ(outlets.winEditData.isVisible(), false);
+    }
+}
+
+TEST_F(StationImportTest, TheCountLimitStopsBeforeTheNextLineWhateverItIs)
+{
+    start();
+    controller.preferences.PREF_MAX_NUMBER_RADIO = 2;
+    platform.alerts.expect("<LIMIT_IMPORT_DATA>", firstButtonAnswer, [&] { EXPECT_EQ(items(), 3); });
+    import("A;1\rB;2\r");
+    EXPECT_EQ(list(), "A;1\rB;2\r");
+    controller.preferences.PREF_MAX_NUMBER_RADIO = 1;
+    platform.alerts.expect(erase, secondButtonAnswer);
+    platform.alerts.expect("<LIMIT_IMPORT_DATA>", firstButtonAnswer);
+    import("C;3\r");
+    EXPECT_EQ(database(), "A;1\rB;2\r");
+}
+
+TEST_F(StationImportTest, OddFilesGiveTheStationsThatTheyHold)
+{
+    const std::string longName(100'000, 'n');
+    const std::pair<std::string, std::string> cases[] = {
+        {"", ""},
+        {"radio;link", ""},
+        {"\xEF\xBB\xBFradio;link\rA;1\r", "A;1\r"},
+        {"radio;link\nA;1\nB;2\n", ""},
+        {"radio;link\r\nA;1\r\n", "\nA;1\r"},
+        {std::string("A\0B;1\r", 6), std::string("A\0B;1\r", 6)},
+        {longName + ";1\r", longName + ";1\r"},
+        {std::string(20'000'000, 'x') + "\rA;1\r", "A;1\r"},
+    };
+    for (const auto& [content, expected] : cases) {
+        start();
+        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        import(content);
+        EXPECT_EQ(list(), expected);
+    }
+    platform.filePanels.choice = "/media/stick/vanished.csv";
+    controller.stationList.listRadio->clear();
+    controller.stationImport.importRadioListFromFile();
+    EXPECT_EQ(list(), "");
+    EXPECT_EQ(status(), "<STATUS_NOTHING_IMPORTED>");
+}
+
+TEST_F(StationImportTest, ACancelledPanelAsksAndChangesNothing)
+{
+    startWithStations("A;http://a/\r");
+    platform.log.clear();
+    controller.stationImport.importRadioListFromFile();
+    EXPECT_TRUE(platform.log.empty());
+}
+
+} // namespace
+} // namespace sonavel

@@ -1,0 +1,88 @@
+// The removal of stations, with its questions.
+#include "support/ControllerTest.h"
+
+namespace sonavel {
+namespace {
+
+/// Texts with their placeholders.
+class StationRemovalTest : public ControllerTest {
+protected:
+    void startPlayingFirst(const Text& listText)
+    {
+        putPreferences({{"isAutoPlay", "YES"}, {"enableMultipleSelection", "YES"}});
+        startWithStations(listText);
+        outlets.popupbuttonRadioList.chosenByUser(1);
+        ASSERT_TRUE(controller.player.isPlay);
+    }
+
+    void remove(const IndexSet& rows, const Text& question, int answer)
+    {
+        outlets.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
+        platform.alerts.expect(question, answer);
+        outlets.radioRemove.pressedByUser();
+    }
+};
+
+TEST_F(StationRemovalTest, TheChosenStationIsStoppedBeforeItGoes)
+{
+    startPlayingFirst("A;http://a/\rB;http://b/\r");
+    remove({0}, "<REMOVE_RADIO_TO_PLAY>", firstButtonAnswer);
+    EXPECT_FALSE(controller.player.isPlay);
+    EXPECT_EQ(list(), "B;http://b/\r");
+    EXPECT_EQ(database(), Text(list()));
+    EXPECT_EQ(outlets.popupbuttonRadioList.numberOfItems(), 2);
+    EXPECT_EQ(outlets.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
+}
+
+TEST_F(StationRemovalTest, AnotherOfTheSameNameCountsAsTheChosenOne)
+{
+    startPlayingFirst("A;http://a/\rA;http://b/\r");
+    remove({1}, "<REMOVE_RADIO_TO_PLAY>", firstButtonAnswer);
+    EXPECT_FALSE(controller.player.isPlay);
+}
+
+TEST_F(StationRemovalTest, AmongSeveralThePlayingStationGoesWithoutAStop)
+{
+    startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\rD;http://d/\r");
+    remove({0, 2}, "<REMOVE_ALL_RADIO_SELECTED>", firstButtonAnswer);
+    EXPECT_TRUE(controller.player.isPlay);
+    EXPECT_EQ(list(), "B;http://b/\rD;http://d/\r");
+    remove({0, 1}, "<REMOVE_ALL_RADIO_SELECTED>", firstButtonAnswer);
+    EXPECT_EQ(database(), "");
+    EXPECT_EQ(outlets.tableViewListRadio.selectedRow(), -1);
+    EXPECT_FALSE(outlets.popupbuttonRadioList.state().isEnabled);
+}
+
+TEST_F(StationRemovalTest, NoLeavesListAndFileAndRefreshesTheTitle)
+{
+    startPlayingFirst("A;http://a/\rB;http://b/\r");
+    platform.log.clear();
+    outlets.winWebRadioListEdit.setTitle("old");
+    remove({1}, "<REMOVE_RADIO>", secondButtonAnswer);
+    EXPECT_EQ(list(), "A;http://a/\rB;http://b/\r");
+    EXPECT_TRUE(platform.log.empty());
+    EXPECT_EQ(outlets.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (2)");
+}
+
+TEST_F(StationRemovalTest, RowsLeftOverFromALongerListAreNotRemoved)
+{
+    startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
+    outlets.tableViewListRadio.selectedByUser({2}, 2);
+    controller.stationList.listRadio->resize(2);
+    controller.stationRemoval.radioRemoveToList();
+    EXPECT_EQ(controller.stationList.numberOfStations(), 2U);
+    outlets.tableViewListRadio.selectedByUser({1, 2}, 2);
+    platform.alerts.expect("<REMOVE_ALL_RADIO_SELECTED>", firstButtonAnswer);
+    controller.stationRemoval.radioRemoveToList();
+    EXPECT_EQ(list(), "A;http://a/\r");
+}
+
+TEST(Placeholders, WhatIsFilledInIsNotExpandedAgain)
+{
+    EXPECT_EQ(filledIn("Remove “%@”?", "%@ <b>%li</b>"), "Remove “%@ <b>%li</b>”?");
+    EXPECT_EQ(filledIn("Remove %li of %@", 1'000'000), "Remove 1000000 of %@");
+    EXPECT_EQ(filledIn("none", "x"), "none");
+}
+
+} // namespace
+} // namespace sonavel
