@@ -8,6 +8,7 @@ namespace sonavel {
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
+constexpr std::string_view schemeEnding = "://";
 
 std::string_view withoutOuterBlanks(std::string_view text)
 {
@@ -46,14 +47,19 @@ std::string_view hostIn(std::string_view rest)
     return end == std::string_view::npos || end == 1 ? std::string_view() : host.substr(0, end + 1);
 }
 
+/// Empty where there is no "://".
+std::string_view hostOf(std::string_view address)
+{
+    const std::size_t schemeEnd = address.find(schemeEnding);
+    return schemeEnd == std::string_view::npos ? std::string_view()
+                                               : hostIn(address.substr(schemeEnd + schemeEnding.size()));
+}
+
 bool isUsable(std::string_view address)
 {
-    constexpr std::string_view separator = "://";
-    const std::size_t schemeEnd = address.find(separator);
-    if (schemeEnd == std::string_view::npos || !isUsableScheme(address.substr(0, schemeEnd)))
-        return false;
-    const std::string_view host = hostIn(address.substr(schemeEnd + separator.size()));
-    return !host.empty() && host.find_first_of(" \\") == std::string_view::npos;
+    const std::string_view host = hostOf(address);
+    return isUsableScheme(address.substr(0, address.find(schemeEnding))) && !host.empty()
+        && host.find_first_of(" \\") == std::string_view::npos;
 }
 
 } // namespace
@@ -65,6 +71,12 @@ Text usableStreamAddress(const Text& link)
         || std::any_of(address.begin(), address.end(), isControl) || !isValidUtf8(address))
         return {};
     return link.slice(address);
+}
+
+Text hostOfStreamAddress(const Text& address)
+{
+    const std::string_view host = hostOf(address.view());
+    return host.empty() ? Text() : address.slice(host);
 }
 
 } // namespace sonavel

@@ -17,4 +17,8 @@ inline constexpr std::size_t longestStreamAddress = 8192;
 /// missing host, no blank or backslash in the host, no control character or invalid UTF-8 anywhere.
 [[nodiscard]] Text usableStreamAddress(const Text& link);
 
+/// The host of an address of the form "scheme://host…", without user and port; absent for another form. What to call a
+/// stream that has no name.
+[[nodiscard]] Text hostOfStreamAddress(const Text& address);
+
 } // namespace sonavel

@@ -35,5 +35,15 @@ TEST(StreamAddress, NothingElseReachesThePlayer)
     EXPECT_TRUE(usableStreamAddress(longest + "x").isAbsent());
 }
 
+TEST(StreamAddress, AHostIsNamedWithoutWhatStandsAroundIt)
+{
+    for (const char* link :
+        {"http://radio.example", "https://radio.example:8443/a@b:c/d", "http://u:p@radio.example/x"})
+        EXPECT_EQ(hostOfStreamAddress(link), Text("radio.example"));
+    EXPECT_EQ(hostOfStreamAddress("http://[::1]:8000/x"), Text("[::1]"));
+    for (const char* link : {"", "radio.example", "http://", "http:///x", "http://:80"})
+        EXPECT_TRUE(hostOfStreamAddress(link).isAbsent()) << link;
+}
+
 } // namespace
 } // namespace sonavel
