@@ -4,8 +4,6 @@
 #include "app/WinSonavelController.h"
 #include "ui/Outlets.h"
 
-#include <utility>
-
 namespace sonavel {
 
 using Controller = WinSonavelController;
@@ -72,6 +70,8 @@ void Actions::perform(const void* source, std::function<void(Controller&)> opera
     gate_.perform(source, [this, operation = std::move(operation)] {
         operation(controller_);
         validateItems();
+        if (observer_)
+            observer_();
     });
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 namespace sonavel {
 
@@ -23,6 +24,9 @@ public:
     /// before a key is matched, and when the keyboard comes to another window.
     void validateItems();
 
+    /// Calls `observer` after every action.
+    void setObserver(std::function<void()> observer) { observer_ = std::move(observer); }
+
     /// Does something that no control stands for, such as with a file that was dropped on a window. One that waits
     /// gives way to a later one for the same `source`.
     void perform(const void* source, std::function<void(WinSonavelController&)> operation);
@@ -39,6 +43,7 @@ private:
     WinSonavelController& controller_;
     Outlets& outlets_;
     Gate& gate_;
+    std::function<void()> observer_;
 };
 
 } // namespace sonavel

@@ -1,0 +1,74 @@
+// The player as the desktop's media keys and sound panels see it.
+#pragma once
+
+#include "base/Text.h"
+#include "playback/Player.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace sonavel {
+
+class Actions;
+class WinSonavelController;
+struct Outlets;
+
+struct MediaState {
+    enum class Status { Stopped, Paused, Playing };
+
+    Status status = Status::Stopped;
+    /// Counts the streams that were played; 0 before the first and while there is none.
+    std::uint64_t stream = 0;
+    /// The name of the station whose address is played, or the address's host where the list has none.
+    Text station;
+    Text address;
+    /// 0.0 (silent) to 1.0 (full).
+    double volume = 0.0;
+    bool canPlay = false;
+    bool canStep = false;
+
+    friend bool operator==(const MediaState&, const MediaState&) = default;
+};
+
+/// Every operation does what the control of the main window does, when that is enabled, and passes the gate as it does.
+///
+/// Main thread. Borrows everything it is given.
+class MediaControls {
+public:
+    MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions);
+    MediaControls(const MediaControls&) = delete;
+    MediaControls& operator=(const MediaControls&) = delete;
+    ~MediaControls() = default;
+
+    /// To be asked after every action: a station keeps the name that it had when it began to play.
+    [[nodiscard]] const MediaState& state();
+
+    /// Plays or goes on; nothing when it plays.
+    void play();
+    /// Nothing unless it plays.
+    void pause();
+    void playPause();
+    void stop();
+    void next();
+    void previous();
+    /// Beyond the slider's ends counts as the nearer one; what is no number is ignored.
+    void setVolume(double volume);
+
+    /// Shows the main window.
+    void raise();
+    /// As Quit does, with its question.
+    void quit();
+
+private:
+    void step(bool previous);
+    [[nodiscard]] Text stationName(const Text& address) const;
+
+    WinSonavelController& controller_;
+    Outlets& outlets_;
+    Actions& actions_;
+    MediaState state_;
+    std::uint64_t streams_ = 0;
+    std::shared_ptr<const PlayerItem> item_;
+};
+
+} // namespace sonavel

@@ -1,0 +1,111 @@
+// The player as media keys and sound panels see it.
+#include "app/MediaControls.h"
+
+#include "support/ControllerTest.h"
+
+#include <limits>
+
+namespace sonavel {
+namespace {
+
+class MediaControlsTest : public ControllerTest {
+protected:
+    using Status = MediaState::Status;
+
+    MediaControls media{controller, outlets, actions};
+
+    void choose(int item)
+    {
+        outlets.popupbuttonRadioList.chosenByUser(item);
+        (void)media.state();
+    }
+};
+
+TEST_F(MediaControlsTest, FollowTheButtonsOfTheMainWindow)
+{
+    startWithStations("A;http://a/\rB; http://b/ \r");
+    media.play();
+    media.playPause();
+    media.stop();
+    EXPECT_EQ(media.state().status, Status::Stopped) << "no station is chosen";
+    EXPECT_FALSE(media.state().canPlay);
+    EXPECT_TRUE(media.state().canStep);
+
+    media.next();
+    media.pause();
+    EXPECT_EQ(media.state().status, Status::Stopped);
+    media.play();
+    EXPECT_EQ(media.state().status, Status::Playing);
+    EXPECT_EQ(media.state().station, "A");
+    media.play();
+    EXPECT_EQ(media.state().stream, 1U) << "it plays already";
+    media.pause();
+    media.pause();
+    EXPECT_EQ(media.state().status, Status::Paused);
+    media.playPause();
+    EXPECT_EQ(media.state().stream, 1U);
+    media.stop();
+    EXPECT_EQ(media.state().stream, 0U);
+    media.previous();
+    media.play();
+    EXPECT_EQ(media.state().station, "B") << "blanks around an address are no part of it";
+    EXPECT_EQ(media.state().stream, 2U);
+}
+
+TEST_F(MediaControlsTest, AStationKeepsTheNameThatItHadWhenItBeganToPlay)
+{
+    startWithStations("A;http://a/\rB;http://b.example:8000/x\r");
+    choose(1);
+    media.play();
+    (void)media.state();
+    controller.stationList.listRadio->front()->setRadio("Renamed");
+    controller.stationList.listRadio->pop_back();
+    EXPECT_EQ(media.state().station, "A");
+    media.stop();
+    controller.player.playRadioLink = "http://b.example:8000/x";
+    media.play();
+    EXPECT_EQ(media.state().station, "b.example");
+}
+
+TEST_F(MediaControlsTest, TheVolumeFollowsTheSliderAndStaysWithinIt)
+{
+    startWithStations("A;http://a/\r");
+    const std::pair<double, double> cases[] = {
+        {0.25, 0.25}, {-1.0, 0.0}, {2.0, 1.0}, {std::numeric_limits<double>::quiet_NaN(), 1.0}, {0.5, 0.5}};
+    for (const auto& [set, heard] : cases) {
+        media.setVolume(set);
+        EXPECT_EQ(media.state().volume, heard) << set;
+        EXPECT_EQ(controller.player.sliderValue, heard);
+    }
+    outlets.buttonMute.setEnabled(true);
+    outlets.buttonMute.pressedByUser();
+    media.setVolume(0.9);
+    EXPECT_EQ(media.state().volume, 0.5) << "muted, the slider is disabled";
+}
+
+TEST_F(MediaControlsTest, WhatComesWhileAQuestionIsOpenWaitsForItsAnswer)
+{
+    startWithStations("A;http://a/\rB;http://b/\r");
+    choose(1);
+    platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", secondButtonAnswer, [&] {
+        media.play();
+        media.play();
+        media.next();
+        EXPECT_TRUE(controller.player.isStop);
+    });
+    media.quit();
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 2);
+    EXPECT_EQ(platform.streamPlayers.players.size(), 1U);
+}
+
+TEST_F(MediaControlsTest, WithoutStationsNothingSteps)
+{
+    start();
+    media.next();
+    media.previous();
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 0);
+    EXPECT_FALSE(media.state().canStep);
+}
+
+} // namespace
+} // namespace sonavel
