@@ -2,18 +2,22 @@
 
 #include "adapters/CurlHttpClient.h"
 #include "adapters/EngineProcess.h"
+#include "adapters/OneInstance.h"
 #include "adapters/PlistPreferenceDomains.h"
 #include "adapters/PosixFiles.h"
 #include "adapters/SystemClock.h"
 #include "app/Actions.h"
 #include "app/AppDelegate.h"
 #include "app/Gate.h"
+#include "app/MediaControls.h"
 #include "app/Ports.h"
 #include "app/WinSonavelController.h"
 #include "platform/NotificationCenter.h"
 #include "qt/AwaitingHttpClient.h"
+#include "qt/AwakeningSignals.h"
 #include "qt/FirstPaint.h"
 #include "qt/MainWindow.h"
+#include "qt/MediaPlayerBus.h"
 #include "qt/NowPlayingText.h"
 #include "qt/OutletConnector.h"
 #include "qt/QtAlerts.h"
@@ -67,8 +71,10 @@ DataServerSettings serverSettings(const Settings& settings)
 
 /// In the order of their dependence.
 struct Program::Parts {
-    Parts(const Settings& settings, std::unique_ptr<QTemporaryDir> temporaryHome, std::unique_ptr<DataServer> server)
-        : throwAwayHome(std::move(temporaryHome))
+    Parts(const Settings& settings, std::unique_ptr<OneInstance> claim, std::unique_ptr<QTemporaryDir> temporaryHome,
+        std::unique_ptr<DataServer> server)
+        : instance(std::move(claim))
+        , throwAwayHome(std::move(temporaryHome))
         , dataServer(std::move(server))
         , strings(localeOf(settings))
         , files(toText(settings.home))
@@ -78,16 +84,18 @@ struct Program::Parts {
         , engine(eventLoop, notificationCenter, enginePath())
         , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, outlets)
         , actions(controller, outlets, gate)
+        , mediaControls(controller, outlets, actions)
         , windowMemory(settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
     {
     }
 
     Ports ports()
     {
-        return {alerts, filePanels, files, httpClient, engine, preferenceDomains, clock, strings, notificationCenter, runLoop,
-            process, {"Sonavel", SONAVEL_VERSION, buildNumber}};
+        return {alerts, filePanels, files, httpClient, engine, preferenceDomains, clock, strings, notificationCenter,
+            runLoop, process, {"Sonavel", SONAVEL_VERSION, buildNumber}};
     }
 
+    std::unique_ptr<OneInstance> instance; ///< null where nobody else can have the home directory
     std::unique_ptr<QTemporaryDir> throwAwayHome; ///< null when the home directory is the user's
     std::unique_ptr<DataServer> dataServer; ///< null when others are asked
 
@@ -110,6 +118,7 @@ struct Program::Parts {
     WinSonavelController controller;
     Gate gate;
     Actions actions;
+    MediaControls mediaControls;
 
     WindowMemory windowMemory;
     std::unique_ptr<SplashScreen> splashScreen;
@@ -117,9 +126,11 @@ struct Program::Parts {
     QString earlyNotice; ///< to be told once there is a window
     bool isInitialized = false;
     std::unique_ptr<TerminationSignals> terminationSignals;
+    std::unique_ptr<MediaPlayerBus> mediaPlayerBus;
+    std::unique_ptr<AwakeningSignals> awakeningSignals;
 };
 
-std::unique_ptr<Program> Program::create(const Settings& given, QString& whyNot)
+std::unique_ptr<Program> Program::create(const Settings& given, std::unique_ptr<OneInstance> instance, QString& whyNot)
 {
     Settings settings = given;
     std::unique_ptr<QTemporaryDir> throwAwayHome;
@@ -145,7 +156,8 @@ std::unique_ptr<Program> Program::create(const Settings& given, QString& whyNot)
                 *unset = address;
         }
     }
-    auto parts = std::make_unique<Parts>(settings, std::move(throwAwayHome), std::move(dataServer));
+    auto parts =
+        std::make_unique<Parts>(settings, std::move(instance), std::move(throwAwayHome), std::move(dataServer));
     return std::unique_ptr<Program>(new Program(std::move(parts)));
 }
 
@@ -169,6 +181,7 @@ void Program::start(std::function<void()> whenVisible)
     buildMainWindow();
     afterFirstPaint(*parts_->mainWindow, [this, whenVisible = std::move(whenVisible)] {
         parts_->engine.start();
+        joinDesktop();
         whenVisible();
     });
     parts_->controller.awakeFromNib();
@@ -183,13 +196,28 @@ void Program::buildMainWindow()
     connectMainWindow(parts_->outlets, window);
     parts_->appDelegate.window = &parts_->outlets.winSonavel;
     parts_->windowMemory.restore(window);
-    parts_->engine.setNowPlayingObserver([&window](const NowPlaying& nowPlaying) {
-        const bool sounds = nowPlaying.state == NowPlaying::State::Playing;
-        window.showNowPlaying(
-            nowPlayingText(nowPlaying), sounds ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded);
-    });
+    parts_->engine.setNowPlayingObserver([this](const NowPlaying& nowPlaying) { showNowPlaying(nowPlaying); });
     if (!parts_->earlyNotice.isEmpty())
         window.showNotice(parts_->earlyNotice);
+}
+
+/// Nothing of it is needed before there is a window.
+void Program::joinDesktop()
+{
+    parts_->mediaPlayerBus = std::make_unique<MediaPlayerBus>(parts_->mediaControls);
+    parts_->actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
+    parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
+    if (parts_->instance)
+        parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->mediaControls.raise(); });
+}
+
+void Program::showNowPlaying(const NowPlaying& nowPlaying)
+{
+    const bool sounds = nowPlaying.state == NowPlaying::State::Playing;
+    parts_->mainWindow->showNowPlaying(
+        nowPlayingText(nowPlaying), sounds ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded);
+    if (parts_->mediaPlayerBus)
+        parts_->mediaPlayerBus->setTitle(onOneLine(toQString(nowPlaying.title)));
 }
 
 /// Only before there is a window; the main window stays painted by itself.

@@ -9,13 +9,18 @@
 
 namespace sonavel {
 
+class OneInstance;
+struct NowPlaying;
+
 /// How it is started: make it after the application object, then `start`, then run the application's loop. It is never
 /// taken apart: the program ends through its process.
 class Program {
 public:
     /// Stores nothing and asks nobody, except that it may start a data server of its own. Nothing, and a reason in one
-    /// line, when that or the throw-away home cannot be had.
-    [[nodiscard]] static std::unique_ptr<Program> create(const Settings& settings, QString& whyNot);
+    /// line, when that or the throw-away home cannot be had. `instance` is the claim on the home directory; null when
+    /// that is a throw-away one.
+    [[nodiscard]] static std::unique_ptr<Program> create(
+        const Settings& settings, std::unique_ptr<OneInstance> instance, QString& whyNot);
     ~Program();
 
     /// Both phases of the start-up, with the building of the main window between them. The main window is on the screen
@@ -28,6 +33,8 @@ private:
     explicit Program(std::unique_ptr<Parts> parts);
 
     void buildMainWindow();
+    void joinDesktop();
+    void showNowPlaying(const NowPlaying& nowPlaying);
     void showWaiting(const QString& host);
     void tellSaveFailure(const Text& path, const Text& why);
     void endAsTheSessionDoes();

@@ -1,4 +1,5 @@
 // The player.
+#include "adapters/OneInstance.h"
 #include "qt/DesktopAppearance.h"
 #include "qt/HouseStyle.h"
 #include "qt/Images.h"
@@ -68,6 +69,13 @@ int main(int argumentCount, char** arguments)
         return print(*end);
     const auto& settings = std::get<sonavel::Settings>(outcome);
 
+    std::unique_ptr<sonavel::OneInstance> instance;
+    if (!settings.home.isEmpty()) {
+        instance = sonavel::OneInstance::claim(sonavel::OneInstance::usersRunTimeFolder(), settings.home.toStdString());
+        if (!instance)
+            return 0;
+    }
+
     // Reading the settings of the fonts takes a fifth of a start; it is done while Qt finds the display.
     std::jthread fonts([] { FcInit(); });
     int ownArguments = 1; // the options are the program's own, not Qt's
@@ -76,7 +84,7 @@ int main(int argumentCount, char** arguments)
     const auto desktop = setUpLooks(settings);
 
     QString whyNot;
-    const auto program = sonavel::Program::create(settings, whyNot);
+    const auto program = sonavel::Program::create(settings, std::move(instance), whyNot);
     if (!program)
         return print({1, QStringLiteral("sonavel: ") + whyNot});
     fonts.join();

@@ -1,0 +1,143 @@
+#include "adapters/OneInstance.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <thread>
+
+namespace sonavel {
+
+namespace {
+
+constexpr std::chrono::seconds longestPatience{5};
+constexpr std::chrono::milliseconds pause{20};
+
+/// The same for every way to write the path of one folder.
+std::string nameOf(const std::string& homeDirectory)
+{
+    std::error_code none;
+    auto canonical = std::filesystem::weakly_canonical(homeDirectory, none).string();
+    while (canonical.ends_with('/'))
+        canonical.pop_back();
+    return std::to_string(std::hash<std::string>()(canonical));
+}
+
+bool isOwnFolder(const std::string& folder)
+{
+    struct stat status = {};
+    return ::lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::getuid()
+        && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+/// Nothing when another process holds the lock; −1 when there can be no lock at all.
+std::optional<int> lockedFile(const std::string& path)
+{
+    const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    if (file < 0 || ::flock(file, LOCK_EX | LOCK_NB) == 0)
+        return file;
+    ::close(file);
+    return std::nullopt;
+}
+
+sockaddr_un addressOf(const std::string& path)
+{
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    return address;
+}
+
+int openSocket()
+{
+    return ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+/// What a former process left under that name is of no use any more.
+int listeningSocket(const std::string& path)
+{
+    const int socket = openSocket();
+    const sockaddr_un address = addressOf(path);
+    ::unlink(path.c_str());
+    if (socket < 0 || ::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
+        return socket;
+    ::close(socket);
+    return -1;
+}
+
+bool call(const std::string& path)
+{
+    const int socket = openSocket();
+    const sockaddr_un address = addressOf(path);
+    const char note = 1;
+    const bool isSent =
+        ::sendto(socket, &note, sizeof note, 0, reinterpret_cast<const sockaddr*>(&address), sizeof address) >= 0
+        || errno == EAGAIN; // enough calls are waiting
+    ::close(socket);
+    return isSent;
+}
+
+} // namespace
+
+std::string OneInstance::usersRunTimeFolder()
+{
+    const char* given = std::getenv("XDG_RUNTIME_DIR");
+    std::string folder = given != nullptr && *given == '/' ? std::string(given) + "/sonavel"
+                                                           : "/tmp/sonavel-" + std::to_string(::getuid());
+    ::mkdir(folder.c_str(), S_IRWXU);
+    return isOwnFolder(folder) ? folder : std::string();
+}
+
+std::unique_ptr<OneInstance> OneInstance::claim(const std::string& runTimeFolder, const std::string& homeDirectory)
+{
+    if (runTimeFolder.empty())
+        return std::unique_ptr<OneInstance>(new OneInstance(-1, -1));
+    const std::string path = runTimeFolder + "/" + nameOf(homeDirectory);
+    const auto end = std::chrono::steady_clock::now() + longestPatience;
+    do {
+        if (const auto lock = lockedFile(path + ".lock"))
+            return std::unique_ptr<OneInstance>(new OneInstance(*lock, listeningSocket(path + ".socket")));
+        // Between its lock and its socket the other one cannot be called yet.
+        if (call(path + ".socket"))
+            return nullptr;
+        std::this_thread::sleep_for(pause);
+    } while (std::chrono::steady_clock::now() < end);
+    return nullptr;
+}
+
+OneInstance::OneInstance(int lock, int socket)
+    : lock_(lock)
+    , socket_(socket)
+{
+}
+
+OneInstance::~OneInstance()
+{
+    calls_.reset();
+    if (socket_ >= 0)
+        ::close(socket_);
+    if (lock_ >= 0)
+        ::close(lock_);
+}
+
+void OneInstance::whenCalled(EventLoop& eventLoop, std::function<void()> callback)
+{
+    if (socket_ < 0)
+        return;
+    calls_ = eventLoop.whenReadable(socket_, [socket = socket_, callback = std::move(callback)] {
+        char note = 0;
+        while (::recv(socket, &note, sizeof note, 0) >= 0) { }
+        callback();
+    });
+}
+
+} // namespace sonavel

@@ -1,0 +1,118 @@
+// The player on the session's message bus, where media keys and sound panels look for it (MPRIS 2).
+#pragma once
+
+#include "app/MediaControls.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusObjectPath>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace sonavel {
+
+/// What concerns the program as a whole.
+class MediaPlayerRoot : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.mpris.MediaPlayer2")
+    Q_PROPERTY(bool CanQuit READ canQuit)
+    Q_PROPERTY(bool CanRaise READ canRaise)
+    Q_PROPERTY(bool HasTrackList READ hasTrackList)
+    Q_PROPERTY(QString Identity READ identity)
+    Q_PROPERTY(QString DesktopEntry READ desktopEntry)
+    Q_PROPERTY(QStringList SupportedUriSchemes READ supportedUriSchemes)
+    Q_PROPERTY(QStringList SupportedMimeTypes READ supportedMimeTypes)
+
+public:
+    MediaPlayerRoot(MediaControls& controls, QObject& object);
+
+    [[nodiscard]] bool canQuit() const { return true; }
+    [[nodiscard]] bool canRaise() const { return true; }
+    [[nodiscard]] bool hasTrackList() const { return false; }
+    [[nodiscard]] QString identity() const;
+    [[nodiscard]] QString desktopEntry() const;
+    [[nodiscard]] QStringList supportedUriSchemes() const { return {}; }
+    [[nodiscard]] QStringList supportedMimeTypes() const { return {}; }
+
+public slots:
+    void Raise() { controls_.raise(); }
+    void Quit() { controls_.quit(); }
+
+private:
+    MediaControls& controls_;
+};
+
+/// What concerns the stream. A radio stream has no position to seek and one speed.
+class MediaPlayerPlayer : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.mpris.MediaPlayer2.Player")
+    Q_PROPERTY(QString PlaybackStatus READ playbackStatus)
+    Q_PROPERTY(double Rate READ rate WRITE setRate)
+    Q_PROPERTY(QVariantMap Metadata READ metadata)
+    Q_PROPERTY(double Volume READ volume WRITE setVolume)
+    Q_PROPERTY(qlonglong Position READ position)
+    Q_PROPERTY(double MinimumRate READ rate)
+    Q_PROPERTY(double MaximumRate READ rate)
+    Q_PROPERTY(bool CanGoNext READ canStep)
+    Q_PROPERTY(bool CanGoPrevious READ canStep)
+    Q_PROPERTY(bool CanPlay READ canPlay)
+    Q_PROPERTY(bool CanPause READ canPlay)
+    Q_PROPERTY(bool CanSeek READ canSeek)
+    Q_PROPERTY(bool CanControl READ canControl)
+
+public:
+    MediaPlayerPlayer(MediaControls& controls, QObject& object);
+
+    /// What the stream calls what is on air; empty when it says nothing.
+    void setTitle(const QString& title);
+    /// Tells the bus what has changed since the last call.
+    void update();
+
+    [[nodiscard]] QString playbackStatus() const;
+    [[nodiscard]] double rate() const { return 1.0; }
+    void setRate(double) { }
+    [[nodiscard]] QVariantMap metadata() const;
+    [[nodiscard]] double volume() const { return state_.volume; }
+    void setVolume(double volume) { controls_.setVolume(volume); }
+    [[nodiscard]] qlonglong position() const { return 0; }
+    [[nodiscard]] bool canStep() const { return state_.canStep; }
+    [[nodiscard]] bool canPlay() const { return state_.canPlay; }
+    [[nodiscard]] bool canSeek() const { return false; }
+    [[nodiscard]] bool canControl() const { return true; }
+
+public slots:
+    void Next() { controls_.next(); }
+    void Previous() { controls_.previous(); }
+    void Pause() { controls_.pause(); }
+    void PlayPause() { controls_.playPause(); }
+    void Stop() { controls_.stop(); }
+    void Play() { controls_.play(); }
+    void Seek(qlonglong) { }
+    void SetPosition(const QDBusObjectPath&, qlonglong) { }
+    void OpenUri(const QString&) { }
+
+signals:
+    void Seeked(qlonglong position);
+
+private:
+    [[nodiscard]] QVariantMap changingProperties() const;
+
+    MediaControls& controls_;
+    MediaState state_;
+    QString title_;
+    QVariantMap told_;
+};
+
+/// Both of them, under the name "org.mpris.MediaPlayer2.sonavel", or one with the process's number behind it where that
+/// is taken. Without a bus it does nothing.
+class MediaPlayerBus : public QObject {
+public:
+    explicit MediaPlayerBus(MediaControls& controls);
+
+    void setTitle(const QString& title) { player_->setTitle(title); }
+    void update() { player_->update(); }
+
+private:
+    MediaPlayerPlayer* player_;
+};
+
+} // namespace sonavel

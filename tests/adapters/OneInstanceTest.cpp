@@ -1,0 +1,72 @@
+// Starts beside a running player.
+#include "adapters/OneInstance.h"
+
+#include "support/PollEventLoop.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+namespace sonavel {
+namespace {
+
+class OneInstanceTest : public testing::Test {
+protected:
+    std::unique_ptr<OneInstance> claim(const std::string& home = "/home/listener")
+    {
+        return OneInstance::claim(folder.path(), home);
+    }
+
+    test::TemporaryFolder folder;
+    test::PollEventLoop loop;
+    int calls = 0;
+};
+
+TEST_F(OneInstanceTest, ASecondStartCallsTheFirstAlsoWhileThatIsStillStarting)
+{
+    auto first = claim();
+    ASSERT_TRUE(first);
+    EXPECT_FALSE(claim());
+    EXPECT_FALSE(claim("/home//listener/./"));
+    first->whenCalled(loop, [&] { ++calls; });
+    EXPECT_TRUE(loop.runUntil([&] { return calls == 1; }));
+    EXPECT_FALSE(claim());
+    EXPECT_TRUE(loop.runUntil([&] { return calls == 2; }));
+    EXPECT_TRUE(claim("/home/other")) << "another home directory";
+    first.reset();
+    EXPECT_TRUE(claim());
+}
+
+TEST_F(OneInstanceTest, WhatAKilledPlayerLeftBehindIsNoObstacle)
+{
+    const pid_t killed = ::fork();
+    if (killed == 0) {
+        const auto first = claim();
+        ::_exit(first ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(killed, &status, 0), killed);
+    ASSERT_EQ(status, 0);
+    EXPECT_TRUE(claim());
+}
+
+TEST_F(OneInstanceTest, WithoutAFolderOfTheUsersOwnEveryStartIsTheFirst)
+{
+    const std::string shared = folder.path() + "/shared";
+    ::setenv("XDG_RUNTIME_DIR", shared.c_str(), 1);
+    EXPECT_EQ(OneInstance::usersRunTimeFolder(), "") << "there is none";
+    std::filesystem::create_directories(shared + "/sonavel");
+    std::filesystem::permissions(shared + "/sonavel", std::filesystem::perms::all);
+    EXPECT_EQ(OneInstance::usersRunTimeFolder(), "") << "others could take its place";
+    std::filesystem::permissions(shared + "/sonavel", std::filesystem::perms::owner_all);
+    EXPECT_EQ(OneInstance::usersRunTimeFolder(), shared + "/sonavel");
+    ::unsetenv("XDG_RUNTIME_DIR");
+    EXPECT_TRUE(OneInstance::claim("", "/home/listener"));
+    EXPECT_TRUE(OneInstance::claim("", "/home/listener"));
+}
+
+} // namespace
+} // namespace sonavel
