@@ -36,6 +36,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -207,6 +208,9 @@ void Program::joinDesktop()
     parts_->mediaPlayerBus = std::make_unique<MediaPlayerBus>(parts_->mediaControls);
     parts_->actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
     parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
+    // A session that ends tells so before it sends a signal, if at all.
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, parts_->mediaPlayerBus.get(),
+        [this] { parts_->controller.preferences.updatePreference(); });
     if (parts_->instance)
         parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->mediaControls.raise(); });
 }

@@ -1,0 +1,149 @@
+#!/usr/bin/python3
+"""The built player among the desktop's services: media keys, a second start, sleep and network. Takes the folder of the
+built programs as its argument."""
+
+import http.server
+import subprocess
+import sys
+import tempfile
+import threading
+import unittest
+from pathlib import Path
+
+import dbus
+import desktop
+from desktop import wait_until
+
+BUILD = Path(sys.argv.pop(1))
+LIST = "app_data_files/testget.php?file=20161001000000_lr.rdb"
+
+
+class RefusingServer(http.server.ThreadingHTTPServer):
+    """Publishes the given list, answers the probe, and has no stream at /gone: it counts who asks for it."""
+
+    def __init__(self):
+        super().__init__(("127.0.0.1", 0), RefusingServer.Handler)
+        self.attempts = 0
+        self.list = b""
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    @property
+    def address(self):
+        return f"http://127.0.0.1:{self.server_port}/"
+
+    class Handler(http.server.BaseHTTPRequestHandler):
+        def do_GET(self):
+            self.server.attempts += self.path == "/gone"
+            found = self.path != "/gone"
+            self.send_response(200 if found else 404)
+            self.end_headers()
+            self.wfile.write(self.server.list if LIST in self.path else b"")
+
+        def do_POST(self):
+            self.send_error(404)
+
+        def log_message(self, *_):
+            pass
+
+
+class DesktopServicesTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desk = cls.enterClassContext(desktop.Desktop(accessibility=False))
+
+    def setUp(self):
+        self.home = self.enterContext(tempfile.TemporaryDirectory(prefix="sonavel-home-"))
+
+    def start(self, *options, **extra):
+        process = self.desk.start([BUILD / "sonavel", "--home", self.home, *options], stderr=None, extra=extra)
+        self.desk.window("Sonavel")
+        wait_until(lambda: self.media("status") == "Stopped", "the player on the message bus")
+        self.addCleanup(self.end, process)
+        return process
+
+    def end(self, process):
+        process.terminate()
+        self.assertEqual(process.wait(10), 0)
+
+    def media(self, *command):
+        return subprocess.run(["playerctl", "--player=sonavel", *command], env=self.desk.environment,
+                              capture_output=True, text=True, check=False).stdout.strip()
+
+    def expect(self, answer, *command):
+        wait_until(lambda: self.media(*command) == answer, f"{answer!r} of {command}")
+
+    def test_media_keys_do_what_the_buttons_do_and_hear_what_changes(self):
+        self.start("--demo")
+        changes = self.desk.start(["playerctl", "--player=sonavel", "--follow", "status"], stdout=subprocess.PIPE,
+                                  text=True)
+        self.addCleanup(changes.stdout.close)
+        self.media("play")
+        self.expect("Stopped", "status")
+        self.media("next")
+        self.media("play")
+        self.expect("Playing", "status")
+        wait_until(lambda: " - " in self.media("metadata", "xesam:title"), "the stream's title")
+        station = self.media("metadata", "xesam:album")
+        self.assertIn("/demo/", self.media("metadata", "xesam:url"))
+        self.media("play-pause")
+        self.expect("Paused", "status")
+        self.media("volume", "0.25")
+        self.expect("0.250000", "volume")
+        self.media("volume", "2")
+        self.expect("1.000000", "volume")
+        self.media("previous")
+        self.expect("Stopped", "status")
+        self.media("play")
+        self.expect("Playing", "status")
+        self.assertNotEqual(self.media("metadata", "xesam:album") or self.media("metadata", "xesam:title"), station)
+        self.media("stop")
+        self.expect("Stopped", "status")
+        heard = [changes.stdout.readline().strip() for _ in range(3)]
+        self.assertEqual(heard, ["Stopped", "Playing", "Paused"])
+
+    def test_a_second_start_shows_the_window_of_the_first_and_ends(self):
+        self.start("--demo")
+        window = self.desk.window("Sonavel")
+        subprocess.run(["xdotool", "windowminimize", "--sync", str(window)], env=self.desk.environment, check=True)
+        second = self.desk.start([BUILD / "sonavel", "--demo", "--home", self.home + "/."])
+        self.assertEqual(second.wait(20), 0)
+        self.desk.window("Sonavel")
+
+    def test_a_stream_is_asked_for_again_at_once_after_sleep_and_when_the_network_is_back(self):
+        server = RefusingServer()
+        self.addCleanup(server.server_close)
+        self.addCleanup(server.shutdown)
+        database = Path(self.home, "Library/Preferences/radiolist.csv")
+        database.parent.mkdir(parents=True)
+        database.write_text(f"Gone;{server.address}gone\r")
+        bus = self.desk.start(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE,
+                              text=True)
+        with bus.stdout:
+            address = bus.stdout.readline().strip()
+        sleep, network = (self.mock_service(address, *service) for service in (
+            ("org.freedesktop.login1", "/org/freedesktop/login1", "org.freedesktop.login1.Manager"),
+            ("org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager", "org.freedesktop.NetworkManager")))
+        self.start("--data-server", server.address, "--probe", server.address, DBUS_SYSTEM_BUS_ADDRESS=address)
+
+        self.media("next")
+        self.media("play")
+        for signals in ([(sleep, "PrepareForSleep", "b", [True]), (sleep, "PrepareForSleep", "b", [False])],
+                        [(network, "StateChanged", "u", [20]), (network, "StateChanged", "u", [70])]):
+            attempts = server.attempts
+            # The fourth attempt fails; the fifth would follow 8 s later.
+            wait_until(lambda: server.attempts >= attempts + 4, "attempts at growing distances", 40)
+            attempts = server.attempts
+            for service, name, signature, values in signals:
+                service.EmitSignal("", name, signature, values, dbus_interface="org.freedesktop.DBus.Mock")
+            wait_until(lambda: server.attempts > attempts, "an attempt ahead of its time", 4)
+
+    def mock_service(self, bus_address, name, path, interface):
+        self.desk.start([sys.executable, "-m", "dbusmock", name, path, interface],
+                        extra={"DBUS_SESSION_BUS_ADDRESS": bus_address})
+        bus = dbus.bus.BusConnection(bus_address)
+        wait_until(lambda: bus.name_has_owner(name), name)
+        return bus.get_object(name, path)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
