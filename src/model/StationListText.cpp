@@ -20,11 +20,6 @@ std::string_view takeUntil(std::string_view& rest, char separator)
     return part;
 }
 
-bool isSkipped(std::string_view firstField)
-{
-    return firstField.empty() || firstField == "-" || firstField == "radio" || firstField == "link";
-}
-
 std::size_t lengthOfListText(const StationRecords& records)
 {
     std::size_t length = 0;
@@ -34,6 +29,11 @@ std::size_t lengthOfListText(const StationRecords& records)
 }
 
 } // namespace
+
+bool isStationName(std::string_view name)
+{
+    return !name.empty() && name != "-" && name != "radio" && name != "link";
+}
 
 std::optional<StationListLine> StationListReader::next()
 {
@@ -46,8 +46,9 @@ std::optional<StationListLine> StationListReader::next()
 
     StationListLine result;
     result.number = number_++;
+    result.text = line;
     const std::size_t separator = line.find(';');
-    if (separator == std::string_view::npos || isSkipped(line.substr(0, separator)))
+    if (separator == std::string_view::npos || !isStationName(line.substr(0, separator)))
         return result;
     result.isStation = true;
     result.name = takeUntil(line, ';');

@@ -15,12 +15,17 @@ namespace sonavel {
 struct StationListLine {
     /// Counted from 0 over all lines, the header and skipped ones included.
     std::uint64_t number = 0;
+    /// The line as it stands, without its end.
+    std::string_view text;
     /// False for a line that is no station: its first field is empty, "-", "radio" or "link", or it has no ";". Its
     /// fields are empty.
     bool isStation = false;
     std::string_view name;
     std::string_view link;
 };
+
+/// Whether a list text keeps a station of that name, which it does not for "", "-", "radio" and "link".
+[[nodiscard]] bool isStationName(std::string_view name);
 
 /// Reads a station list text line by line.
 ///

@@ -52,11 +52,14 @@ TEST(StationListText, ALineByLineReaderMeetsSkippedLinesAndTheLastEmptyOne)
 {
     StationListReader reader("radio;link\rA;a\r");
     std::vector<bool> stations;
+    std::string lines;
     while (const auto line = reader.next()) {
+        lines.append(line->text).append("|");
         EXPECT_EQ(line->number, stations.size());
         stations.push_back(line->isStation);
     }
     EXPECT_EQ(stations, (std::vector{false, true, false}));
+    EXPECT_EQ(lines, "radio;link|A;a||");
     EXPECT_FALSE(reader.next());
 }
 
