@@ -1,5 +1,7 @@
 #include "playback/StreamAddress.h"
 
+#include "base/Ascii.h"
+
 #include <algorithm>
 #include <array>
 
@@ -7,14 +9,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n";
 constexpr std::string_view schemeEnding = "://";
-
-std::string_view withoutOuterBlanks(std::string_view text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    return text.substr(0, text.find_last_not_of(blanks) + 1);
-}
 
 bool isControl(char character)
 {
@@ -22,18 +17,11 @@ bool isControl(char character)
     return byte < 0x20 || byte == 0x7F;
 }
 
-char lowerCase(char character)
-{
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
 bool isUsableScheme(std::string_view scheme)
 {
     constexpr std::array<std::string_view, 5> usable{"http", "https", "rtsp", "rtmp", "mms"};
-    return std::any_of(usable.begin(), usable.end(), [scheme](std::string_view name) {
-        return std::equal(scheme.begin(), scheme.end(), name.begin(), name.end(),
-            [](char character, char expected) { return lowerCase(character) == expected; });
-    });
+    return std::any_of(
+        usable.begin(), usable.end(), [scheme](std::string_view name) { return equalsIgnoringCase(scheme, name); });
 }
 
 /// The host in what follows "scheme://": without user, port and path. Empty when there is none.

@@ -1,0 +1,34 @@
+#include "base/Ascii.h"
+
+#include <algorithm>
+
+namespace sonavel {
+
+namespace {
+
+char lowerCase(char character)
+{
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+} // namespace
+
+std::string_view withoutOuterBlanks(std::string_view text)
+{
+    constexpr std::string_view blanks = " \t\r\n";
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
+bool equalsIgnoringCase(std::string_view text, std::string_view other)
+{
+    return std::equal(text.begin(), text.end(), other.begin(), other.end(),
+        [](char left, char right) { return lowerCase(left) == lowerCase(right); });
+}
+
+bool beginsWithIgnoringCase(std::string_view text, std::string_view beginning)
+{
+    return equalsIgnoringCase(text.substr(0, beginning.size()), beginning);
+}
+
+} // namespace sonavel
