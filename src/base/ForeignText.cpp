@@ -85,4 +85,10 @@ std::string withoutControls(std::string_view utf8)
     return result;
 }
 
+std::string_view withoutByteOrderMark(std::string_view bytes)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return bytes.starts_with(mark) ? bytes.substr(mark.size()) : bytes;
+}
+
 } // namespace sonavel

@@ -14,4 +14,7 @@ namespace sonavel {
 /// direction of what follows: something to show in one line, on a terminal too. The text has to be valid UTF-8.
 [[nodiscard]] std::string withoutControls(std::string_view utf8);
 
+/// Without the byte order mark of UTF-8 at the head, if there is one.
+[[nodiscard]] std::string_view withoutByteOrderMark(std::string_view bytes);
+
 } // namespace sonavel
