@@ -1,0 +1,108 @@
+#include "tools/JsonList.h"
+
+#include "model/KVStationWebRadio.h"
+#include "model/StationListText.h"
+
+#include <nlohmann/json.hpp>
+
+namespace sonavel {
+
+namespace {
+
+/// Hears of a JSON text piece by piece, in its order and however deep it is nested. Each piece answers whether to go
+/// on.
+class MemberReader : public nlohmann::json_sax<nlohmann::json> {
+public:
+    ReadList list{"member", {}, {}};
+
+    bool null() override { return otherValue(); }
+    bool boolean(bool /*value*/) override { return otherValue(); }
+    bool number_integer(number_integer_t /*value*/) override { return otherValue(); }
+    bool number_unsigned(number_unsigned_t /*value*/) override { return otherValue(); }
+    bool number_float(number_float_t /*value*/, const string_t& /*text*/) override { return otherValue(); }
+    bool binary(binary_t& /*value*/) override { return otherValue(); }
+    bool start_array(std::size_t /*size*/) override { return otherValue() && enter(); }
+    bool end_array() override { return leave(); }
+    bool start_object(std::size_t /*size*/) override { return (depth_ == 0 || otherValue()) && enter(); }
+    bool end_object() override { return leave(); }
+    bool parse_error(
+        std::size_t /*place*/, const std::string& /*token*/, const nlohmann::detail::exception& /*why*/) override
+    {
+        return false;
+    }
+
+    bool key(string_t& value) override
+    {
+        if (depth_ != 1)
+            return true;
+        ++members_;
+        address_ = std::move(value);
+        return true;
+    }
+
+    bool string(string_t& value) override
+    {
+        if (depth_ != 1)
+            return otherValue();
+        addStation(std::move(value));
+        return true;
+    }
+
+private:
+    /// Goes on, unless the value is the whole text.
+    bool otherValue()
+    {
+        if (depth_ == 1)
+            find("left out, as no name stands for " + inQuotes(address_));
+        return depth_ > 0;
+    }
+
+    bool enter()
+    {
+        ++depth_;
+        return true;
+    }
+
+    bool leave()
+    {
+        --depth_;
+        return true;
+    }
+
+    void addStation(std::string value)
+    {
+        const Text given(std::move(value));
+        const Text address(std::move(address_));
+        const Text link = withoutSeparators(address);
+        Text name = withoutSeparators(given);
+        if (!link.isSameObject(address))
+            find("separators are taken out of the address " + inQuotes(address.view()));
+        if (!name.isSameObject(given))
+            find("separators are taken out of the name " + inQuotes(given.view()));
+        if (!isStationName(name.view())) {
+            name = nameFromAddress(link);
+            find((name.isAbsent() ? "left out, as no list keeps the name " : "renamed, as no list keeps the name ")
+                + inQuotes(given.view()));
+        }
+        if (!name.isAbsent())
+            list.stations.push_back(std::make_shared<KVStationWebRadio>(members_ - 1, name, link));
+    }
+
+    void find(std::string what) { list.findings.push_back({members_ - 1, std::move(what), Finding::Cost::Content}); }
+
+    std::size_t depth_ = 0;
+    std::uint64_t members_ = 0;
+    std::string address_;
+};
+
+} // namespace
+
+std::optional<ReadList> readJsonList(std::string_view bytes)
+{
+    MemberReader reader;
+    if (!nlohmann::json::sax_parse(bytes, &reader))
+        return std::nullopt;
+    return std::move(reader.list);
+}
+
+} // namespace sonavel

@@ -1,0 +1,35 @@
+// What the command line of sonavel-list asks for.
+#pragma once
+
+#include "tools/ListFormat.h"
+
+#include <optional>
+#include <string>
+
+namespace sonavel {
+
+/// The path that stands for standard input and output.
+inline constexpr const char* standardStream = "-";
+
+struct ListArguments {
+    enum class Command { Show, Convert, Check };
+
+    Command command = Command::Show;
+    std::string input;
+    /// The formats told, by option or extension; nothing where the content has to tell.
+    std::optional<ListFormat> inputFormat;
+    /// For `Convert` alone.
+    std::string output;
+    ListFormat outputFormat = ListFormat::Csv;
+};
+
+/// Exit statuses.
+inline constexpr int listIsFine = 0;
+inline constexpr int listHasFindings = 1;
+inline constexpr int usageError = 2;
+inline constexpr int unreadable = 3;
+
+/// Ends the program for --help, --version and, with `usageError` and a line that says why, for what it does not take.
+[[nodiscard]] ListArguments listArgumentsFrom(int argc, char** argv);
+
+} // namespace sonavel

@@ -1,0 +1,172 @@
+// sonavel-list: shows, checks and converts station lists in a terminal.
+
+#include "adapters/PosixFiles.h"
+#include "tools/ListArguments.h"
+#include "tools/ListCheck.h"
+#include "tools/ListReading.h"
+#include "tools/ListWriting.h"
+#include "tools/StationTable.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+using namespace sonavel;
+
+void complain(const std::string& file, const std::string& what)
+{
+    std::cerr << "sonavel-list: " << file << ": " << what << '\n';
+}
+
+std::string inputName(const ListArguments& arguments)
+{
+    return arguments.input == standardStream ? "standard input" : arguments.input;
+}
+
+std::string outputName(const ListArguments& arguments)
+{
+    return arguments.output == standardStream ? "standard output" : arguments.output;
+}
+
+/// All of a file or pipe, or of the standard input.
+std::error_code readInput(const std::string& path, std::string& content)
+{
+    FileCalls calls;
+    const OpenFile file(
+        calls, path == standardStream ? STDIN_FILENO : calls.open(AT_FDCWD, path.c_str(), O_RDONLY | O_NOCTTY, 0));
+    if (!file.isOpen())
+        return lastError();
+    constexpr std::size_t step = std::size_t{1} << 20U;
+    for (std::size_t filled = 0; filled <= PosixFiles::largestFile;) {
+        content.resize(filled + step);
+        const ssize_t size = calls.read(file.descriptor(), content.data() + filled, step);
+        if (size < 0)
+            return lastError();
+        filled += static_cast<std::size_t>(size);
+        content.resize(filled);
+        if (size == 0)
+            return {};
+    }
+    return std::make_error_code(std::errc::file_too_large);
+}
+
+/// Complains where there is none.
+std::optional<ReadList> inputList(const ListArguments& arguments)
+{
+    std::string content;
+    if (const std::error_code failure = readInput(arguments.input, content)) {
+        complain(inputName(arguments), failure.message());
+        return std::nullopt;
+    }
+    const ListFormat format = arguments.inputFormat.value_or(formatOfContent(content));
+    auto list = readList(std::move(content), format);
+    if (!list)
+        complain(
+            inputName(arguments), format == ListFormat::Json ? "it is not a JSON object" : "it cannot be decrypted");
+    return list;
+}
+
+bool print(std::string_view bytes)
+{
+    if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0)
+        return true;
+    complain("standard output", lastError().message());
+    return false;
+}
+
+bool write(const std::string& path, std::string_view bytes)
+{
+    if (path == standardStream)
+        return print(bytes);
+    PosixFiles files{Text()};
+    files.setWriteFailureObserver([&path](const Text&, const Text& why) { complain(path, why.string()); });
+    return files.writeAtomically(std::filesystem::absolute(path).string(), bytes, FileAccess::AsUsual);
+}
+
+/// Tells how much of a list the reading left out or changed; answers the status that this means.
+int statusAfterReading(const ListArguments& arguments, const ReadList& list)
+{
+    const auto costs = std::count_if(list.findings.begin(), list.findings.end(),
+        [](const Finding& finding) { return finding.cost == Finding::Cost::Content; });
+    if (costs == 0)
+        return listIsFine;
+    complain(inputName(arguments),
+        "left out or changed in " + std::to_string(costs) + " places, which \"sonavel-list check\" lists");
+    return listHasFindings;
+}
+
+int show(const ListArguments& arguments)
+{
+    const auto list = inputList(arguments);
+    const auto layout = ::isatty(STDOUT_FILENO) == 1 ? TableLayout::Columns : TableLayout::TabSeparated;
+    if (!list || !print(stationTable(list->stations, layout)))
+        return unreadable;
+    return statusAfterReading(arguments, *list);
+}
+
+int convert(const ListArguments& arguments)
+{
+    const auto list = inputList(arguments);
+    if (!list)
+        return unreadable;
+    int status = statusAfterReading(arguments, *list);
+    if (status != listIsFine && list->stations.empty()) {
+        complain(inputName(arguments), "there is no station in it");
+        return unreadable;
+    }
+    const auto bytes = writtenList(list->stations, arguments.outputFormat);
+    if (!bytes) {
+        complain(outputName(arguments), "the list is too large for this format");
+        return unreadable;
+    }
+    if (!write(arguments.output, *bytes))
+        return unreadable;
+    if (const std::size_t lost = stationsLostInWriting(list->stations, arguments.outputFormat); lost > 0) {
+        complain(
+            arguments.output, std::to_string(lost) + " stations are left out, as a later one has the same address");
+        status = listHasFindings;
+    }
+    return status;
+}
+
+int check(const ListArguments& arguments)
+{
+    auto list = inputList(arguments);
+    if (!list)
+        return unreadable;
+    auto& findings = list->findings;
+    const auto checked = checkedStations(list->stations);
+    findings.insert(findings.end(), checked.begin(), checked.end());
+    std::stable_sort(findings.begin(), findings.end(),
+        [](const Finding& left, const Finding& right) { return left.place < right.place; });
+    std::string report;
+    for (const Finding& finding : findings) {
+        report += finding.place ? std::string(list->placeName).append(" ").append(std::to_string(*finding.place + 1))
+                                : "list";
+        report.append(": ").append(finding.what) += '\n';
+    }
+    if (!print(report))
+        return unreadable;
+    return findings.empty() ? listIsFine : listHasFindings;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const ListArguments arguments = listArgumentsFrom(argc, argv);
+    switch (arguments.command) {
+    case ListArguments::Command::Show:
+        return show(arguments);
+    case ListArguments::Command::Convert:
+        return convert(arguments);
+    case ListArguments::Command::Check:
+        return check(arguments);
+    }
+}

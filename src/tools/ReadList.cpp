@@ -1,0 +1,31 @@
+#include "tools/ReadList.h"
+
+#include "base/ForeignText.h"
+#include "model/StationListText.h"
+#include "playback/StreamAddress.h"
+
+namespace sonavel {
+
+std::string inQuotes(std::string_view text)
+{
+    constexpr std::size_t longest = 120;
+    const bool isLong = text.size() > longest;
+    if (isLong) {
+        std::size_t end = longest;
+        while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+            --end;
+        text = text.substr(0, end);
+    }
+    std::string result = "\"";
+    return result.append(withoutControls(utf8FromForeign(text))).append(isLong ? "…\"" : "\"");
+}
+
+Text nameFromAddress(const Text& address)
+{
+    const Text host = hostOfStreamAddress(address);
+    if (isStationName(host.view()))
+        return host;
+    return isStationName(address.view()) ? address : Text();
+}
+
+} // namespace sonavel
