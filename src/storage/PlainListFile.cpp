@@ -1,17 +1,17 @@
 #include "storage/PlainListFile.h"
 
+#include "base/ForeignText.h"
 #include "platform/Files.h"
 
 namespace sonavel {
 
 Text listTextOfPlainFile(const Files& files, const Text& path)
 {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     auto content = files.contentsOfFile(path);
     if (!content || !isValidUtf8(*content))
         return {};
     const Text text(std::move(*content));
-    return text.view().starts_with(byteOrderMark) ? text.slice(text.view().substr(byteOrderMark.size())) : text;
+    return text.slice(withoutByteOrderMark(text.view()));
 }
 
 } // namespace sonavel

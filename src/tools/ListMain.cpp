@@ -89,15 +89,21 @@ bool write(const std::string& path, std::string_view bytes)
     return files.writeAtomically(std::filesystem::absolute(path).string(), bytes, FileAccess::AsUsual);
 }
 
-/// Tells how much of a list the reading left out or changed; answers the status that this means.
+/// How many places of a list the reading left out or changed.
+long placesLost(const ReadList& list)
+{
+    return std::count_if(list.findings.begin(), list.findings.end(),
+        [](const Finding& finding) { return finding.cost == Finding::Cost::Content; });
+}
+
+/// Tells of what the reading left out or changed; answers the status that this means.
 int statusAfterReading(const ListArguments& arguments, const ReadList& list)
 {
-    const auto costs = std::count_if(list.findings.begin(), list.findings.end(),
-        [](const Finding& finding) { return finding.cost == Finding::Cost::Content; });
-    if (costs == 0)
+    const long lost = placesLost(list);
+    if (lost == 0)
         return listIsFine;
     complain(inputName(arguments),
-        "left out or changed in " + std::to_string(costs) + " places, which \"sonavel-list check\" lists");
+        "left out or changed in " + std::to_string(lost) + " places, which \"sonavel-list check\" lists");
     return listHasFindings;
 }
 
@@ -115,8 +121,7 @@ int convert(const ListArguments& arguments)
     const auto list = inputList(arguments);
     if (!list)
         return unreadable;
-    int status = statusAfterReading(arguments, *list);
-    if (status != listIsFine && list->stations.empty()) {
+    if (list->stations.empty() && placesLost(*list) > 0) {
         complain(inputName(arguments), "there is no station in it");
         return unreadable;
     }
@@ -127,6 +132,7 @@ int convert(const ListArguments& arguments)
     }
     if (!write(arguments.output, *bytes))
         return unreadable;
+    int status = statusAfterReading(arguments, *list);
     if (const std::size_t lost = stationsLostInWriting(list->stations, arguments.outputFormat); lost > 0) {
         complain(
             arguments.output, std::to_string(lost) + " stations are left out, as a later one has the same address");
