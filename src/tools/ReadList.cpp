@@ -22,7 +22,7 @@ std::string inQuotes(std::string_view text)
 
 Text nameFromAddress(const Text& address)
 {
-    const Text host = hostOfStreamAddress(address);
+    Text host = hostOfStreamAddress(address);
     if (isStationName(host.view()))
         return host;
     return isStationName(address.view()) ? address : Text();

@@ -62,7 +62,7 @@ std::string stationTable(const StationRecords& stations, TableLayout layout)
     constexpr std::string_view gap = "  ";
     const bool isInColumns = layout == TableLayout::Columns;
     if (isInColumns)
-        std::setlocale(LC_CTYPE, "C.UTF-8");
+        static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8")); // where it is missing, widths are guessed
     const std::vector<std::string> names = namesOf(stations);
     const std::size_t column = isInColumns ? widthOfNames(names) : 0;
     std::string table;
