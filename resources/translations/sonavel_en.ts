@@ -76,8 +76,8 @@
         <translation>Some names in the file were already in the list. Those stations got a number after their name.</translation>
     </message>
     <message id="STATUS_IMPORTED">
-        <source>%li stations were imported.</source>
-        <translation>%li stations were imported.</translation>
+        <source>Stations imported: %li.</source>
+        <translation>Stations imported: %li.</translation>
     </message>
     <message id="STATUS_NOTHING_IMPORTED">
         <source>No stations were found in the file.</source>

@@ -3,6 +3,7 @@
 #include "qt/TextConversion.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 
 namespace sonavel {
 
@@ -13,11 +14,15 @@ TranslatedStrings::TranslatedStrings(const QLocale& locale)
         && !table_.load(QStringLiteral("sonavel_en"), folder))
         qFatal("The table of English texts is missing");
     QCoreApplication::installTranslator(&table_);
+    if (toolkitTable_.load(
+            QStringLiteral("qtbase_") + table_.language(), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitTable_);
 }
 
 TranslatedStrings::~TranslatedStrings()
 {
     QCoreApplication::removeTranslator(&table_);
+    QCoreApplication::removeTranslator(&toolkitTable_);
 }
 
 Text TranslatedStrings::localizedStringForKey(std::string_view key) const

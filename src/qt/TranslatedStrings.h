@@ -9,7 +9,8 @@
 namespace sonavel {
 
 /// Installs itself as a translator of the application, for the windows' own texts too. English where the language has
-/// no table; a missing key shows itself.
+/// no table; a missing key shows itself. What the toolkit says by itself, as in its file panels, is in the same
+/// language where its tables are installed.
 class TranslatedStrings : public LocalizedStrings {
 public:
     explicit TranslatedStrings(const QLocale& locale);
@@ -19,6 +20,7 @@ public:
 
 private:
     QTranslator table_;
+    QTranslator toolkitTable_;
 };
 
 } // namespace sonavel

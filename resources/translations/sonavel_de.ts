@@ -1,0 +1,403 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="INTERNET_ERROR">
+        <source>Sonavel needs an internet connection. Check the connection and start Sonavel again.</source>
+        <translation>Sonavel braucht eine Internetverbindung. Bitte prüfen Sie die Verbindung und starten Sie Sonavel neu.</translation>
+    </message>
+    <message id="BUTTON_YES">
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message id="BUTTON_NO">
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message id="ALLERT_TEXT_MESSAGE_QUIT">
+        <source>Do you want to quit Sonavel?</source>
+        <translation>Möchten Sie Sonavel beenden?</translation>
+    </message>
+    <message id="POP_UP_BUTTON_SELECT_RADIO">
+        <source>Choose a station</source>
+        <translation>Sender wählen</translation>
+    </message>
+    <message id="POP_UP_BUTTON_SELECT_RADIO_NULL">
+        <source>No stations</source>
+        <translation>Keine Sender</translation>
+    </message>
+    <message id="BUTTON_CONTINUE">
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message id="BUTTON_ADD">
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message id="BUTTON_EDIT">
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message id="SHOW_EDIT_RADIO_LIST">
+        <source>Show Station List</source>
+        <translation>Senderliste zeigen</translation>
+    </message>
+    <message id="CLOSE_EDIT_RADIO_LIST">
+        <source>Close Station List</source>
+        <translation>Senderliste schließen</translation>
+    </message>
+    <message id="WIN_EDIT_RADIO_LIST">
+        <source>Station List</source>
+        <translation>Senderliste</translation>
+    </message>
+    <message id="REMOVE_RADIO">
+        <source>Remove the station “%@”?</source>
+        <translation>Den Sender „%@“ entfernen?</translation>
+    </message>
+    <message id="REMOVE_RADIO_TO_PLAY">
+        <source>“%@” is the chosen station. Stop it and remove it?</source>
+        <translation>„%@“ ist der gewählte Sender. Anhalten und entfernen?</translation>
+    </message>
+    <message id="REMOVE_ALL_RADIO_SELECTED">
+        <source>Remove the %li selected stations?</source>
+        <translation>Die %li ausgewählten Sender entfernen?</translation>
+    </message>
+    <message id="ERASE_ALL_PREVIOUS_DATA">
+        <source>Replace the present stations by those in the file? “No” adds them to the list.</source>
+        <translation>Die vorhandenen Sender durch die aus der Datei ersetzen? Bei „Nein“ kommen diese zur Liste hinzu.</translation>
+    </message>
+    <message id="LIMIT_IMPORT_DATA">
+        <source>The station list is full. The rest of the file was not imported.</source>
+        <translation>Die Senderliste ist voll. Der Rest der Datei wurde nicht importiert.</translation>
+    </message>
+    <message id="AS_DUPLICATED_DATA">
+        <source>Some names in the file were already in the list. Those stations got a number after their name.</source>
+        <translation>Einige Namen aus der Datei standen schon in der Liste. Diese Sender haben eine Nummer hinter ihrem Namen bekommen.</translation>
+    </message>
+    <message id="STATUS_IMPORTED">
+        <source>Stations imported: %li.</source>
+        <translation>Importierte Sender: %li.</translation>
+    </message>
+    <message id="STATUS_NOTHING_IMPORTED">
+        <source>No stations were found in the file.</source>
+        <translation>In der Datei wurden keine Sender gefunden.</translation>
+    </message>
+    <message id="STATUS_LIST_KEPT">
+        <source>The former list was kept as %@.</source>
+        <translation>Die bisherige Liste wurde als %@ aufbewahrt.</translation>
+    </message>
+    <message id="STATUS_LIST_NOT_KEPT">
+        <source>The present list could not be kept, so nothing was imported.</source>
+        <translation>Die vorhandene Liste konnte nicht aufbewahrt werden; deshalb wurde nichts importiert.</translation>
+    </message>
+    <message id="WIN_SONAVEL">
+        <source>Sonavel</source>
+        <translation>Sonavel</translation>
+    </message>
+    <message id="LABEL_STATION">
+        <source>Station</source>
+        <translation>Sender</translation>
+    </message>
+    <message id="LABEL_VOLUME">
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message id="BUTTON_PLAY">
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message id="BUTTON_PAUSE">
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="BUTTON_STOP">
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message id="BUTTON_MUTE">
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message id="BUTTON_STATION_LIST">
+        <source>Station List…</source>
+        <translation>Senderliste…</translation>
+    </message>
+    <message id="HINT_STATION">
+        <source>The station to play</source>
+        <translation>Der Sender, der spielen soll</translation>
+    </message>
+    <message id="HINT_VOLUME">
+        <source>How loud it plays</source>
+        <translation>Wie laut er spielt</translation>
+    </message>
+    <message id="HINT_PLAY">
+        <source>Play the chosen station</source>
+        <translation>Den gewählten Sender abspielen</translation>
+    </message>
+    <message id="HINT_PAUSE">
+        <source>Hold the sound</source>
+        <translation>Den Ton anhalten</translation>
+    </message>
+    <message id="HINT_STOP">
+        <source>Stop playing and leave the stream</source>
+        <translation>Nicht weiter abspielen und den Stream verlassen</translation>
+    </message>
+    <message id="HINT_MUTE">
+        <source>Silence the sound, or let it be heard again</source>
+        <translation>Den Ton stumm schalten oder wieder hören lassen</translation>
+    </message>
+    <message id="HINT_STATION_LIST">
+        <source>Show the list of stations, to add to it or change it</source>
+        <translation>Die Liste der Sender zeigen, um sie zu ergänzen oder zu ändern</translation>
+    </message>
+    <message id="WIN_EDIT_DATA">
+        <source>Station</source>
+        <translation>Sender</translation>
+    </message>
+    <message id="BUTTON_CANCEL">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="LABEL_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="LABEL_ADDRESS">
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="TOOL_ADD">
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message id="TOOL_EDIT">
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="TOOL_REMOVE">
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message id="TOOL_IMPORT">
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message id="TOOL_EXPORT">
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message id="HINT_ADD">
+        <source>Add a station</source>
+        <translation>Einen Sender hinzufügen</translation>
+    </message>
+    <message id="HINT_EDIT">
+        <source>Change the selected station</source>
+        <translation>Den ausgewählten Sender ändern</translation>
+    </message>
+    <message id="HINT_REMOVE">
+        <source>Remove the selected stations</source>
+        <translation>Die ausgewählten Sender entfernen</translation>
+    </message>
+    <message id="HINT_IMPORT">
+        <source>Bring in stations from a file</source>
+        <translation>Sender aus einer Datei übernehmen</translation>
+    </message>
+    <message id="HINT_EXPORT">
+        <source>Save all stations to a file</source>
+        <translation>Alle Sender in eine Datei sichern</translation>
+    </message>
+    <message id="LIST_EMPTY">
+        <source>No stations yet. Add one, or import a list.</source>
+        <translation>Noch keine Sender. Fügen Sie einen hinzu oder importieren Sie eine Liste.</translation>
+    </message>
+    <message id="FIND">
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message id="FIND_PLACEHOLDER">
+        <source>Find a name or address</source>
+        <translation>Name oder Adresse suchen</translation>
+    </message>
+    <message id="FIND_NOTHING">
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message id="MENU_SONAVEL">
+        <source>&amp;Sonavel</source>
+        <translation>&amp;Sonavel</translation>
+    </message>
+    <message id="MENU_PLAYBACK">
+        <source>&amp;Playback</source>
+        <translation>&amp;Wiedergabe</translation>
+    </message>
+    <message id="MENU_STATIONS">
+        <source>S&amp;tations</source>
+        <translation>Se&amp;nder</translation>
+    </message>
+    <message id="MENU_QUIT">
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message id="MENU_PLAY_PAUSE">
+        <source>&amp;Play/Pause</source>
+        <translation>&amp;Abspielen/Pause</translation>
+    </message>
+    <message id="MENU_STOP">
+        <source>&amp;Stop</source>
+        <translation>S&amp;topp</translation>
+    </message>
+    <message id="MENU_MUTE">
+        <source>&amp;Mute</source>
+        <translation>Stu&amp;mm</translation>
+    </message>
+    <message id="MENU_PREVIOUS">
+        <source>P&amp;revious Station</source>
+        <translation>&amp;Voriger Sender</translation>
+    </message>
+    <message id="MENU_NEXT">
+        <source>&amp;Next Station</source>
+        <translation>&amp;Nächster Sender</translation>
+    </message>
+    <message id="MENU_ADD">
+        <source>&amp;Add…</source>
+        <translation>&amp;Hinzufügen…</translation>
+    </message>
+    <message id="MENU_EDIT">
+        <source>&amp;Edit…</source>
+        <translation>&amp;Bearbeiten…</translation>
+    </message>
+    <message id="MENU_REMOVE">
+        <source>&amp;Remove…</source>
+        <translation>&amp;Entfernen…</translation>
+    </message>
+    <message id="MENU_IMPORT">
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren…</translation>
+    </message>
+    <message id="MENU_EXPORT">
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportieren…</translation>
+    </message>
+    <message id="NOW_PLAYING">
+        <source>Now playing</source>
+        <translation>Jetzt läuft</translation>
+    </message>
+    <message id="NOW_PLAYING_NOTHING">
+        <source>Not playing</source>
+        <translation>Keine Wiedergabe</translation>
+    </message>
+    <message id="NOW_PLAYING_CONNECTING">
+        <source>Connecting…</source>
+        <translation>Verbinden…</translation>
+    </message>
+    <message id="NOW_PLAYING_BUFFERING">
+        <source>Buffering…</source>
+        <translation>Puffern…</translation>
+    </message>
+    <message id="NOW_PLAYING_UNTITLED">
+        <source>Playing</source>
+        <translation>Wiedergabe läuft</translation>
+    </message>
+    <message id="NOW_PLAYING_HELD">
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message id="NOW_PLAYING_RECONNECTING">
+        <source>Reconnecting in %li s</source>
+        <translation>Neuer Versuch in %li s</translation>
+    </message>
+    <message id="NOW_PLAYING_FAILED">
+        <source>Cannot be played: %@</source>
+        <translation>Nicht abspielbar: %@</translation>
+    </message>
+    <message id="NOTICE_STATIONS_NOT_SAVED">
+        <source>The station list could not be saved: %@</source>
+        <translation>Die Senderliste konnte nicht gesichert werden: %@</translation>
+    </message>
+    <message id="NOTICE_PREFERENCES_NOT_SAVED">
+        <source>The preferences could not be saved: %@</source>
+        <translation>Die Einstellungen konnten nicht gesichert werden: %@</translation>
+    </message>
+    <message id="NOTICE_FILE_NOT_SAVED">
+        <source>A file could not be saved: %@</source>
+        <translation>Eine Datei konnte nicht gesichert werden: %@</translation>
+    </message>
+    <message id="PANEL_IMPORT">
+        <source>Import Stations</source>
+        <translation>Sender importieren</translation>
+    </message>
+    <message id="PANEL_EXPORT">
+        <source>Export Stations</source>
+        <translation>Sender exportieren</translation>
+    </message>
+    <message id="PANEL_STATION_LISTS">
+        <source>Station lists</source>
+        <translation>Senderlisten</translation>
+    </message>
+    <message id="SPLASH_WAITING">
+        <source>Waiting for %@…</source>
+        <translation>Warten auf %@…</translation>
+    </message>
+    <message id="FAILURE_UNKNOWN">
+        <source>it does not say why</source>
+        <translation>ohne Angabe eines Grundes</translation>
+    </message>
+    <message id="FAILURE_NO_SUCH_HOST">
+        <source>no such host</source>
+        <translation>diesen Server gibt es nicht</translation>
+    </message>
+    <message id="FAILURE_REFUSED">
+        <source>connection refused</source>
+        <translation>Verbindung abgelehnt</translation>
+    </message>
+    <message id="FAILURE_UNREACHABLE">
+        <source>the host cannot be reached</source>
+        <translation>der Server ist nicht erreichbar</translation>
+    </message>
+    <message id="FAILURE_TIMED_OUT">
+        <source>no answer in time</source>
+        <translation>keine rechtzeitige Antwort</translation>
+    </message>
+    <message id="FAILURE_CERTIFICATE">
+        <source>the server’s certificate is not trusted</source>
+        <translation>dem Zertifikat des Servers wird nicht vertraut</translation>
+    </message>
+    <message id="FAILURE_NOT_FOUND">
+        <source>no stream at this address</source>
+        <translation>kein Stream unter dieser Adresse</translation>
+    </message>
+    <message id="FAILURE_NOT_ALLOWED">
+        <source>the server does not allow it</source>
+        <translation>der Server erlaubt es nicht</translation>
+    </message>
+    <message id="FAILURE_SERVER_ERROR">
+        <source>the server has a fault</source>
+        <translation>der Server hat einen Fehler</translation>
+    </message>
+    <message id="FAILURE_NOT_A_STREAM">
+        <source>not a stream</source>
+        <translation>kein Stream</translation>
+    </message>
+    <message id="FAILURE_NOT_USABLE">
+        <source>not an address that can be played</source>
+        <translation>keine abspielbare Adresse</translation>
+    </message>
+    <message id="FAILURE_ENDED">
+        <source>the stream has ended</source>
+        <translation>der Stream ist zu Ende</translation>
+    </message>
+    <message id="FAILURE_SILENT">
+        <source>the stream fell silent</source>
+        <translation>der Stream ist verstummt</translation>
+    </message>
+    <message id="FAILURE_NO_SOUND_OUTPUT">
+        <source>no sound output</source>
+        <translation>keine Tonausgabe</translation>
+    </message>
+    <message id="FAILURE_ENGINE_FAILED">
+        <source>the sound engine does not run</source>
+        <translation>das Abspielprogramm läuft nicht</translation>
+    </message>
+</context>
+</TS>
