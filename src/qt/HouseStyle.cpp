@@ -1,6 +1,8 @@
 #include "qt/HouseStyle.h"
 
+#include <QHeaderView>
 #include <QStyleFactory>
+#include <QTableView>
 
 namespace sonavel {
 
@@ -21,6 +23,15 @@ int HouseStyle::styleHint(
     default:
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }
+}
+
+int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const bool isBesideText = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
+    const bool isTable = qobject_cast<const QTableView*>(widget) || qobject_cast<const QHeaderView*>(widget);
+    if (isBesideText && isTable)
+        return widget->fontMetrics().height() / 2;
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 } // namespace sonavel

@@ -2,21 +2,36 @@
 
 #include "qt/TextConversion.h"
 
+#include <QFile>
 #include <QIconEngine>
 #include <QPainter>
+#include <QtMath>
 
-#include <array>
+#include <algorithm>
 #include <utility>
 
 namespace sonavel {
 
 namespace {
 
-/// Paints a shape in one colour, at any size and scale.
+constexpr int sharpestVersion = 3;
+
+/// An image as it was made for that scale of the screen; null when there is none. Says that it is a PNG, because a
+/// guess loads a plug-in for every other format first.
+QPixmap readVersion(const QString& path, int scale)
+{
+    const QString ending = scale == 1 ? QStringLiteral(".png") : QStringLiteral("@%1x.png").arg(scale);
+    QPixmap pixmap(path + ending, "PNG");
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+}
+
+/// Paints a shape in one colour, at any size and scale. Reads it when it is painted, in the version that is wanted
+/// then.
 class TintedIconEngine : public QIconEngine {
 public:
-    TintedIconEngine(QIcon shape, const QColor& color, const QColor& disabledColor)
-        : shape_(std::move(shape))
+    TintedIconEngine(QString path, const QColor& color, const QColor& disabledColor)
+        : path_(std::move(path))
         , color_(color)
         , disabledColor_(disabledColor)
     {
@@ -36,14 +51,15 @@ public:
     }
 
     /// `size` is in the screen's own dots.
-    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal scale) override
     {
+        readShapeFor(scale);
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         {
             QPainter painter(&pixmap);
             painter.setRenderHint(QPainter::SmoothPixmapTransform);
-            painter.drawPixmap(QRect(QPoint(), size), shape_.pixmap(size / scale, scale, QIcon::Normal, state));
+            painter.drawPixmap(QRect(QPoint(), size), shape_, shape_.rect());
             painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
             painter.fillRect(pixmap.rect(), mode == QIcon::Disabled ? disabledColor_ : color_);
         }
@@ -52,41 +68,37 @@ public:
     }
 
 private:
-    QIcon shape_;
+    void readShapeFor(qreal scale)
+    {
+        const int wanted = std::clamp(qCeil(scale), 1, sharpestVersion);
+        if (std::exchange(shapeScale_, wanted) != wanted)
+            shape_ = readVersion(path_, wanted);
+    }
+
+    QString path_;
     QColor color_;
     QColor disabledColor_;
+    QPixmap shape_;
+    int shapeScale_ = 0;
 };
-
-/// All versions of an image, by the screen's scale. Says that they are PNG, because a guess loads a plug-in for every
-/// other format first.
-QIcon readImage(const QString& path)
-{
-    QIcon icon;
-    constexpr std::array versions{std::pair{".png", 1.0}, std::pair{"@2x.png", 2.0}, std::pair{"@3x.png", 3.0}};
-    for (const auto& [ending, scale] : versions) {
-        QPixmap pixmap(path + QLatin1String(ending), "PNG");
-        if (pixmap.isNull())
-            continue;
-        pixmap.setDevicePixelRatio(scale);
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
 
 } // namespace
 
 QIcon imageNamed(const Text& name, const QColor& color, const QColor& disabledColor)
 {
     const QString file = toQString(name);
-    if (!file.endsWith(QStringLiteral(".png")))
+    const QString path = QStringLiteral(":/images/") + file;
+    if (!file.endsWith(QStringLiteral(".png")) || !QFile::exists(path))
         return {};
-    const QIcon shape = readImage(QStringLiteral(":/images/") + file.chopped(4));
-    return shape.isNull() ? QIcon() : QIcon(new TintedIconEngine(shape, color, disabledColor));
+    return QIcon(new TintedIconEngine(path.chopped(4), color, disabledColor));
 }
 
 QIcon programIcon()
 {
-    return readImage(QStringLiteral(":/images/sonavel"));
+    QIcon icon;
+    for (const int scale : {1, 2})
+        icon.addPixmap(readVersion(QStringLiteral(":/images/sonavel"), scale));
+    return icon;
 }
 
 QString wordForImage(const Text& name)

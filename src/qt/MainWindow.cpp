@@ -1,18 +1,14 @@
 #include "qt/MainWindow.h"
 
-#include "qt/Palettes.h"
+#include "qt/ProgramMenus.h"
 #include "ui_MainWindow.h"
 
 #include <QEvent>
-#include <QTimer>
-
-#include <chrono>
 
 namespace sonavel {
 
 namespace {
 
-constexpr std::chrono::seconds timeToReadNotice{20};
 constexpr double headlineSize = 1.25; // times the usual size of the font
 constexpr int usualWidth = 68; // characters
 
@@ -26,15 +22,11 @@ QFont scaled(QFont font, double factor)
 
 MainWindow::MainWindow()
     : description_(std::make_unique<Ui::MainWindow>())
-    , noticeTime_(new QTimer(this))
 {
     description_->setupUi(this);
     setUpProportions();
     setUpColors();
     showNowPlaying(qtTrId("NOW_PLAYING_NOTHING"), Emphasis::Faded);
-
-    noticeTime_->setSingleShot(true);
-    connect(noticeTime_, &QTimer::timeout, this, [this] { clearNotice(); });
 }
 
 MainWindow::~MainWindow() = default;
@@ -51,17 +43,27 @@ void MainWindow::setUpProportions()
     description_->displayRows->setContentsMargins(line * 3 / 4, line * 5 / 8, line * 3 / 4, line * 5 / 8);
 
     description_->labelNowPlaying->setFont(scaled(font(), headlineSize));
-    description_->labelNotice->setFont(scaled(font(), 0.9));
     description_->buttonPlayPause->reserveRoomFor({qtTrId("BUTTON_PLAY"), qtTrId("BUTTON_PAUSE")});
     for (QPushButton* button : {static_cast<QPushButton*>(description_->buttonPlayPause), description_->buttonStop,
              description_->buttonMute, description_->buttonEditRadioList})
         button->setMinimumHeight(line * 2);
     description_->popupbuttonRadioList->setMinimumHeight(line * 2 - line / 4);
 
+    setUpSize();
+}
+
+void MainWindow::setUpSize()
+{
     const QSize smallest = minimumSizeHint();
     setMinimumSize(smallest);
     setMaximumHeight(smallest.height());
     resize(qMax(smallest.width(), fontMetrics().averageCharWidth() * usualWidth), smallest.height());
+}
+
+void MainWindow::addMenus(ProgramMenus& menus)
+{
+    menus.addTo(*this);
+    setUpSize();
 }
 
 void MainWindow::setUpColors()
@@ -69,9 +71,6 @@ void MainWindow::setUpColors()
     description_->displayPanel->setBackgroundRole(QPalette::Base);
     description_->labelNowPlaying->setForegroundRole(
         emphasis_ == Emphasis::Usual ? QPalette::Text : QPalette::PlaceholderText);
-    QPalette notice;
-    notice.setColor(QPalette::WindowText, readableRed());
-    description_->labelNotice->setPalette(notice);
 }
 
 void MainWindow::showNowPlaying(const QString& text, Emphasis emphasis)
@@ -83,14 +82,12 @@ void MainWindow::showNowPlaying(const QString& text, Emphasis emphasis)
 
 void MainWindow::showNotice(const QString& text)
 {
-    description_->labelNotice->setText(text);
-    noticeTime_->start(timeToReadNotice);
+    description_->labelNotice->tell(text, StatusLine::Tone::Failure);
 }
 
 void MainWindow::clearNotice()
 {
-    noticeTime_->stop();
-    description_->labelNotice->clear();
+    description_->labelNotice->tell({});
 }
 
 void MainWindow::changeEvent(QEvent* event)

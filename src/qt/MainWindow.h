@@ -5,18 +5,22 @@
 
 #include <memory>
 
-class QTimer;
 namespace Ui {
 class MainWindow;
 }
 
 namespace sonavel {
 
+class ProgramMenus;
+
 /// Built from its description, whose object names are the names of the outlets. Shown by the program, not by itself.
 class MainWindow : public QMainWindow {
 public:
     MainWindow();
     ~MainWindow() override;
+
+    /// Before the window is shown.
+    void addMenus(ProgramMenus& menus);
 
     /// What is on air, or what keeps it from being so. Faded when `text` is about nothing that plays.
     enum class Emphasis { Faded, Usual };
@@ -31,10 +35,10 @@ protected:
 
 private:
     void setUpProportions();
+    void setUpSize();
     void setUpColors();
 
     std::unique_ptr<Ui::MainWindow> description_;
-    QTimer* noticeTime_;
     Emphasis emphasis_ = Emphasis::Faded;
 };
 

@@ -2,45 +2,77 @@
 
 #include "qt/ButtonBinder.h"
 #include "qt/LabelBinder.h"
+#include "qt/MenuItemBinder.h"
 #include "qt/PopUpBinder.h"
+#include "qt/ProgramMenus.h"
 #include "qt/SliderBinder.h"
+#include "qt/StatusLineBinder.h"
+#include "qt/TableBinder.h"
+#include "qt/TextConversion.h"
+#include "qt/TextFieldBinder.h"
+#include "qt/ToolbarItemBinder.h"
 #include "qt/WindowBinder.h"
+
+#include <QToolBar>
 
 namespace sonavel {
 
 namespace {
 
-/// The window itself or a widget in it.
-template <class Widget> Widget& widgetNamed(QWidget& window, const char* name)
+/// The window itself or an object in it.
+template <class Object> Object& objectNamed(QWidget& window, const char* name)
 {
     const QString wanted = QString::fromLatin1(name);
-    auto* widget = dynamic_cast<Widget*>(window.objectName() == wanted ? &window : window.findChild<QWidget*>(wanted));
-    if (widget == nullptr)
+    auto* object = dynamic_cast<Object*>(window.objectName() == wanted ? &window : window.findChild<QObject*>(wanted));
+    if (object == nullptr)
         throw MissingOutlet(
-            std::string("the window has no ") + Widget::staticMetaObject.className() + " named " + name);
-    return *widget;
+            std::string("the window has no ") + Object::staticMetaObject.className() + " named " + name);
+    return *object;
+}
+
+Text translated(const char* key)
+{
+    return toText(qtTrId(key));
 }
 
 // Qt owns the binders: each is a child of its widget.
 void connect(Window& outlet, QWidget& window, const char* name)
 {
-    new WindowBinder(outlet, widgetNamed<QWidget>(window, name));
+    new WindowBinder(outlet, objectNamed<QWidget>(window, name));
 }
 void connect(Button& outlet, QWidget& window, const char* name)
 {
-    new ButtonBinder(outlet, widgetNamed<QAbstractButton>(window, name));
+    new ButtonBinder(outlet, objectNamed<QAbstractButton>(window, name));
 }
 void connect(PopUpButton& outlet, QWidget& window, const char* name)
 {
-    new PopUpBinder(outlet, widgetNamed<StationComboBox>(window, name));
+    new PopUpBinder(outlet, objectNamed<StationComboBox>(window, name));
 }
 void connect(Slider& outlet, QWidget& window, const char* name)
 {
-    new SliderBinder(outlet, widgetNamed<QSlider>(window, name));
+    new SliderBinder(outlet, objectNamed<QSlider>(window, name));
 }
 void connect(TextField& outlet, QWidget& window, const char* name)
 {
-    new LabelBinder(outlet, widgetNamed<QLabel>(window, name));
+    QWidget& widget = objectNamed<QWidget>(window, name);
+    if (auto* typed = dynamic_cast<QLineEdit*>(&widget))
+        new TextFieldBinder(outlet, *typed);
+    else if (auto* status = dynamic_cast<StatusLine*>(&widget))
+        new StatusLineBinder(outlet, *status);
+    else
+        new LabelBinder(outlet, objectNamed<QLabel>(window, name));
+}
+void connect(TableView& outlet, QWidget& window, const char* name)
+{
+    new TableBinder(outlet, objectNamed<StationTable>(window, name));
+}
+void connect(ToolbarItem& outlet, QWidget& window, const char* name)
+{
+    new ToolbarItemBinder(outlet, objectNamed<QAction>(window, name));
+}
+void connect(Toolbar& outlet, QWidget& window, const char* name)
+{
+    outlet.connect({objectNamed<QToolBar>(window, name).isVisibleTo(&window)});
 }
 
 } // namespace
@@ -55,6 +87,58 @@ void connectMainWindow(Outlets& outlets, QWidget& window)
     connect(outlets.buttonEditRadioList, window, "buttonEditRadioList");
     connect(outlets.sliderVolume, window, "sliderVolume");
     connect(outlets.labelVolume, window, "labelVolume");
+}
+
+void connectStationListWindow(Outlets& outlets, QWidget& window)
+{
+    connect(outlets.winWebRadioListEdit, window, "winWebRadioListEdit");
+    connect(outlets.toolBar, window, "toolBar");
+    connect(outlets.radioAdd, window, "radioAdd");
+    connect(outlets.radioEdit, window, "radioEdit");
+    connect(outlets.radioRemove, window, "radioRemove");
+    connect(outlets.radioImport, window, "radioImport");
+    connect(outlets.radioExport, window, "radioExport");
+    connect(outlets.tableViewListRadio, window, "tableViewListRadio");
+    connect(outlets.labelListStatus, window, "labelListStatus");
+}
+
+void connectEditSheet(Outlets& outlets, QWidget& sheet)
+{
+    connect(outlets.winEditData, sheet, "winEditData");
+    connect(outlets.textFieldRadioName, sheet, "textFieldRadioName");
+    connect(outlets.textFieldRadioLink, sheet, "textFieldRadioLink");
+    connect(outlets.buttonAction, sheet, "buttonAction");
+    connect(outlets.buttonCancel, sheet, "buttonCancel");
+}
+
+void connectStationListWindowBeforehand(Outlets& outlets)
+{
+    outlets.winWebRadioListEdit.connect({translated("WIN_EDIT_RADIO_LIST")});
+    outlets.toolBar.connect({true});
+    int tag = 0;
+    for (ToolbarItem* item :
+        {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
+        item->connect({tag++, false});
+    outlets.tableViewListRadio.connect({});
+    outlets.labelListStatus.connect({Text("")});
+
+    outlets.winEditData.connect({translated("WIN_EDIT_DATA")});
+    outlets.textFieldRadioName.connect({Text("")});
+    outlets.textFieldRadioLink.connect({Text("")});
+    outlets.buttonAction.connect({translated("BUTTON_ADD"), TitleColor::Black, {}, true});
+    outlets.buttonCancel.connect({translated("BUTTON_CANCEL"), TitleColor::Black, {}, true});
+}
+
+void connectMenus(Outlets& outlets, const ProgramMenus& menus)
+{
+    const std::initializer_list<std::pair<MenuItem&, const char*>> items{{outlets.menuQuit, "menuQuit"},
+        {outlets.menuPlayPause, "menuPlayPause"}, {outlets.menuStop, "menuStop"}, {outlets.menuMute, "menuMute"},
+        {outlets.menuPreviousStation, "menuPreviousStation"}, {outlets.menuNextStation, "menuNextStation"},
+        {outlets.menuRadioShowEditRadio, "menuRadioShowEditRadio"}, {outlets.menuRadioAdd, "menuRadioAdd"},
+        {outlets.menuRadioEdit, "menuRadioEdit"}, {outlets.menuRadioRemove, "menuRadioRemove"},
+        {outlets.menuRadioImport, "menuRadioImport"}, {outlets.menuRadioExport, "menuRadioExport"}};
+    for (const auto& [item, name] : items)
+        new MenuItemBinder(item, menus.item(QString::fromLatin1(name)));
 }
 
 } // namespace sonavel

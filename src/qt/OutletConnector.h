@@ -15,7 +15,16 @@ public:
     using std::logic_error::logic_error;
 };
 
-/// Connects every outlet that belongs to the main window, a top-level widget. Throws MissingOutlet.
+class ProgramMenus;
+
+/// Each connects every outlet that belongs to the window, a top-level widget, or to the menus. They throw
+/// MissingOutlet.
 void connectMainWindow(Outlets& outlets, QWidget& window);
+void connectStationListWindow(Outlets& outlets, QWidget& window);
+void connectEditSheet(Outlets& outlets, QWidget& sheet);
+/// For as long as the station list window and its sheet are not built, connects their outlets to what the descriptions
+/// of these windows say. What the program says meanwhile is rendered when the windows are connected.
+void connectStationListWindowBeforehand(Outlets& outlets);
+void connectMenus(Outlets& outlets, const ProgramMenus& menus);
 
 } // namespace sonavel

@@ -15,11 +15,13 @@
 #include "platform/NotificationCenter.h"
 #include "qt/AwaitingHttpClient.h"
 #include "qt/AwakeningSignals.h"
+#include "qt/EditSheetDialog.h"
 #include "qt/FirstPaint.h"
 #include "qt/MainWindow.h"
 #include "qt/MediaPlayerBus.h"
 #include "qt/NowPlayingText.h"
 #include "qt/OutletConnector.h"
+#include "qt/ProgramMenus.h"
 #include "qt/QtAlerts.h"
 #include "qt/QtEventLoop.h"
 #include "qt/QtFilePanels.h"
@@ -27,6 +29,7 @@
 #include "qt/QtRunLoop.h"
 #include "qt/SaveFailure.h"
 #include "qt/SplashScreen.h"
+#include "qt/StationListWindow.h"
 #include "qt/TerminationSignals.h"
 #include "qt/TextConversion.h"
 #include "qt/TranslatedStrings.h"
@@ -123,7 +126,9 @@ struct Program::Parts {
 
     WindowMemory windowMemory;
     std::unique_ptr<SplashScreen> splashScreen;
+    std::unique_ptr<ProgramMenus> menus;
     std::unique_ptr<MainWindow> mainWindow;
+    std::unique_ptr<StationListWindow> stationListWindow;
     QString earlyNotice; ///< to be told once there is a window
     bool isInitialized = false;
     std::unique_ptr<TerminationSignals> terminationSignals;
@@ -179,9 +184,10 @@ void Program::start(std::function<void()> whenVisible)
 {
     parts_->controller.init();
     parts_->isInitialized = true;
-    buildMainWindow();
+    buildWindows();
     afterFirstPaint(*parts_->mainWindow, [this, whenVisible = std::move(whenVisible)] {
         parts_->engine.start();
+        buildStationListWindow();
         joinDesktop();
         whenVisible();
     });
@@ -190,10 +196,19 @@ void Program::start(std::function<void()> whenVisible)
     parts_->appDelegate.applicationDidFinishLaunching();
 }
 
+void Program::buildWindows()
+{
+    parts_->menus = std::make_unique<ProgramMenus>([this] { parts_->actions.validateItems(); });
+    connectMenus(parts_->outlets, *parts_->menus);
+    connectStationListWindowBeforehand(parts_->outlets);
+    buildMainWindow();
+}
+
 void Program::buildMainWindow()
 {
     parts_->mainWindow = std::make_unique<MainWindow>();
     MainWindow& window = *parts_->mainWindow;
+    window.addMenus(*parts_->menus);
     connectMainWindow(parts_->outlets, window);
     parts_->appDelegate.window = &parts_->outlets.winSonavel;
     parts_->windowMemory.restore(window);
@@ -224,6 +239,25 @@ void Program::showNowPlaying(const NowPlaying& nowPlaying)
         parts_->mediaPlayerBus->setTitle(onOneLine(toQString(nowPlaying.title)));
 }
 
+/// Takes a sixth of a start, so it waits until the main window is painted, and leaves the keyboard there.
+void Program::buildStationListWindow()
+{
+    parts_->stationListWindow = std::make_unique<StationListWindow>(parts_->outlets.tableViewListRadio);
+    StationListWindow& window = *parts_->stationListWindow;
+    parts_->menus->addTo(window);
+    parts_->windowMemory.restore(window);
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    connectStationListWindow(parts_->outlets, window);
+    window.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    window.whenFileDropped([this](const Text& path) {
+        parts_->actions.perform(parts_->stationListWindow.get(),
+            [path](WinSonavelController& controller) { controller.stationImport.importRadioListFromFileAtPath(path); });
+    });
+    auto* sheet = new EditSheetDialog(window);
+    parts_->menus->addKeysTo(*sheet);
+    connectEditSheet(parts_->outlets, *sheet);
+}
+
 /// Only before there is a window; the main window stays painted by itself.
 void Program::showWaiting(const QString& host)
 {
@@ -236,10 +270,13 @@ void Program::showWaiting(const QString& host)
 
 void Program::tellSaveFailure(const Text& path, const Text& why)
 {
-    if (parts_->mainWindow)
-        parts_->mainWindow->showNotice(saveFailureText(path, why));
+    const QString notice = saveFailureText(path, why);
+    if (parts_->stationListWindow && parts_->stationListWindow->isVisible())
+        parts_->stationListWindow->showNotice(notice);
+    else if (parts_->mainWindow)
+        parts_->mainWindow->showNotice(notice);
     else
-        parts_->earlyNotice = saveFailureText(path, why);
+        parts_->earlyNotice = notice;
 }
 
 /// As Quit does, without its question. Preferences that are not loaded yet must not be stored.
@@ -255,6 +292,8 @@ void Program::leaveWindows()
 {
     if (parts_->mainWindow)
         parts_->windowMemory.keep(*parts_->mainWindow);
+    if (parts_->stationListWindow)
+        parts_->windowMemory.keep(*parts_->stationListWindow);
     if (parts_->throwAwayHome)
         parts_->throwAwayHome->remove();
 }

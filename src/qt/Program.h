@@ -32,7 +32,9 @@ private:
     struct Parts;
     explicit Program(std::unique_ptr<Parts> parts);
 
+    void buildWindows();
     void buildMainWindow();
+    void buildStationListWindow();
     void joinDesktop();
     void showNowPlaying(const NowPlaying& nowPlaying);
     void showWaiting(const QString& host);

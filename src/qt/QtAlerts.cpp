@@ -35,7 +35,7 @@ int QtAlerts::runModal(const Alert& alert)
 {
     QMessageBox box(QApplication::activeWindow());
     const bool isQuestion = alert.buttonTitles.size() > 1;
-    box.setWindowTitle(QApplication::applicationDisplayName());
+    box.setWindowTitle(qtTrId("WIN_SONAVEL"));
     box.setIcon(isQuestion ? QMessageBox::Question : QMessageBox::Warning);
     box.setTextFormat(Qt::PlainText);
     box.setText(toQString(alert.messageText));

@@ -22,7 +22,7 @@ SplashScreen::SplashScreen()
 {
     auto* picture = new QLabel(this);
     picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
-    auto* name = new QLabel(QApplication::applicationDisplayName(), this);
+    auto* name = new QLabel(qtTrId("WIN_SONAVEL"), this);
     name->setTextFormat(Qt::PlainText);
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.6);

@@ -2,6 +2,7 @@
 
 #include "qt/TextConversion.h"
 
+#include <QDialog>
 #include <QEvent>
 
 namespace sonavel {
@@ -23,16 +24,41 @@ WindowBinder::~WindowBinder()
 
 bool WindowBinder::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::Close)
-        return QObject::eventFilter(watched, event);
-    event->ignore();
-    window_.closeRequestedByUser();
-    return true;
+    switch (event->type()) {
+    case QEvent::Close:
+        event->ignore();
+        askToClose();
+        return true;
+    case QEvent::WindowActivate:
+        window_.keyWindowChangedByUser(true);
+        break;
+    case QEvent::WindowDeactivate:
+    case QEvent::Hide:
+        window_.keyWindowChangedByUser(false);
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// A dialog's title bar answers as its Escape key does.
+void WindowBinder::askToClose()
+{
+    if (auto* dialog = qobject_cast<QDialog*>(&widget_))
+        dialog->reject();
+    else
+        window_.closeRequestedByUser();
 }
 
 void WindowBinder::render(const WindowState& state)
 {
     widget_.setWindowTitle(toQString(state.title));
+    if (focusReleasesSeen_ != state.focusReleases)
+        widget_.setFocus();
+    focusReleasesSeen_ = state.focusReleases;
+    if (state.isVisible && !widget_.isVisible())
+        widget_.setWindowModality(state.isSheet ? Qt::WindowModal : Qt::NonModal);
     widget_.setVisible(state.isVisible);
     if (frontRequestsSeen_ == state.frontRequests)
         return;

@@ -32,7 +32,7 @@ QStringList withoutName(int argumentCount, char** arguments)
 void setUpNames(QApplication& application)
 {
     application.setApplicationName(QStringLiteral("sonavel"));
-    application.setApplicationDisplayName(QStringLiteral("Sonavel"));
+    // No display name: it would be put behind the title of every window.
     application.setDesktopFileName(QStringLiteral("sonavel"));
     application.setQuitOnLastWindowClosed(false);
 }

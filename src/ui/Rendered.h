@@ -20,12 +20,14 @@ public:
     [[nodiscard]] const State& state() const { return state_; }
 
     /// Attaches the toolkit: takes over what its layout says; from then on every change is rendered. `render` may be
-    /// empty where nobody looks.
+    /// empty where nobody looks, or not yet: a control that is connected already keeps its state, which is rendered.
     void connect(State asLaidOut, Render render = {})
     {
-        state_ = std::move(asLaidOut);
         render_ = std::move(render);
-        connected_ = true;
+        if (std::exchange(connected_, true))
+            renderAgain();
+        else
+            state_ = std::move(asLaidOut);
     }
 
     /// Detaches it again, as when its window goes away.

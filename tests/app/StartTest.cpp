@@ -25,6 +25,7 @@ TEST_F(StartTest, TheStepsComeInTheirOrder)
     logWhenShown(outlets.sliderDefaultVolume, "default volume");
     logWhenShown(outlets.tableViewListRadio, "table");
     logWhenShown(outlets.winWebRadioListEdit, "station list");
+    platform.log.clear();
     controller.preferences.PREF_IS_AUTOPLAY = true;
     controller.preferences.PREF_WINEDIT_IS_VISIBLE = true;
     controller.awakeFromNib();

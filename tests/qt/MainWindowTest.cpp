@@ -29,7 +29,7 @@ TEST(MainWindow, HasEveryOutletAndStartsStopped)
     EXPECT_EQ(outlets.buttonPlayPause.state().image, Text("play.png"));
     EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
     EXPECT_FALSE(outlets.buttonStop.state().isEnabled);
-    EXPECT_FALSE(outlets.buttonEditRadioList.state().isEnabled);
+    EXPECT_TRUE(outlets.buttonEditRadioList.state().isEnabled);
     EXPECT_EQ(outlets.buttonMute.title(), Text("Mute"));
     EXPECT_EQ(outlets.labelVolume.stringValue(), Text("Volume"));
     EXPECT_EQ(outlets.sliderVolume.state().maxValue, 1.0);
@@ -109,11 +109,13 @@ TEST(MainWindow, TheKeyboardGoesThroughTheControlsInReadingOrder)
     window.activateWindow();
     ASSERT_TRUE(handleEventsUntil([&] { return window.focusWidget() != nullptr; }));
     QStringList order;
-    for (int step = 0; step < 5; ++step) {
+    for (int step = 0; step < 6; ++step) {
         order << window.focusWidget()->objectName();
         pressKey(*window.focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order.join(' ').toStdString(), "popupbuttonRadioList sliderVolume buttonPlayPause buttonStop buttonMute");
+    EXPECT_EQ(order.join(' ').toStdString(),
+        "popupbuttonRadioList sliderVolume buttonPlayPause buttonStop buttonMute "
+        "buttonEditRadioList");
 }
 
 } // namespace

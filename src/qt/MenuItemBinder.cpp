@@ -1,0 +1,33 @@
+#include "qt/MenuItemBinder.h"
+
+#include "qt/TextConversion.h"
+
+#include <QVariant>
+
+namespace sonavel {
+
+MenuItemBinder::MenuItemBinder(MenuItem& item, QAction& action)
+    : QObject(&action)
+    , item_(item)
+    , action_(action)
+    , titleShown_(toText(action.text().remove(u'&')))
+{
+    item_.connect({titleShown_, action.property("tag").toInt(), action.isEnabled()},
+        [this](const MenuItemState& state) { render(state); });
+    connect(&action, &QAction::triggered, this, [this] { item_.chosenByUser(); });
+}
+
+MenuItemBinder::~MenuItemBinder()
+{
+    item_.disconnect();
+}
+
+void MenuItemBinder::render(const MenuItemState& state)
+{
+    if (state.title != titleShown_)
+        action_.setText(withoutMnemonics(toQString(state.title)));
+    titleShown_ = state.title;
+    action_.setEnabled(state.isEnabled);
+}
+
+} // namespace sonavel

@@ -1,0 +1,34 @@
+// The menus of the program, as they stand in the menu bar of every window.
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+
+#include <array>
+#include <functional>
+
+namespace sonavel {
+
+/// One action per item, shared by all menu bars, so that its key is known once to the whole application. Actions go by
+/// the names of the outlets. Keys that a control needs stay with it: Space, where it presses or types, and whatever
+/// edits a text.
+class ProgramMenus : public QObject {
+public:
+    /// `validate` enables the items as they are to be; it is called before a menu is shown and before a key is matched.
+    explicit ProgramMenus(std::function<void()> validate);
+
+    void addTo(QMainWindow& window);
+    /// The keys alone, for a sheet: it blocks the window whose menu bar has them.
+    void addKeysTo(QWidget& sheet);
+
+    [[nodiscard]] QAction& item(const QString& name) const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    std::function<void()> validate_;
+    std::array<QMenu, 3> menus_;
+};
+
+} // namespace sonavel

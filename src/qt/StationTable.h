@@ -1,0 +1,33 @@
+// The table of the station list window.
+#pragma once
+
+#include <QTableView>
+
+namespace sonavel {
+
+class StationCellDelegate;
+
+/// Selects whole rows. A cell is opened by F2 or a slow second click, never by a double click. Draws a hint in place of
+/// rows while there are none. Shows 100,000 rows as quickly as ten.
+class StationTable : public QTableView {
+public:
+    explicit StationTable(QWidget* parent = nullptr);
+
+    /// Ends the editing of a cell as a loss of the focus does: what was typed counts. Does nothing when none is open.
+    void endEditing();
+
+    /// Selects the row alone, as the user does, and shows it in the middle unless it is in view.
+    void selectAndShow(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void takeProportions();
+
+    StationCellDelegate* cells_;
+};
+
+} // namespace sonavel

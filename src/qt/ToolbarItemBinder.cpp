@@ -1,0 +1,21 @@
+#include "qt/ToolbarItemBinder.h"
+
+#include <QVariant>
+
+namespace sonavel {
+
+ToolbarItemBinder::ToolbarItemBinder(ToolbarItem& item, QAction& action)
+    : QObject(&action)
+    , item_(item)
+{
+    item_.connect({action.property("tag").toInt(), action.isEnabled()},
+        [&action](const ToolbarItemState& state) { action.setEnabled(state.isEnabled); });
+    connect(&action, &QAction::triggered, this, [this] { item_.pressedByUser(); });
+}
+
+ToolbarItemBinder::~ToolbarItemBinder()
+{
+    item_.disconnect();
+}
+
+} // namespace sonavel
