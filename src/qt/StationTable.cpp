@@ -47,11 +47,17 @@ void StationTable::endEditing()
     }
 }
 
+void StationTable::showRow(int row, ScrollHint hint)
+{
+    executeDelayedItemsLayout();
+    scrollTo(model()->index(row, 0), hint);
+}
+
 void StationTable::selectAndShow(int row)
 {
     const QModelIndex index = model()->index(row, qMax(0, currentIndex().column()));
     if (!viewport()->rect().contains(visualRect(index)))
-        scrollTo(index, PositionAtCenter);
+        showRow(row, PositionAtCenter);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 

@@ -16,6 +16,8 @@ public:
     /// Ends the editing of a cell as a loss of the focus does: what was typed counts. Does nothing when none is open.
     void endEditing();
 
+    /// Brings a row into view that may be as new as the last reload.
+    void showRow(int row, ScrollHint hint = EnsureVisible);
     /// Selects the row alone, as the user does, and shows it in the middle unless it is in view.
     void selectAndShow(int row);
 

@@ -68,7 +68,7 @@ void TableBinder::render(const TableViewState& state)
     if (rowsOf(widget_.selectionModel()->selection()) != state.selectedRowIndexes)
         renderSelection(state);
     if (std::exchange(scrollRequestsSeen_, state.scrollRequests) != state.scrollRequests)
-        widget_.scrollTo(model_.index(static_cast<int>(state.rowToShow), 0));
+        widget_.showRow(static_cast<int>(state.rowToShow));
 }
 
 void TableBinder::renderSelection(const TableViewState& state)

@@ -7,8 +7,8 @@ class QWidget;
 
 namespace sonavel {
 
-/// Keeps sizes and positions of windows between runs, in `sonavel/windows.ini` of a folder for the state of programs.
-/// What cannot be read or written is forgotten.
+/// Keeps sizes and positions of windows, and the widths of the columns in them, between runs, in `sonavel/windows.ini`
+/// of a folder for the state of programs. What cannot be read or written is forgotten.
 class WindowMemory {
 public:
     explicit WindowMemory(const QString& stateFolder);
@@ -17,7 +17,7 @@ public:
     [[nodiscard]] static QString usersStateFolder();
 
     /// Puts a window that is not shown yet where it was, if that is still on a screen. Windows go by their object
-    /// names.
+    /// names. A table in it gets its columns afterwards.
     void restore(QWidget& window) const;
     void keep(const QWidget& window) const;
 

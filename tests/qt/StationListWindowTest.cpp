@@ -1,0 +1,353 @@
+// The station list window, its sheet and the menus, as a user works with them.
+#include "qt/StationListWindow.h"
+
+#include "StationRows.h"
+#include "UserInput.h"
+#include "qt/EditSheetDialog.h"
+#include "qt/FindField.h"
+#include "qt/OutletConnector.h"
+#include "qt/ProgramMenus.h"
+#include "qt/StationTable.h"
+#include "qt/StatusLine.h"
+#include "qt/WindowMemory.h"
+
+#include <QDropEvent>
+#include <QFile>
+#include <QHeaderView>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolBar>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+namespace sonavel {
+namespace {
+
+class StationListWindowTest : public testing::Test {
+protected:
+    StationListWindowTest()
+    {
+        outlets.tableViewListRadio.setDataSource(&rows);
+        menus.addTo(window);
+        menus.addKeysTo(sheet);
+        connectMenus(outlets, menus);
+        connectStationListWindow(outlets, window);
+        connectEditSheet(outlets, sheet);
+        rows.names = {"Alpha", "Beta", "Café Olé", "Gamma", "Österreich 1"};
+        table().reloadData();
+        outlets.winWebRadioListEdit.makeKeyAndOrderFront();
+        EXPECT_TRUE(handleEventsUntil([&] { return window.isActiveWindow(); }));
+        tableWidget().setFocus();
+    }
+
+    TableView& table() { return outlets.tableViewListRadio; }
+    template <class Widget> Widget& child(QWidget& parent, const char* name)
+    {
+        return *parent.findChild<Widget*>(QString::fromLatin1(name));
+    }
+    StationTable& tableWidget() { return child<StationTable>(window, "tableViewListRadio"); }
+    FindField& findField() { return *window.findChild<FindField*>(); }
+    QString status() { return child<QLabel>(window, "labelListStatus").text(); }
+    void openSheet()
+    {
+        outlets.winEditData.makeFirstResponder();
+        outlets.winEditData.beginSheet();
+        EXPECT_TRUE(handleEventsUntil([&] { return sheet.isActiveWindow(); }));
+    }
+
+    StationRows rows;
+    Outlets outlets;
+    int validations = 0;
+    ProgramMenus menus{[this] { ++validations; }};
+    StationListWindow window{outlets.tableViewListRadio};
+    EditSheetDialog& sheet = *new EditSheetDialog(window);
+};
+
+TEST_F(StationListWindowTest, WhatIsSaidOfTheWindowBeforeItIsBuiltIsWhatItSays)
+{
+    Outlets built;
+    StationListWindow another(built.tableViewListRadio);
+    connectStationListWindow(built, another);
+    EditSheetDialog anotherSheet(another);
+    connectEditSheet(built, anotherSheet);
+    Outlets announced;
+    connectStationListWindowBeforehand(announced);
+    EXPECT_EQ(announced.winWebRadioListEdit.state(), built.winWebRadioListEdit.state());
+    EXPECT_EQ(announced.toolBar.state(), built.toolBar.state());
+    EXPECT_EQ(announced.radioAdd.state(), built.radioAdd.state());
+    EXPECT_EQ(announced.radioExport.state(), built.radioExport.state());
+    EXPECT_EQ(announced.labelListStatus.state(), built.labelListStatus.state());
+    EXPECT_EQ(announced.winEditData.state(), built.winEditData.state());
+    EXPECT_EQ(announced.textFieldRadioLink.state(), built.textFieldRadioLink.state());
+    EXPECT_EQ(announced.buttonAction.state(), built.buttonAction.state());
+    EXPECT_EQ(announced.buttonCancel.state(), built.buttonCancel.state());
+    EXPECT_EQ(announced.tableViewListRadio.state().allowsMultipleSelection, false);
+}
+
+TEST_F(StationListWindowTest, AWindowThatIsBuiltLaterShowsWhatWasSaidMeanwhile)
+{
+    Outlets early;
+    early.tableViewListRadio.setDataSource(&rows);
+    connectStationListWindowBeforehand(early);
+    early.winWebRadioListEdit.setTitle("Station List (5)");
+    early.winWebRadioListEdit.setIsVisible(true);
+    early.radioImport.setEnabled(true);
+    early.tableViewListRadio.reloadData();
+    early.tableViewListRadio.selectRowIndexes({3}, TableView::Extending::No);
+    StationListWindow late(early.tableViewListRadio);
+    connectStationListWindow(early, late);
+    EXPECT_TRUE(late.isVisible());
+    EXPECT_EQ(late.windowTitle(), "Station List (5)");
+    EXPECT_TRUE(child<QAction>(late, "radioImport").isEnabled());
+    EXPECT_TRUE(child<StationTable>(late, "tableViewListRadio").selectionModel()->isRowSelected(3));
+}
+
+TEST_F(StationListWindowTest, FindGoesToTheNextMatchRoundTheEndWhateverCaseAndAccents)
+{
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    ASSERT_TRUE(findField().hasFocus());
+    const struct {
+        const char* text;
+        long row;
+    } cases[] = {{"ta", 1}, {"CAFE o", 2}, {"ÓSTERR", 4}, {"host/3", 3}, {"a", 3}, {"Alp", 0}};
+    for (const auto& [text, row] : cases) {
+        findField().setText(QString::fromUtf8(text));
+        EXPECT_EQ(table().selectedRow(), row) << text;
+    }
+    findField().selectAll();
+    QTest::keyClicks(&findField(), "MM");
+    EXPECT_EQ(table().selectedRow(), 3);
+    findField().setText("a");
+    QTest::keyClick(&findField(), Qt::Key_Return);
+    EXPECT_EQ(table().selectedRow(), 0);
+    QTest::keyClick(&findField(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(table().selectedRow(), 3);
+    QTest::keyClick(&findField(), Qt::Key_Escape);
+    EXPECT_EQ(findField().text(), "");
+    EXPECT_TRUE(tableWidget().hasFocus());
+    EXPECT_EQ(table().selectedRow(), 3);
+}
+
+TEST_F(StationListWindowTest, FindingNothingIsToldAndChangesNothing)
+{
+    table().selectRowIndexes({2}, TableView::Extending::No);
+    const QColor usual = findField().palette().color(QPalette::Base);
+    QTest::keyClicks(&findField(), "zz");
+    EXPECT_EQ(table().selectedRow(), 2);
+    EXPECT_EQ(status(), "Not found");
+    EXPECT_NE(findField().palette().color(QPalette::Base), usual);
+    QTest::keyClick(&findField(), Qt::Key_Backspace);
+    QTest::keyClick(&findField(), Qt::Key_Backspace);
+    EXPECT_EQ(status(), "");
+    EXPECT_EQ(findField().palette().color(QPalette::Base), usual);
+    rows.names.clear();
+    table().reloadData();
+    QTest::keyClicks(&findField(), "a");
+    EXPECT_EQ(table().selectedRow(), -1);
+}
+
+TEST_F(StationListWindowTest, AFailureIsNotCoveredByWhatIsToldNext)
+{
+    window.showNotice("disk full");
+    outlets.labelListStatus.setStringValue("3 stations were imported.");
+    EXPECT_EQ(status(), "disk full");
+    outlets.labelListStatus.setStringValue("");
+    outlets.labelListStatus.setStringValue("3 stations were imported.");
+    EXPECT_EQ(status(), "3 stations were imported.");
+}
+
+TEST_F(StationListWindowTest, KeysOfTheTableUseTheToolsThatAreEnabled)
+{
+    QStringList used;
+    outlets.radioEdit.action.set([&] { used << "edit"; });
+    outlets.radioRemove.action.set([&] { used << "remove"; });
+    QTest::keyClick(&tableWidget(), Qt::Key_Return);
+    QTest::keyClick(&tableWidget(), Qt::Key_Delete);
+    EXPECT_TRUE(used.isEmpty());
+    outlets.radioEdit.setEnabled(true);
+    outlets.radioRemove.setEnabled(true);
+    QTest::keyClick(&tableWidget(), Qt::Key_Return);
+    QTest::keyClick(&tableWidget(), Qt::Key_Delete);
+    EXPECT_EQ(used.join(' '), "edit remove");
+
+    tableWidget().setCurrentIndex(tableWidget().model()->index(1, 0));
+    QTest::keyClick(&tableWidget(), Qt::Key_F2);
+    auto* cell = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(cell, nullptr);
+    QTest::keyClick(cell, Qt::Key_Delete);
+    QTest::keyClick(cell, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(used.join(' '), "edit remove");
+    EXPECT_EQ(rows.names.at(1), Text("Beta")) << "wired nowhere, so nobody passes the edit on";
+}
+
+TEST_F(StationListWindowTest, OnlyOneLocalStationListCanBeDropped)
+{
+    const QTemporaryDir folder;
+    const auto file = [&](const QString& name) {
+        QFile made(folder.filePath(name));
+        EXPECT_TRUE(made.open(QFile::WriteOnly));
+        return QUrl::fromLocalFile(made.fileName());
+    };
+    ASSERT_TRUE(QDir(folder.path()).mkdir("folder.csv"));
+    const QUrl list = file("my list.CSV");
+    const struct {
+        QList<QUrl> urls;
+        bool isWanted;
+    } cases[] = {{{list}, true}, {{list, file("b.csv")}, false}, {{file("c.m3u")}, false}, {{}, false},
+        {{QUrl("https://host/list.csv")}, false}, {{QUrl::fromLocalFile(folder.filePath("folder.csv"))}, false},
+        {{QUrl::fromLocalFile(folder.filePath("gone.csv"))}, false}};
+    std::vector<Text> dropped;
+    window.whenFileDropped([&](const Text& path) { dropped.push_back(path); });
+    for (const auto& [urls, isWanted] : cases) {
+        QMimeData dragged;
+        dragged.setUrls(urls);
+        QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        enter.ignore();
+        QApplication::sendEvent(&window, &enter);
+        EXPECT_EQ(enter.isAccepted(), isWanted);
+        QDropEvent drop({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QApplication::sendEvent(&window, &drop);
+    }
+    EXPECT_TRUE(dropped.empty()) << "the other program waits for the end of the drop";
+    QApplication::processEvents();
+    EXPECT_EQ(dropped, std::vector<Text>{Text(list.toLocalFile().toStdString())});
+    openSheet();
+    QMimeData dragged;
+    dragged.setUrls({list});
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    enter.ignore();
+    QApplication::sendEvent(&window, &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(StationListWindowTest, TheSheetOpensWithTheFocusInNeitherFieldEveryTime)
+{
+    for (int turn = 0; turn < 2; ++turn) {
+        openSheet();
+        EXPECT_TRUE(qobject_cast<QLineEdit*>(sheet.focusWidget()) == nullptr);
+        QTest::keyClick(&sheet, Qt::Key_Tab);
+        EXPECT_EQ(sheet.focusWidget()->objectName(), "textFieldRadioName");
+        outlets.winEditData.endSheet();
+        outlets.winEditData.close();
+        EXPECT_FALSE(sheet.isVisible());
+        window.activateWindow();
+        QApplication::processEvents();
+    }
+}
+
+TEST_F(StationListWindowTest, ReturnConfirmsAndEscapeAndTheTitleBarCancel)
+{
+    QStringList pressed;
+    outlets.buttonAction.action.set([&] { pressed << "confirm"; });
+    outlets.buttonCancel.action.set([&] { pressed << "cancel"; });
+    openSheet();
+    auto& name = child<QLineEdit>(sheet, "textFieldRadioName");
+    QTest::keyClick(&sheet, Qt::Key_Return);
+    name.setFocus();
+    QTest::keyClick(&name, Qt::Key_Return);
+    QTest::keyClick(&name, Qt::Key_Escape);
+    sheet.close();
+    EXPECT_EQ(pressed.join(' '), "confirm confirm cancel cancel");
+    EXPECT_TRUE(sheet.isVisible()) << "only the program closes it";
+}
+
+TEST_F(StationListWindowTest, TheSheetBlocksItsWindowAloneAndKeepsTheKeysOfTheMenus)
+{
+    int stops = 0;
+    outlets.menuStop.action.set([&] { ++stops; });
+    outlets.menuStop.setEnabled(true);
+    openSheet();
+    EXPECT_EQ(sheet.windowModality(), Qt::WindowModal);
+    QTest::keyClick(&sheet, Qt::Key_Period, Qt::ControlModifier);
+    EXPECT_EQ(stops, 1);
+    EXPECT_FALSE(outlets.winWebRadioListEdit.isKeyWindow());
+    EXPECT_TRUE(outlets.winEditData.isKeyWindow());
+}
+
+TEST_F(StationListWindowTest, KeysOfTheMenusDoNotDisturbTyping)
+{
+    QStringList chosen;
+    const std::initializer_list<std::pair<MenuItem&, const char*>> items{
+        {outlets.menuPlayPause, "play"}, {outlets.menuPreviousStation, "previous"}, {outlets.menuNextStation, "next"}};
+    for (const auto& [item, name] : items) {
+        item.setEnabled(true);
+        item.action.set([&chosen, name = QString(name)] { chosen << name; });
+    }
+    QTest::keyClicks(&findField(), "one two three");
+    QTest::keyClick(&findField(), Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(findField().cursorPosition(), 8);
+    QTest::keyClick(&findField(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(findField().text(), "one two three");
+    QPushButton button(&window);
+    button.show();
+    QTest::keyClick(&button, Qt::Key_Space);
+    QTest::keyClick(&tableWidget(), Qt::Key_Space);
+    EXPECT_TRUE(chosen.isEmpty());
+    QTest::keyClick(&window, Qt::Key_Space);
+    QTest::keyClick(&tableWidget(), Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(&findField(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(chosen.join(' '), "play next play");
+}
+
+TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
+{
+    bool isChosen = false;
+    Outlets others;
+    ProgramMenus late([&] { others.menuMute.setEnabled(true); });
+    connectMenus(others, late);
+    others.menuMute.action.set([&] { isChosen = true; });
+    others.menuMute.setEnabled(false);
+    QMainWindow main;
+    late.addTo(main);
+    main.show();
+    main.activateWindow();
+    ASSERT_TRUE(handleEventsUntil([&] { return main.isActiveWindow(); }));
+    menus.item("menuMute").setShortcuts({});
+    QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
+    EXPECT_TRUE(isChosen);
+    const int before = validations;
+    emit window.menuBar()->actions().at(1)->menu()->aboutToShow();
+    EXPECT_EQ(validations, before + 1);
+}
+
+TEST_F(StationListWindowTest, AMenuTitleFromTheProgramIsShownAsItIs)
+{
+    EXPECT_EQ(outlets.menuRadioAdd.state().title, Text("Add…"));
+    outlets.menuRadioShowEditRadio.setTitle("Close R&B");
+    EXPECT_EQ(menus.item("menuRadioShowEditRadio").text(), "Close R&&B");
+    EXPECT_EQ(outlets.menuRadioShowEditRadio.tag(), 1003);
+    EXPECT_EQ(menus.item("menuRadioAdd").text(), "&Add…");
+}
+
+TEST_F(StationListWindowTest, AnEmptyListSaysWhatToDo)
+{
+    const QImage before = tableWidget().grab().toImage();
+    rows.names.clear();
+    table().reloadData();
+    const QImage hint = tableWidget().grab().toImage();
+    tableWidget().setModel(nullptr);
+    EXPECT_NE(hint, tableWidget().grab().toImage());
+    EXPECT_NE(hint, before);
+}
+
+TEST_F(StationListWindowTest, TheColumnsComeBackAsTheyWere)
+{
+    const QTemporaryDir state;
+    const WindowMemory memory(state.path());
+    tableWidget().horizontalHeader()->resizeSection(0, 277);
+    memory.keep(window);
+    Outlets others;
+    StationListWindow again(others.tableViewListRadio);
+    memory.restore(again);
+    connectStationListWindow(others, again);
+    others.tableViewListRadio.reloadData();
+    EXPECT_EQ(child<StationTable>(again, "tableViewListRadio").horizontalHeader()->sectionSize(0), 277);
+}
+
+} // namespace
+} // namespace sonavel
