@@ -3,7 +3,9 @@
 #include "qt/TextConversion.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 
 namespace sonavel {
 
@@ -18,6 +20,11 @@ Text chosenIn(QFileDialog& dialog)
 
 } // namespace
 
+QtFilePanels::QtFilePanels()
+    : folder_(QDir::homePath())
+{
+}
+
 Text QtFilePanels::runModal(const OpenPanel& panel)
 {
     const QString type = toQString(panel.allowedFileType);
@@ -25,7 +32,11 @@ Text QtFilePanels::runModal(const OpenPanel& panel)
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilter(qtTrId("PANEL_STATION_LISTS") + QStringLiteral(" (*.%1)").arg(type));
-    return chosenIn(dialog);
+    dialog.setDirectory(folder_);
+    const Text chosen = chosenIn(dialog);
+    if (!chosen.isAbsent())
+        folder_ = QFileInfo(toQString(chosen)).absolutePath();
+    return chosen;
 }
 
 Text QtFilePanels::runModal(const SavePanel& panel)

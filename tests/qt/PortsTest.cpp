@@ -2,11 +2,16 @@
 #include "UserInput.h"
 #include "qt/QtAlerts.h"
 #include "qt/QtEventLoop.h"
+#include "qt/QtFilePanels.h"
 #include "qt/QtRunLoop.h"
 #include "qt/TerminationSignals.h"
 
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -54,6 +59,64 @@ TEST(Alerts, AStationNamedWithMarkupIsNotTakenAsMarkup)
         box.close();
     });
     alerts.runModal({"Remove “<h1>R & B</h1>”?", {"Yes & go"}});
+}
+
+/// Types a name into the open file panel and confirms it; what happens next is looked at by `then`.
+void whenPanelIsOpen(const QString& typed, const std::function<void(QFileDialog&)>& then)
+{
+    QTimer::singleShot(0, qApp, [typed, then] {
+        auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(panel, nullptr);
+        panel->findChild<QLineEdit*>("fileNameEdit")->setText(typed);
+        pressKey(*panel->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        then(*panel);
+    });
+}
+
+TEST(FilePanels, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileWasChosen)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("x.csv/deep"));
+    QFile file(folder.filePath("x.csv/list.csv"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    QtFilePanels panels;
+    whenPanelIsOpen(folder.filePath("x.csv"), [](QFileDialog& panel) {
+        EXPECT_TRUE(panel.isVisible());
+        panel.reject();
+    });
+    EXPECT_TRUE(panels.runModal(OpenPanel{"csv"}).isAbsent());
+    whenPanelIsOpen(file.fileName(), [](QFileDialog&) {});
+    EXPECT_EQ(panels.runModal(OpenPanel{"csv"}), Text(file.fileName().toStdString()));
+    whenPanelIsOpen({}, [&](QFileDialog& panel) {
+        EXPECT_EQ(panel.directory().absolutePath(), folder.filePath("x.csv"));
+        panel.reject();
+    });
+    EXPECT_TRUE(panels.runModal(OpenPanel{"csv"}).isAbsent());
+}
+
+TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestion)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("Radio List.csv"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    QtFilePanels panels;
+    const SavePanel panel{"Radio List.csv", Text(folder.path().toStdString())};
+    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+        QTimer::singleShot(0, qApp, [answer] {
+            auto* open = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(open, nullptr);
+            QTimer::singleShot(0, qApp, [answer, open] {
+                auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                ASSERT_NE(question, nullptr);
+                question->button(answer)->click();
+                if (answer == QMessageBox::No)
+                    open->reject();
+            });
+            pressKey(*open->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        });
+        const Text chosen = panels.runModal(panel);
+        EXPECT_EQ(chosen, answer == QMessageBox::Yes ? Text(file.fileName().toStdString()) : Text());
+    }
 }
 
 TEST(EventLoop, ARegistrationMayEndItselfFromInsideItsCallback)
