@@ -63,6 +63,17 @@ class Control:
         self.node.clear_cache()
         return self.node.get_name()
 
+    def children(self, role):
+        """All controls of that role below this one, shown or not."""
+        self.node.clear_cache()
+        return [Control(node) for node in _walk(self.node) if node.get_role() == role]
+
+    @property
+    def center(self):
+        """Where it lies on the screen."""
+        extents = self.node.get_extents(Atspi.CoordType.SCREEN)
+        return extents.x + extents.width // 2, extents.y + extents.height // 2
+
     @property
     def description(self):
         return self.node.get_description()

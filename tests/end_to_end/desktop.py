@@ -108,6 +108,18 @@ class Desktop:
     def keys(self, *names):
         subprocess.run(["xdotool", "key", "--clearmodifiers", *names], env=self.environment, check=True)
 
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "5", "--", text], env=self.environment, check=True)
+
+    def click(self, control, times=1):
+        x, y = control.center
+        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(times), "--delay", "50", "1"],
+                       env=self.environment, check=True)
+
+    def window_title(self, pattern):
+        return subprocess.run(["xdotool", "getwindowname", str(self.window(pattern))], env=self.environment, check=True,
+                              capture_output=True, text=True).stdout.strip()
+
     def window(self, title):
         """The identifier of the visible window of that title, once it is there."""
         def search():
