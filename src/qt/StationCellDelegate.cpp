@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QStyle>
 #include <QToolTip>
 
 #include <limits>
@@ -22,11 +23,16 @@ QStringList textsOfRow(const QModelIndex& index)
 
 } // namespace
 
-QWidget* StationCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+QWidget* StationCellDelegate::createEditor(
+    QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     field_ = new QLineEdit(parent);
     field_->setFrame(false);
     field_->setAutoFillBackground(true);
+    // The text stays where it stood in the cell.
+    const QWidget* table = option.widget;
+    const int besideText = table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table);
+    field_->setTextMargins(besideText - 1, 0, 0, 0);
     // The length that fields have by themselves would cut a longer name without a word.
     field_->setMaxLength(std::numeric_limits<int>::max());
     field_->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());

@@ -11,10 +11,13 @@ WindowBinder::WindowBinder(Window& window, QWidget& widget)
     : QObject(&widget)
     , window_(window)
     , widget_(widget)
+    , owner_(widget.parentWidget())
 {
     window_.connect(
         {toText(widget.windowTitle()), widget.isVisible()}, [this](const WindowState& state) { render(state); });
     widget.installEventFilter(this);
+    if (owner_ != nullptr)
+        owner_->installEventFilter(this);
 }
 
 WindowBinder::~WindowBinder()
@@ -24,6 +27,12 @@ WindowBinder::~WindowBinder()
 
 bool WindowBinder::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == owner_) {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+            QMetaObject::invokeMethod(
+                this, [this] { render(window_.state()); }, Qt::QueuedConnection);
+        return false;
+    }
     switch (event->type()) {
     case QEvent::Close:
         event->ignore();
@@ -59,7 +68,7 @@ void WindowBinder::render(const WindowState& state)
     focusReleasesSeen_ = state.focusReleases;
     if (state.isVisible && !widget_.isVisible())
         widget_.setWindowModality(state.isSheet ? Qt::WindowModal : Qt::NonModal);
-    widget_.setVisible(state.isVisible);
+    widget_.setVisible(state.isVisible && (owner_ == nullptr || owner_->isVisible()));
     if (frontRequestsSeen_ == state.frontRequests)
         return;
     frontRequestsSeen_ = state.frontRequests;

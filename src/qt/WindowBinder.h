@@ -23,6 +23,7 @@ private:
 
     Window& window_;
     QWidget& widget_;
+    QWidget* owner_; ///< the window that a sheet is attached to, with which it goes and comes; null for others
     unsigned frontRequestsSeen_ = 0;
     unsigned focusReleasesSeen_ = 0;
 };

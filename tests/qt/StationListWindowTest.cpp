@@ -269,6 +269,17 @@ TEST_F(StationListWindowTest, TheSheetBlocksItsWindowAloneAndKeepsTheKeysOfTheMe
     EXPECT_TRUE(outlets.winEditData.isKeyWindow());
 }
 
+TEST_F(StationListWindowTest, ASheetGoesAndComesWithItsWindow)
+{
+    openSheet();
+    outlets.winWebRadioListEdit.setIsVisible(false);
+    QApplication::processEvents();
+    EXPECT_FALSE(sheet.isVisible());
+    outlets.winWebRadioListEdit.setIsVisible(true);
+    QApplication::processEvents();
+    EXPECT_TRUE(sheet.isVisible());
+}
+
 TEST_F(StationListWindowTest, KeysOfTheMenusDoNotDisturbTyping)
 {
     QStringList chosen;
