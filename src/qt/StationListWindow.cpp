@@ -44,8 +44,8 @@ StationListWindow::StationListWindow(const TableView& table)
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     description_->toolBar->addWidget(gap);
     description_->toolBar->addWidget(findField_);
-    setUpProportions();
     setUpIcons();
+    setUpProportions();
     setUpFinding();
     setUpKeys();
 }
@@ -61,8 +61,9 @@ void StationListWindow::setUpProportions()
     findField_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     findField_->setMinimumHeight(line * 7 / 4);
     description_->labelListStatus->setContentsMargins(line * 2 / 3, line / 4, line * 2 / 3, line / 4);
-    setMinimumSize(line * 24, line * 14);
-    resize(line * usualWidth, line * usualHeight);
+    // As wide as the tools, which would hide behind a mark otherwise.
+    setMinimumSize(description_->toolBar->sizeHint().width(), line * 14);
+    resize(qMax(minimumWidth(), line * usualWidth), line * usualHeight);
     description_->tableViewListRadio->horizontalHeader()->setDefaultSectionSize(line * usualWidth * 2 / 5);
 }
 
