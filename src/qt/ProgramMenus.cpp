@@ -109,11 +109,16 @@ QAction& ProgramMenus::item(const QString& name) const
 /// A disabled action asks nobody before its key is matched, so the moment before is the time to enable it.
 bool ProgramMenus::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::ShortcutOverride || !watched->isWidgetType())
-        return QObject::eventFilter(watched, event);
+    if (!watched->isWidgetType())
+        return false;
+    const auto& widget = *static_cast<QWidget*>(watched);
+    if (event->type() == QEvent::WindowActivate && widget.isWindow())
+        QMetaObject::invokeMethod(this, validate_, Qt::QueuedConnection); // once the program knows of it
+    if (event->type() != QEvent::ShortcutOverride)
+        return false;
     validate_();
-    if (!isPlainSpace(*static_cast<QKeyEvent*>(event)) || !pressesOrTypesWithSpace(*static_cast<QWidget*>(watched)))
-        return QObject::eventFilter(watched, event);
+    if (!isPlainSpace(*static_cast<QKeyEvent*>(event)) || !pressesOrTypesWithSpace(widget))
+        return false;
     event->accept();
     return true;
 }

@@ -15,7 +15,8 @@ namespace sonavel {
 /// edits a text.
 class ProgramMenus : public QObject {
 public:
-    /// `validate` enables the items as they are to be; it is called before a menu is shown and before a key is matched.
+    /// `validate` enables the items as they are to be; it is called before a menu is shown, before a key is matched,
+    /// and when the keyboard has come to another window.
     explicit ProgramMenus(std::function<void()> validate);
 
     void addTo(QMainWindow& window);

@@ -321,6 +321,7 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
     menus.item("menuMute").setShortcuts({});
     QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
     EXPECT_TRUE(isChosen);
+    QApplication::processEvents();
     const int before = validations;
     emit window.menuBar()->actions().at(1)->menu()->aboutToShow();
     EXPECT_EQ(validations, before + 1);
