@@ -54,7 +54,7 @@ void connect(Slider& outlet, QWidget& window, const char* name)
 }
 void connect(TextField& outlet, QWidget& window, const char* name)
 {
-    QWidget& widget = objectNamed<QWidget>(window, name);
+    auto& widget = objectNamed<QWidget>(window, name);
     if (auto* typed = dynamic_cast<QLineEdit*>(&widget))
         new TextFieldBinder(outlet, *typed);
     else if (auto* status = dynamic_cast<StatusLine*>(&widget))

@@ -19,8 +19,8 @@ struct Item {
 };
 
 struct Menu {
-    const char* title;
-    QList<Item> items;
+    const char* title = nullptr;
+    QList<Item> items = {};
 };
 
 std::array<Menu, 3> layout()

@@ -1,6 +1,7 @@
 #include "qt/StationFinder.h"
 
 #include <algorithm>
+#include <array>
 
 namespace sonavel {
 
@@ -24,12 +25,11 @@ std::optional<long> StationFinder::find(const QString& wanted, long start, Direc
 
 bool StationFinder::matches(long row)
 {
-    for (const char* column : {"radio", "link"}) {
+    constexpr std::array columns{"radio", "link"};
+    return std::any_of(columns.begin(), columns.end(), [&](const char* column) {
         const Text text = table_.textOfCell(column, row);
-        if (folding_.folded(text.view()).find(wanted_) != std::string_view::npos)
-            return true;
-    }
-    return false;
+        return folding_.folded(text.view()).find(wanted_) != std::string_view::npos;
+    });
 }
 
 } // namespace sonavel

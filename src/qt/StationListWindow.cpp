@@ -91,7 +91,7 @@ void StationListWindow::setUpFinding()
 /// The keys of the table work while it has the focus itself, not a cell that is open in it.
 void StationListWindow::setUpKeys()
 {
-    const auto bind = [this](QKeySequence key, QAction* tool) {
+    const auto bind = [this](const QKeySequence& key, QAction* tool) {
         auto* shortcut = new QShortcut(key, description_->tableViewListRadio);
         shortcut->setContext(Qt::WidgetShortcut);
         shortcut->setAutoRepeat(false);
