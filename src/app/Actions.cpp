@@ -4,6 +4,8 @@
 #include "app/WinSonavelController.h"
 #include "ui/Outlets.h"
 
+#include <memory>
+
 namespace sonavel {
 
 using Controller = WinSonavelController;
@@ -15,7 +17,9 @@ Actions::Actions(WinSonavelController& controller, Outlets& outlets, Gate& gate)
 {
     wireMainWindow();
     wireEditor();
+    wirePreferences();
     wireItems();
+    wireUpdates();
 }
 
 void Actions::wireMainWindow()
@@ -47,6 +51,38 @@ void Actions::wireEditor()
     wire(outlets_.winEditData.action, OpenCell::Stays, [](Controller& c) { c.editSheet.buttonCancel(); });
 }
 
+void Actions::wirePreferences()
+{
+    const auto at = [this](Action& action, void (PreferencesWindow::*operation)()) {
+        wire(action, OpenCell::Stays, [operation](Controller& c) { (c.preferencesWindow.*operation)(); });
+    };
+    at(outlets_.checkBoxDefaultAutoPlayAtStartApp.action, &PreferencesWindow::setAutoPlayAtStart);
+    at(outlets_.checkBoxDefaultAutoPlay.action, &PreferencesWindow::setAutoPlay);
+    at(outlets_.popupDefaultButtonListRadio.action, &PreferencesWindow::setRadioDefault);
+    at(outlets_.sliderDefaultVolume.action, &PreferencesWindow::changeVolumeDefault);
+    at(outlets_.buttonClosePreferences.action, &PreferencesWindow::winPreferenceClose);
+    at(outlets_.winPreferences.action, &PreferencesWindow::winPreferenceClose);
+}
+
+/// The windows of a check come and go with it.
+void Actions::wireUpdates()
+{
+    wire(outlets_.buttonCloseNotification.action, OpenCell::Stays, [](Controller& c) { c.buttonClose(); });
+    wire(outlets_.winUpdateNotification.action, OpenCell::Stays, [](Controller& c) { c.buttonClose(); });
+    controller_.updateCheck.setObserver([this](const std::shared_ptr<AppUpdater>& updater) {
+        const auto at = [this, weak = std::weak_ptr(updater)](Action& action, void (AppUpdater::*operation)()) {
+            wire(action, OpenCell::Stays, [weak, operation](Controller&) {
+                if (const auto present = weak.lock())
+                    ((*present).*operation)();
+            });
+        };
+        at(updater->buttonUpdate.action, &AppUpdater::buttnUpdate);
+        at(updater->buttonRemind.action, &AppUpdater::buttnRemind);
+        at(updater->windowUpdater.action, &AppUpdater::buttnRemind);
+    });
+}
+
+/// What the item of the preferences does is told by itself and not by its tag.
 void Actions::wireItems()
 {
     for (ToolbarItem* item :
@@ -54,6 +90,10 @@ void Actions::wireItems()
         wire(item->action, OpenCell::IsEnded, [item](Controller& c) { c.editorToolbar.toolbar(*item); });
     for (MenuItem* item : controller_.menus.items())
         wire(item->action, OpenCell::IsEnded, [item](Controller& c) { c.menus.menuView(*item); });
+    wire(
+        outlets_.menuPreferences.action, OpenCell::Stays, [](Controller& c) { c.preferencesWindow.showPreferences(); });
+    wire(outlets_.menuAbout.action, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.makeKeyAndOrderFront(); });
+    wire(outlets_.winAbout.action, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.setIsVisible(false); });
 }
 
 void Actions::wire(Action& action, OpenCell openCell, std::function<void(Controller&)> operation)

@@ -38,7 +38,9 @@ private:
     void wire(Action& action, OpenCell openCell, std::function<void(WinSonavelController&)> operation);
     void wireMainWindow();
     void wireEditor();
+    void wirePreferences();
     void wireItems();
+    void wireUpdates();
 
     WinSonavelController& controller_;
     Outlets& outlets_;

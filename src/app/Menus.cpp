@@ -68,6 +68,7 @@ const std::array rows{
             return whileEditorHasKeyboard(c, o) && c.stationList.numberOfStations() > 0;
         }},
     Row{4000, [](Controller&) {}, whileEditorIsHidden},
+    Row{4001, [](Controller& c) { c.checkUpdateOnDemand(); }, whileEditorIsHidden},
 };
 
 const Row* rowOf(int tag)
@@ -107,12 +108,12 @@ void Menus::validateItems()
         item->setEnabled(validateMenuItem(*item));
 }
 
-std::array<MenuItem*, 13> Menus::items() const
+std::array<MenuItem*, 14> Menus::items() const
 {
     return {&outlets_.menuRadioAdd, &outlets_.menuRadioEdit, &outlets_.menuRadioRemove, &outlets_.menuRadioImport,
         &outlets_.menuRadioExport, &outlets_.menuRadioShowEditRadio, &outlets_.menuPlayPause, &outlets_.menuStop,
         &outlets_.menuMute, &outlets_.menuPreviousStation, &outlets_.menuNextStation, &outlets_.menuCheckUpdates,
-        &outlets_.menuQuit};
+        &outlets_.menuPreferences, &outlets_.menuQuit};
 }
 
 } // namespace sonavel

@@ -27,8 +27,8 @@ public:
     /// Enables every item as it is to be now: before a menu is shown, and before a key is matched.
     void validateItems();
 
-    /// All items of all menus.
-    [[nodiscard]] std::array<MenuItem*, 13> items() const;
+    /// All items that have a tag.
+    [[nodiscard]] std::array<MenuItem*, 14> items() const;
 
 private:
     WinSonavelController& controller_;

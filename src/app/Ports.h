@@ -11,12 +11,14 @@ class Clock;
 class FilePanels;
 class Files;
 class HttpClient;
+class Interfaces;
 class LocalizedStrings;
 class NotificationCenter;
 class PreferenceDomains;
 class Process;
 class RunLoop;
 class StreamPlayers;
+class WebBrowser;
 
 /// Borrowed: they outlive the controller that is made with them.
 struct Ports {
@@ -24,7 +26,9 @@ struct Ports {
     FilePanels& filePanels;
     Files& files;
     HttpClient& httpClient;
+    Interfaces& interfaces;
     StreamPlayers& streamPlayers;
+    WebBrowser& webBrowser;
     PreferenceDomains& preferenceDomains;
     Clock& clock;
     LocalizedStrings& localizedStrings;

@@ -12,13 +12,16 @@ namespace sonavel {
 WinSonavelController::WinSonavelController(const Ports& ports, const Configuration& configuration, Outlets& outlets)
     : stationDatabase(ports.files, stationList)
     , preferences(ports.preferenceDomains, ports.bundle, outlets.winWebRadioListEdit)
-    , preferencesWindow(stationList)
+    , preferencesWindow(preferences, stationList, outlets)
     , player(ports.streamPlayers, ports.notificationCenter, outlets)
     , stationSelection(stationList, preferences, player, ports.localizedStrings, outlets)
     , connectivity(ports.httpClient)
     , calendarDays(ports.clock)
     , stationRefresh(ports.httpClient, ports.clock, configuration.dataServer, serverDates, preferences, stationList,
           stationDatabase)
+    , updateCheck({ports.httpClient, ports.localizedStrings, ports.interfaces, ports.webBrowser, ports.bundle,
+                      configuration.dataServer},
+          ports.clock, calendarDays, preferences, serverDates, stationRefresh, outlets)
     , stationLoading(stationList, stationDatabase, stationRefresh)
     , editorWindow(stationList, ports.localizedStrings, ports.runLoop, outlets)
     , editSheet(
@@ -43,6 +46,8 @@ void WinSonavelController::init()
         endWithoutInternet();
     preferences.setStartValues();
     preferences.loadingPreference();
+    if (updateCheck.isDueAtStart())
+        updateCheck.checkUpdate();
     stationLoading.initRadioList();
     preferences.loadingPreference();
     outlets_.buttonPlayPause.setImage("play.png");
@@ -100,6 +105,17 @@ void WinSonavelController::quitApp()
     if (ports_.alerts.runModal(question) == firstButtonAnswer)
         ports_.process.exit(0);
     outlets_.winSonavel.setIsVisible(true);
+}
+
+void WinSonavelController::checkUpdateOnDemand()
+{
+    const unsigned changesBefore = stationRefresh.changes();
+    updateCheck.checkUpdate();
+    if (stationRefresh.changes() == changesBefore)
+        return;
+    stationSelection.updatePopupListRadioWithListStation();
+    outlets_.tableViewListRadio.reloadData();
+    editorWindow.updateTitleWebRadioListEdit();
 }
 
 void WinSonavelController::buttonClose()

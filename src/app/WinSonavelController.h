@@ -16,17 +16,15 @@
 #include "online/Connectivity.h"
 #include "online/ServerDates.h"
 #include "online/StationRefresh.h"
+#include "online/UpdateCheck.h"
 #include "playback/Player.h"
 #include "playback/StationSelection.h"
 #include "prefs/Preferences.h"
 #include "prefs/PreferencesWindow.h"
 #include "storage/StationDatabase.h"
 
-#include <memory>
-
 namespace sonavel {
 
-class AppUpdater;
 struct Outlets;
 
 /// How it is started: make it, `init`, connect the outlets, `awakeFromNib`. All of it on the main thread.
@@ -37,9 +35,9 @@ public:
     WinSonavelController& operator=(const WinSonavelController&) = delete;
     ~WinSonavelController() = default;
 
-    /// The first phase, before any outlet is connected: looks for a network, loads the preferences and the station
-    /// list. Blocks while it asks servers. Without a network it says so and ends the process with status 0, with
-    /// nothing stored.
+    /// The first phase, before any outlet is connected: looks for a network, loads the preferences, checks for a newer
+    /// version when that is due, and loads the station list. Blocks while it asks servers. Without a network it says so
+    /// and ends the process with status 0, with nothing stored.
     void init();
 
     /// The second phase, once every outlet is connected: shows what was loaded, selects the default station, and brings
@@ -48,6 +46,9 @@ public:
 
     /// Stores the preferences, then asks whether to quit: ends the process with status 0, or shows the main window.
     void quitApp();
+
+    /// The check on demand. When it changed the list, what shows the list is brought up to date.
+    void checkUpdateOnDemand();
 
     /// Closes the notice of the update check.
     void buttonClose();
@@ -59,11 +60,10 @@ public:
     Player player;
     StationSelection stationSelection;
     ServerDates serverDates;
-    /// The checker of the last check for a new version; absent before the first.
-    std::shared_ptr<AppUpdater> updaterApp;
     Connectivity connectivity;
     CalendarDays calendarDays;
     StationRefresh stationRefresh;
+    UpdateCheck updateCheck;
     StationLoading stationLoading;
     EditorWindow editorWindow;
     EditSheet editSheet;

@@ -1,5 +1,10 @@
 #include "online/RequestAddress.h"
 
+#include "base/Ascii.h"
+#include "playback/StreamAddress.h"
+
+#include <algorithm>
+
 namespace sonavel {
 
 namespace {
@@ -26,6 +31,14 @@ Text percentEscaped(const Text& address)
         escaped += {'%', digits[byte / 16], digits[byte % 16]};
     }
     return escaped;
+}
+
+Text usableWebAddress(const Text& address)
+{
+    const std::string_view text = address.view();
+    const bool isWeb = beginsWithIgnoringCase(text, "http://") || beginsWithIgnoringCase(text, "https://");
+    const bool isEscaped = std::all_of(text.begin(), text.end(), mayStandInAddress);
+    return isWeb && isEscaped && !hostOfStreamAddress(address).isAbsent() ? address : Text();
 }
 
 } // namespace sonavel

@@ -9,4 +9,8 @@ namespace sonavel {
 /// outside ASCII. What is escaped already stays.
 [[nodiscard]] Text percentEscaped(const Text& address);
 
+/// The address itself when it is a complete http or https address with a host and without anything to escape; absent
+/// otherwise.
+[[nodiscard]] Text usableWebAddress(const Text& address);
+
 } // namespace sonavel

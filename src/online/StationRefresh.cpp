@@ -53,6 +53,7 @@ void StationRefresh::chekNewRadioOnLine()
     const StationRecords downloaded = recordsFromListText(downloadedListText());
     if (!mergeStations(*stationList_.listRadio, downloaded))
         return;
+    ++changes_;
     stationList_.sortingRadioWithKey("radio");
     stationDatabase_.fileRadioDBupdate();
 }

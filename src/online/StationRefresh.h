@@ -32,6 +32,9 @@ public:
     /// that have only not been read yet.
     void chekNewRadioOnLine();
 
+    /// How many refreshes have changed the list.
+    [[nodiscard]] unsigned changes() const { return changes_; }
+
 private:
     [[nodiscard]] Text downloadedListText() const;
 
@@ -42,6 +45,7 @@ private:
     Preferences& preferences_;
     StationList& stationList_;
     StationDatabase& stationDatabase_;
+    unsigned changes_ = 0;
 };
 
 } // namespace sonavel

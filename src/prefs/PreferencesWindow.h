@@ -1,19 +1,42 @@
-// The window of the preferences.
+// The window of the preferences, a sheet of the main window.
 #pragma once
 
 namespace sonavel {
 
 class StationList;
+struct Outlets;
+struct PreferenceFields;
 
+/// Its actions change the fields alone; they are stored at the next store of the preferences.
+///
+/// Main thread. Borrows everything it is given.
 class PreferencesWindow {
 public:
-    explicit PreferencesWindow(const StationList& stationList);
+    PreferencesWindow(PreferenceFields& preferences, const StationList& stationList, Outlets& outlets);
+    PreferencesWindow(const PreferencesWindow&) = delete;
+    PreferencesWindow& operator=(const PreferencesWindow&) = delete;
+    ~PreferencesWindow() = default;
+
+    /// Opens the sheet; does nothing while it is open.
+    void showPreferences();
+    void winPreferenceClose();
+
+    /// Inverts whether the default station plays at the start.
+    void setAutoPlayAtStart();
+    /// Inverts whether choosing a station plays it.
+    void setAutoPlay();
+    /// Takes the station that is selected, by its name, for the default one; the placeholder is none.
+    void setRadioDefault();
+    /// Takes the slider's value for the volume at the start; what is heard now stays.
+    void changeVolumeDefault();
 
     /// Whether a default station can be chosen, that is, whether there are stations.
     [[nodiscard]] bool setAutoEnablePopupDefaultButtonListRadio() const;
 
 private:
+    PreferenceFields& preferences_;
     const StationList& stationList_;
+    Outlets& outlets_;
 };
 
 } // namespace sonavel

@@ -30,6 +30,8 @@ struct Outlets {
     MenuItem menuNextStation;
     MenuItem menuCheckUpdates;
     MenuItem menuQuit;
+    MenuItem menuPreferences;
+    MenuItem menuAbout;
 
     Window winSplashScreen;
 
@@ -67,10 +69,15 @@ struct Outlets {
     PopUpButton popupDefaultButtonListRadio;
     TextField labelSetDefaultVolume;
     Slider sliderDefaultVolume;
+    Button buttonClosePreferences;
 
+    /// The notice of a check that found no newer version.
     Window winUpdateNotification;
+    TextField labelUpdateNotification;
+    Button buttonCloseNotification;
 
     // What the program tells of itself.
+    Window winAbout;
     ImageView imageAppIcon;
     TextField labelAppName;
     TextField labelAppVersion;

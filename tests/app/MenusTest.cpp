@@ -25,7 +25,7 @@ protected:
 TEST_F(MenusTest, ItemsOfTheListNeedItsWindowWithTheKeyboard)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
-    EXPECT_EQ(enabled(), "1003 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "1003 2002 2003 2004 4001 4000 0 ");
     EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
     showEditor(false);
     EXPECT_EQ(enabled(), "1003 2002 2003 2004 0 ");
@@ -44,13 +44,14 @@ TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)
 {
     startWithStations("A;http://a/\r");
     outlets.popupbuttonRadioList.chosenByUser(1);
-    EXPECT_EQ(enabled(), "1003 2000 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "1003 2000 2002 2003 2004 4001 4000 0 ");
     outlets.menuPlayPause.chosenByUser();
-    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 4001 4000 0 ");
     outlets.menuPlayPause.chosenByUser();
-    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 0 ") << "paused";
+    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 4001 4000 0 ") << "paused";
     controller.stationSelection.updatePopupListRadioWithListStation();
-    EXPECT_EQ(enabled(), "1003 2001 2002 2003 2004 0 ") << "still held, while the pop-up shows its placeholder";
+    EXPECT_EQ(enabled(), "1003 2001 2002 2003 2004 4001 4000 0 ")
+        << "still held, while the pop-up shows its placeholder";
     outlets.menuMute.chosenByUser();
     EXPECT_TRUE(controller.player.isMute);
     outlets.menuStop.chosenByUser();
@@ -67,7 +68,7 @@ TEST_F(MenusTest, TheListItemTogglesItsWindowAndWaitsForThePreferences)
     outlets.menuRadioShowEditRadio.chosenByUser();
     EXPECT_FALSE(outlets.winWebRadioListEdit.isVisible());
     outlets.winPreferences.setIsVisible(true);
-    EXPECT_EQ(enabled(), "2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "2002 2003 2004 4001 4000 0 ");
     EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
 }
 

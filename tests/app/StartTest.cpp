@@ -11,6 +11,7 @@ TEST_F(StartTest, TheStepsComeInTheirOrder)
     const std::string legacy = platform.files.inPreferences("radiolist.csv");
     EXPECT_EQ(platform.log,
         (std::vector<std::string>{"request http://probe.example/", "load preferences", "store preferences",
+            "store preferences", "request http://data.example/app_data_files/testpost.php",
             "read " + platform.files.inPreferences("radiolist.rdb"), "store preferences",
             "request " + std::string(onlineListAddress), "load preferences"}));
     platform.log.clear();

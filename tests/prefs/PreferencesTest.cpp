@@ -11,7 +11,8 @@ TEST_F(PreferencesTest, AFirstRunStoresTheStartValues)
     const PreferenceDomain expected{{"appVersion", "1.2.0"}, {"appBuild", "5"}, {"isAutoPlay", "NO"},
         {"isAutoPlayOpenApp", "NO"}, {"isVisibleWinEdit", "NO"}, {"defaultStation", "POP_UP_BUTTON_SELECT_RADIO"},
         {"defaultVolume", "0.700000"}, {"enableMultipleSelection", "YES"}, {"maxLenghtRadioName", "60"},
-        {"setTimeOutLimit", "30.000000"}, {"lastUpdateAppCheck", "(null)"}, {"lastUpdateDataCheck", "(null)"}};
+        {"setTimeOutLimit", "30.000000"}, {"lastUpdateAppCheck", "2016-10-05 12:00:00 +0000"},
+        {"lastUpdateDataCheck", "(null)"}};
     EXPECT_EQ(storedPreferences(), expected);
     EXPECT_EQ(controller.preferences.PREF_MAX_NUMBER_RADIO, 1'000'000);
 }

@@ -48,7 +48,7 @@ protected:
     void connectOutlets()
     {
         for (Window* window : {&outlets.winSonavel, &outlets.winWebRadioListEdit, &outlets.winEditData,
-                 &outlets.winPreferences, &outlets.winUpdateNotification})
+                 &outlets.winPreferences, &outlets.winUpdateNotification, &outlets.winAbout})
             window->connect({});
         for (PopUpButton* popUp : {&outlets.popupbuttonRadioList, &outlets.popupDefaultButtonListRadio})
             popUp->connect({});
@@ -62,7 +62,8 @@ protected:
             slider->connect({});
         outlets.sliderVolume.setMaxValue(1.0);
         outlets.tableViewListRadio.connect({});
-        for (TextField* field : {&outlets.textFieldRadioName, &outlets.textFieldRadioLink, &outlets.labelListStatus})
+        for (TextField* field : {&outlets.textFieldRadioName, &outlets.textFieldRadioLink, &outlets.labelListStatus,
+                 &outlets.labelUpdateNotification})
             field->connect({});
         connectItems();
     }
@@ -78,7 +79,7 @@ protected:
             {&outlets.menuRadioEdit, 1001}, {&outlets.menuRadioRemove, 1002}, {&outlets.menuRadioShowEditRadio, 1003},
             {&outlets.menuPlayPause, 2000}, {&outlets.menuStop, 2001}, {&outlets.menuMute, 2002},
             {&outlets.menuPreviousStation, 2003}, {&outlets.menuNextStation, 2004}, {&outlets.menuRadioImport, 3000},
-            {&outlets.menuRadioExport, 3001}};
+            {&outlets.menuRadioExport, 3001}, {&outlets.menuPreferences, 4000}, {&outlets.menuCheckUpdates, 4001}};
         for (const auto& [item, itemTag] : menuItems)
             item->connect({{}, itemTag, false});
     }
@@ -99,9 +100,10 @@ protected:
 
     void publishOnline(const Text& listText) { platform.httpClient.answers[onlineListAddress] = encrypted(listText); }
 
-    /// Keys that are not given are missing.
+    /// Keys that are not given are missing, but for a check for a newer version earlier on the same day.
     void putPreferences(PreferenceDomain domain)
     {
+        domain.try_emplace("lastUpdateAppCheck", "2016-10-05 06:00:00 +0000");
         platform.preferenceDomains.stored["Mertzan-Software.Sonavel.plist"] = std::move(domain);
     }
 

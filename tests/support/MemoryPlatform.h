@@ -7,6 +7,7 @@
 #include "platform/Process.h"
 #include "platform/RunLoop.h"
 #include "support/MemoryFiles.h"
+#include "support/MemoryInterfaces.h"
 #include "support/MemoryPreferenceDomains.h"
 #include "support/RecordingStreamPlayers.h"
 #include "support/ScriptedAlerts.h"
@@ -62,7 +63,9 @@ struct MemoryPlatform {
     ScriptedAlerts alerts;
     ScriptedFilePanels filePanels;
     ScriptedHttpClient httpClient{log};
+    MemoryInterfaces interfaces;
     RecordingStreamPlayers streamPlayers;
+    RecordingWebBrowser webBrowser;
     MemoryPreferenceDomains preferenceDomains{log};
     SettableClock clock{"2016-10-05 12:00:00 +0000"};
     BracketedStrings localizedStrings;
@@ -75,8 +78,8 @@ struct MemoryPlatform {
 
     [[nodiscard]] Ports ports()
     {
-        return {alerts, filePanels, files, httpClient, streamPlayers, preferenceDomains, clock, localizedStrings,
-            notificationCenter, runLoop, process, {"Sonavel", "1.2.0", "5"}};
+        return {alerts, filePanels, files, httpClient, interfaces, streamPlayers, webBrowser, preferenceDomains, clock,
+            localizedStrings, notificationCenter, runLoop, process, {"Sonavel", "1.2.0", "5"}};
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include "platform/HttpClient.h"
 
+#include <functional>
 #include <map>
 
 namespace sonavel {
@@ -18,12 +19,15 @@ public:
     /// The bodies, by address.
     std::map<std::string, std::string, std::less<>> answers;
     std::vector<HttpRequest> requests;
+    /// Runs while a request is under way.
+    std::function<void()> whileAsking = [] {};
 
     /// Logged as "request ADDRESS".
     std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) override
     {
         log_.push_back("request " + request.address.string());
         requests.push_back(request);
+        whileAsking();
         const auto answer = answers.find(request.address.view());
         return answer == answers.end() ? std::nullopt : std::optional(answer->second);
     }

@@ -1,0 +1,96 @@
+// One look for a newer version, and the window that tells of it.
+#pragma once
+
+#include "base/Moment.h"
+#include "base/Text.h"
+#include "online/VersionRecord.h"
+#include "platform/Bundle.h"
+#include "platform/Interfaces.h"
+#include "ui/Button.h"
+#include "ui/TextField.h"
+#include "ui/Window.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace sonavel {
+
+class HttpClient;
+class LocalizedStrings;
+class WebBrowser;
+
+/// What all checks of a run share. Each check replaces both records; the mark is never taken back.
+struct Versions {
+    VersionRecord application;
+    VersionRecord server;
+    bool isUpdateAvailable = false;
+};
+
+/// Borrowed by the checker, except the address and the bundle.
+struct UpdaterPorts {
+    HttpClient& httpClient;
+    const LocalizedStrings& localizedStrings;
+    Interfaces& interfaces;
+    WebBrowser& webBrowser;
+    Bundle bundle;
+    /// The data server's base address; ends in "/".
+    Text dataServer;
+};
+
+/// Main thread. Its window goes with it.
+class AppUpdater {
+public:
+    /// Asks the server, which blocks, replaces both records, and builds the window, hidden.
+    [[nodiscard]] static std::shared_ptr<AppUpdater> create(const UpdaterPorts& ports, Versions& versions);
+
+    AppUpdater(const AppUpdater&) = delete;
+    AppUpdater& operator=(const AppUpdater&) = delete;
+    ~AppUpdater() = default;
+
+    Window windowUpdater;
+    TextField textFieldLabelUpdateNameApp;
+    TextField textFieldLabelUpdateVersionNote;
+    TextField textViewRelaseNote;
+    Button buttonUpdate;
+    Button buttonRemind;
+
+    /// When the newest version came out, and when the server's station list last changed; absent where the server does
+    /// not say so in the international form.
+    std::optional<Moment> updateApp;
+    std::optional<Moment> updateData;
+
+    /// Meant for a download in progress; there is none.
+    std::shared_ptr<const std::string> downloadResponse;
+    std::int64_t bytesReceived = 0;
+
+    [[nodiscard]] VersionRecord returnVersionApp() const;
+    /// Asks the server and sets both dates.
+    [[nodiscard]] VersionRecord returnVersionUpdate();
+
+    /// Whether there is a newer version, or was at an earlier check of this run; then the window is filled and shown.
+    /// NO without a usable answer. Asks nobody.
+    bool checkUpdate();
+    /// Whether the server gave an answer that could be read.
+    [[nodiscard]] bool hasUsableAnswer() const { return hasUsableAnswer_; }
+
+    [[nodiscard]] Text retrunVersionApp() const { return versionText(versions_.application); }
+    [[nodiscard]] Text retrunVersionUpdate() const { return versionText(versions_.server); }
+
+    /// Opens the page of the newest version, if its address is a web address, and closes the window.
+    void buttnUpdate();
+    /// Closes the window.
+    void buttnRemind();
+
+private:
+    AppUpdater(const UpdaterPorts& ports, Versions& versions);
+
+    void showWindow();
+
+    UpdaterPorts ports_;
+    Versions& versions_;
+    bool hasUsableAnswer_ = false;
+    std::unique_ptr<LoadedInterface> interface_; // goes before the controls that it connects
+};
+
+} // namespace sonavel

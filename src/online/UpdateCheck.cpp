@@ -1,0 +1,56 @@
+#include "online/UpdateCheck.h"
+
+#include "online/CalendarDays.h"
+#include "online/ServerDates.h"
+#include "online/StationRefresh.h"
+#include "platform/Clock.h"
+#include "platform/LocalizedStrings.h"
+#include "prefs/Preferences.h"
+#include "ui/Outlets.h"
+
+#include <utility>
+
+namespace sonavel {
+
+UpdateCheck::UpdateCheck(UpdaterPorts ports, const Clock& clock, const CalendarDays& calendarDays,
+    Preferences& preferences, ServerDates& serverDates, StationRefresh& stationRefresh, Outlets& outlets)
+    : ports_(std::move(ports))
+    , clock_(clock)
+    , calendarDays_(calendarDays)
+    , preferences_(preferences)
+    , serverDates_(serverDates)
+    , stationRefresh_(stationRefresh)
+    , outlets_(outlets)
+{
+}
+
+bool UpdateCheck::isDueAtStart() const
+{
+    const auto& lastCheck = preferences_.PREF_DATE_UPDATE_LAST_APPCHECK;
+    return !lastCheck || calendarDays_.dateComparisonWithPreviousDays(*lastCheck, clock_.now(), 1);
+}
+
+void UpdateCheck::checkUpdate()
+{
+    preferences_.PREF_DATE_UPDATE_LAST_APPCHECK = clock_.now();
+    preferences_.updatePreference();
+    updaterApp = AppUpdater::create(ports_, versions);
+    if (observer_)
+        observer_(updaterApp);
+    serverDates_.DATE_UPDATED_APP = updaterApp->updateApp;
+    serverDates_.DATE_UPDATED_DATA = updaterApp->updateData;
+    if (!updaterApp->checkUpdate())
+        showNotification();
+    if (stationRefresh_.isDue())
+        stationRefresh_.chekNewRadioOnLine();
+}
+
+/// Seen after a check on demand alone: at the start the window is not connected yet.
+void UpdateCheck::showNotification()
+{
+    outlets_.labelUpdateNotification.setStringValue(ports_.localizedStrings.localizedStringForKey(
+        updaterApp->hasUsableAnswer() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER"));
+    outlets_.winUpdateNotification.setIsVisible(true);
+}
+
+} // namespace sonavel

@@ -1,0 +1,58 @@
+// The check for a newer version, as the program makes it at the start and on demand.
+#pragma once
+
+#include "online/AppUpdater.h"
+
+#include <functional>
+#include <memory>
+
+namespace sonavel {
+
+class CalendarDays;
+class Clock;
+class Preferences;
+class StationRefresh;
+struct Outlets;
+struct ServerDates;
+
+/// Main thread. Borrows everything it is given but the updater's ports.
+class UpdateCheck {
+public:
+    UpdateCheck(UpdaterPorts ports, const Clock& clock, const CalendarDays& calendarDays, Preferences& preferences,
+        ServerDates& serverDates, StationRefresh& stationRefresh, Outlets& outlets);
+    UpdateCheck(const UpdateCheck&) = delete;
+    UpdateCheck& operator=(const UpdateCheck&) = delete;
+    ~UpdateCheck() = default;
+
+    /// The checker of the last check; absent before the first. Its window goes when the next check replaces it.
+    std::shared_ptr<AppUpdater> updaterApp;
+    Versions versions;
+
+    /// Whether the start is to make a check: none was made yet, or the last one on the day before. 23 hours 30 minutes
+    /// before now decide which day that is.
+    [[nodiscard]] bool isDueAtStart() const;
+
+    /// Stores the moment of the check, asks the server, takes over its dates, shows what was found, and refreshes the
+    /// station list when the server's is newer. Blocks while it asks.
+    void checkUpdate();
+
+    /// Hears of every new checker, to wire its controls.
+    void setObserver(std::function<void(const std::shared_ptr<AppUpdater>&)> observer)
+    {
+        observer_ = std::move(observer);
+    }
+
+private:
+    void showNotification();
+
+    const UpdaterPorts ports_;
+    const Clock& clock_;
+    const CalendarDays& calendarDays_;
+    Preferences& preferences_;
+    ServerDates& serverDates_;
+    StationRefresh& stationRefresh_;
+    Outlets& outlets_;
+    std::function<void(const std::shared_ptr<AppUpdater>&)> observer_;
+};
+
+} // namespace sonavel

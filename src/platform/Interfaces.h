@@ -1,0 +1,43 @@
+// Windows that are built from their descriptions while the program runs.
+#pragma once
+
+#include <memory>
+
+namespace sonavel {
+
+class Button;
+class TextField;
+class Window;
+
+/// The controls that the description "AppUpdater" connects. They belong to the checker that asks for it.
+struct UpdaterControls {
+    Window& windowUpdater;
+    TextField& textFieldLabelUpdateNameApp;
+    TextField& textFieldLabelUpdateVersionNote;
+    TextField& textViewRelaseNote;
+    Button& buttonUpdate;
+    Button& buttonRemind;
+};
+
+/// The window that was built; destroying it takes the window off the screen and disconnects its controls.
+class LoadedInterface {
+public:
+    LoadedInterface() = default;
+    LoadedInterface(const LoadedInterface&) = delete;
+    LoadedInterface& operator=(const LoadedInterface&) = delete;
+    virtual ~LoadedInterface() = default;
+};
+
+class Interfaces {
+public:
+    Interfaces() = default;
+    Interfaces(const Interfaces&) = delete;
+    Interfaces& operator=(const Interfaces&) = delete;
+    virtual ~Interfaces() = default;
+
+    /// Builds the window that tells of a newer version, hidden, and connects the controls, which have to outlive what
+    /// is answered. Also before the main window exists.
+    [[nodiscard]] virtual std::unique_ptr<LoadedInterface> loadAppUpdater(const UpdaterControls& owner) = 0;
+};
+
+} // namespace sonavel

@@ -1,0 +1,19 @@
+// The user's web browser.
+#pragma once
+
+#include "base/Text.h"
+
+namespace sonavel {
+
+class WebBrowser {
+public:
+    WebBrowser() = default;
+    WebBrowser(const WebBrowser&) = delete;
+    WebBrowser& operator=(const WebBrowser&) = delete;
+    virtual ~WebBrowser() = default;
+
+    /// Opens a complete http or https address and returns at once; whether the browser shows it is not known.
+    virtual void openAddress(const Text& address) = 0;
+};
+
+} // namespace sonavel
