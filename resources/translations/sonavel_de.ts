@@ -279,6 +279,98 @@
         <source>E&amp;xport…</source>
         <translation>E&amp;xportieren…</translation>
     </message>
+    <message id="WIN_PREFERENCES">
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="CHECK_PLAY_AT_START">
+        <source>Play the default station when Sonavel starts</source>
+        <translation>Beim Start von Sonavel den Standardsender abspielen</translation>
+    </message>
+    <message id="CHECK_PLAY_WHEN_CHOSEN">
+        <source>Play a station as soon as it is chosen</source>
+        <translation>Einen Sender abspielen, sobald er gewählt ist</translation>
+    </message>
+    <message id="LABEL_DEFAULT_STATION">
+        <source>Default station</source>
+        <translation>Standardsender</translation>
+    </message>
+    <message id="LABEL_DEFAULT_VOLUME">
+        <source>Default volume</source>
+        <translation>Standardlautstärke</translation>
+    </message>
+    <message id="HINT_DEFAULT_STATION">
+        <source>The station that is chosen when Sonavel starts</source>
+        <translation>Der Sender, der beim Start von Sonavel gewählt ist</translation>
+    </message>
+    <message id="HINT_DEFAULT_VOLUME">
+        <source>How loud Sonavel is when it starts</source>
+        <translation>Wie laut Sonavel beim Start ist</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="WIN_UPDATE">
+        <source>Software Update</source>
+        <translation>Softwareaktualisierung</translation>
+    </message>
+    <message id="UPD_NEW_UPDATE_AVIABLE">
+        <source>has a new version</source>
+        <translation>gibt es in einer neuen Version</translation>
+    </message>
+    <message id="UPD_INFO">
+        <source>is available. You have</source>
+        <translation>ist verfügbar. Sie haben</translation>
+    </message>
+    <message id="UPDATE_NONE">
+        <source>You have the newest version.</source>
+        <translation>Sie haben die neueste Version.</translation>
+    </message>
+    <message id="UPDATE_NO_ANSWER">
+        <source>The server gave no usable answer. Try again later.</source>
+        <translation>Der Server hat keine brauchbare Antwort gegeben. Bitte versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message id="BUTTON_DOWNLOAD">
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message id="BUTTON_REMIND">
+        <source>Remind Me Later</source>
+        <translation>Später erinnern</translation>
+    </message>
+    <message id="RELEASE_NOTES">
+        <source>What is new</source>
+        <translation>Was neu ist</translation>
+    </message>
+    <message id="WIN_ABOUT">
+        <source>About Sonavel</source>
+        <translation>Über Sonavel</translation>
+    </message>
+    <message id="ABOUT_VERSION">
+        <source>Version %@</source>
+        <translation>Version %@</translation>
+    </message>
+    <message id="ABOUT_LICENSE">
+        <source>Free software under the MIT license</source>
+        <translation>Freie Software unter der MIT-Lizenz</translation>
+    </message>
+    <message id="ABOUT_COPYRIGHT">
+        <source>© 2026 The Sonavel developers</source>
+        <translation>© 2026 The Sonavel developers</translation>
+    </message>
+    <message id="MENU_ABOUT">
+        <source>&amp;About Sonavel</source>
+        <translation>&amp;Über Sonavel</translation>
+    </message>
+    <message id="MENU_CHECK_UPDATES">
+        <source>&amp;Check for Updates…</source>
+        <translation>Nach &amp;Aktualisierungen suchen…</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
     <message id="NOW_PLAYING">
         <source>Now playing</source>
         <translation>Jetzt läuft</translation>

@@ -279,6 +279,98 @@
         <source>E&amp;xport…</source>
         <translation>E&amp;xport…</translation>
     </message>
+    <message id="WIN_PREFERENCES">
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="CHECK_PLAY_AT_START">
+        <source>Play the default station when Sonavel starts</source>
+        <translation>Play the default station when Sonavel starts</translation>
+    </message>
+    <message id="CHECK_PLAY_WHEN_CHOSEN">
+        <source>Play a station as soon as it is chosen</source>
+        <translation>Play a station as soon as it is chosen</translation>
+    </message>
+    <message id="LABEL_DEFAULT_STATION">
+        <source>Default station</source>
+        <translation>Default station</translation>
+    </message>
+    <message id="LABEL_DEFAULT_VOLUME">
+        <source>Default volume</source>
+        <translation>Default volume</translation>
+    </message>
+    <message id="HINT_DEFAULT_STATION">
+        <source>The station that is chosen when Sonavel starts</source>
+        <translation>The station that is chosen when Sonavel starts</translation>
+    </message>
+    <message id="HINT_DEFAULT_VOLUME">
+        <source>How loud Sonavel is when it starts</source>
+        <translation>How loud Sonavel is when it starts</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="WIN_UPDATE">
+        <source>Software Update</source>
+        <translation>Software Update</translation>
+    </message>
+    <message id="UPD_NEW_UPDATE_AVIABLE">
+        <source>has a new version</source>
+        <translation>has a new version</translation>
+    </message>
+    <message id="UPD_INFO">
+        <source>is available. You have</source>
+        <translation>is available. You have</translation>
+    </message>
+    <message id="UPDATE_NONE">
+        <source>You have the newest version.</source>
+        <translation>You have the newest version.</translation>
+    </message>
+    <message id="UPDATE_NO_ANSWER">
+        <source>The server gave no usable answer. Try again later.</source>
+        <translation>The server gave no usable answer. Try again later.</translation>
+    </message>
+    <message id="BUTTON_DOWNLOAD">
+        <source>Download</source>
+        <translation>Download</translation>
+    </message>
+    <message id="BUTTON_REMIND">
+        <source>Remind Me Later</source>
+        <translation>Remind Me Later</translation>
+    </message>
+    <message id="RELEASE_NOTES">
+        <source>What is new</source>
+        <translation>What is new</translation>
+    </message>
+    <message id="WIN_ABOUT">
+        <source>About Sonavel</source>
+        <translation>About Sonavel</translation>
+    </message>
+    <message id="ABOUT_VERSION">
+        <source>Version %@</source>
+        <translation>Version %@</translation>
+    </message>
+    <message id="ABOUT_LICENSE">
+        <source>Free software under the MIT license</source>
+        <translation>Free software under the MIT license</translation>
+    </message>
+    <message id="ABOUT_COPYRIGHT">
+        <source>© 2026 The Sonavel developers</source>
+        <translation>© 2026 The Sonavel developers</translation>
+    </message>
+    <message id="MENU_ABOUT">
+        <source>&amp;About Sonavel</source>
+        <translation>&amp;About Sonavel</translation>
+    </message>
+    <message id="MENU_CHECK_UPDATES">
+        <source>&amp;Check for Updates…</source>
+        <translation>&amp;Check for Updates…</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Preferences…</translation>
+    </message>
     <message id="NOW_PLAYING">
         <source>Now playing</source>
         <translation>Now playing</translation>

@@ -279,6 +279,98 @@
         <source>E&amp;xport…</source>
         <translation>E&amp;xportar…</translation>
     </message>
+    <message id="WIN_PREFERENCES">
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message id="CHECK_PLAY_AT_START">
+        <source>Play the default station when Sonavel starts</source>
+        <translation>Reproducir la emisora predeterminada al iniciar Sonavel</translation>
+    </message>
+    <message id="CHECK_PLAY_WHEN_CHOSEN">
+        <source>Play a station as soon as it is chosen</source>
+        <translation>Reproducir una emisora en cuanto se elige</translation>
+    </message>
+    <message id="LABEL_DEFAULT_STATION">
+        <source>Default station</source>
+        <translation>Emisora predeterminada</translation>
+    </message>
+    <message id="LABEL_DEFAULT_VOLUME">
+        <source>Default volume</source>
+        <translation>Volumen predeterminado</translation>
+    </message>
+    <message id="HINT_DEFAULT_STATION">
+        <source>The station that is chosen when Sonavel starts</source>
+        <translation>La emisora que está elegida al iniciar Sonavel</translation>
+    </message>
+    <message id="HINT_DEFAULT_VOLUME">
+        <source>How loud Sonavel is when it starts</source>
+        <translation>El nivel del sonido al iniciar Sonavel</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="WIN_UPDATE">
+        <source>Software Update</source>
+        <translation>Actualización de software</translation>
+    </message>
+    <message id="UPD_NEW_UPDATE_AVIABLE">
+        <source>has a new version</source>
+        <translation>tiene una versión nueva</translation>
+    </message>
+    <message id="UPD_INFO">
+        <source>is available. You have</source>
+        <translation>está disponible. Usted tiene</translation>
+    </message>
+    <message id="UPDATE_NONE">
+        <source>You have the newest version.</source>
+        <translation>Tiene la versión más reciente.</translation>
+    </message>
+    <message id="UPDATE_NO_ANSWER">
+        <source>The server gave no usable answer. Try again later.</source>
+        <translation>El servidor no ha dado una respuesta utilizable. Vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message id="BUTTON_DOWNLOAD">
+        <source>Download</source>
+        <translation>Descargar</translation>
+    </message>
+    <message id="BUTTON_REMIND">
+        <source>Remind Me Later</source>
+        <translation>Recordármelo más tarde</translation>
+    </message>
+    <message id="RELEASE_NOTES">
+        <source>What is new</source>
+        <translation>Novedades</translation>
+    </message>
+    <message id="WIN_ABOUT">
+        <source>About Sonavel</source>
+        <translation>Acerca de Sonavel</translation>
+    </message>
+    <message id="ABOUT_VERSION">
+        <source>Version %@</source>
+        <translation>Versión %@</translation>
+    </message>
+    <message id="ABOUT_LICENSE">
+        <source>Free software under the MIT license</source>
+        <translation>Software libre con licencia MIT</translation>
+    </message>
+    <message id="ABOUT_COPYRIGHT">
+        <source>© 2026 The Sonavel developers</source>
+        <translation>© 2026 The Sonavel developers</translation>
+    </message>
+    <message id="MENU_ABOUT">
+        <source>&amp;About Sonavel</source>
+        <translation>&amp;Acerca de Sonavel</translation>
+    </message>
+    <message id="MENU_CHECK_UPDATES">
+        <source>&amp;Check for Updates…</source>
+        <translation>&amp;Buscar actualizaciones…</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Preferencias…</translation>
+    </message>
     <message id="NOW_PLAYING">
         <source>Now playing</source>
         <translation>Suena ahora</translation>

@@ -279,6 +279,98 @@
         <source>E&amp;xport…</source>
         <translation>E&amp;xporter…</translation>
     </message>
+    <message id="WIN_PREFERENCES">
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message id="CHECK_PLAY_AT_START">
+        <source>Play the default station when Sonavel starts</source>
+        <translation>Écouter la station par défaut au démarrage de Sonavel</translation>
+    </message>
+    <message id="CHECK_PLAY_WHEN_CHOSEN">
+        <source>Play a station as soon as it is chosen</source>
+        <translation>Écouter une station dès qu’elle est choisie</translation>
+    </message>
+    <message id="LABEL_DEFAULT_STATION">
+        <source>Default station</source>
+        <translation>Station par défaut</translation>
+    </message>
+    <message id="LABEL_DEFAULT_VOLUME">
+        <source>Default volume</source>
+        <translation>Volume par défaut</translation>
+    </message>
+    <message id="HINT_DEFAULT_STATION">
+        <source>The station that is chosen when Sonavel starts</source>
+        <translation>La station choisie au démarrage de Sonavel</translation>
+    </message>
+    <message id="HINT_DEFAULT_VOLUME">
+        <source>How loud Sonavel is when it starts</source>
+        <translation>Le niveau du son au démarrage de Sonavel</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="WIN_UPDATE">
+        <source>Software Update</source>
+        <translation>Mise à jour du logiciel</translation>
+    </message>
+    <message id="UPD_NEW_UPDATE_AVIABLE">
+        <source>has a new version</source>
+        <translation>a une nouvelle version</translation>
+    </message>
+    <message id="UPD_INFO">
+        <source>is available. You have</source>
+        <translation>est disponible. Vous avez</translation>
+    </message>
+    <message id="UPDATE_NONE">
+        <source>You have the newest version.</source>
+        <translation>Vous avez la version la plus récente.</translation>
+    </message>
+    <message id="UPDATE_NO_ANSWER">
+        <source>The server gave no usable answer. Try again later.</source>
+        <translation>Le serveur n’a pas donné de réponse utilisable. Réessayez plus tard.</translation>
+    </message>
+    <message id="BUTTON_DOWNLOAD">
+        <source>Download</source>
+        <translation>Télécharger</translation>
+    </message>
+    <message id="BUTTON_REMIND">
+        <source>Remind Me Later</source>
+        <translation>Me le rappeler plus tard</translation>
+    </message>
+    <message id="RELEASE_NOTES">
+        <source>What is new</source>
+        <translation>Nouveautés</translation>
+    </message>
+    <message id="WIN_ABOUT">
+        <source>About Sonavel</source>
+        <translation>À propos de Sonavel</translation>
+    </message>
+    <message id="ABOUT_VERSION">
+        <source>Version %@</source>
+        <translation>Version %@</translation>
+    </message>
+    <message id="ABOUT_LICENSE">
+        <source>Free software under the MIT license</source>
+        <translation>Logiciel libre sous licence MIT</translation>
+    </message>
+    <message id="ABOUT_COPYRIGHT">
+        <source>© 2026 The Sonavel developers</source>
+        <translation>© 2026 The Sonavel developers</translation>
+    </message>
+    <message id="MENU_ABOUT">
+        <source>&amp;About Sonavel</source>
+        <translation>À &amp;propos de Sonavel</translation>
+    </message>
+    <message id="MENU_CHECK_UPDATES">
+        <source>&amp;Check for Updates…</source>
+        <translation>&amp;Rechercher des mises à jour…</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source>&amp;Preferences…</source>
+        <translation>Pré&amp;férences…</translation>
+    </message>
     <message id="NOW_PLAYING">
         <source>Now playing</source>
         <translation>En cours</translation>

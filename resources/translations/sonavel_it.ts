@@ -279,6 +279,98 @@
         <source>E&amp;xport…</source>
         <translation>&amp;Esporta…</translation>
     </message>
+    <message id="WIN_PREFERENCES">
+        <source>Preferences</source>
+        <translation>Preferenze</translation>
+    </message>
+    <message id="CHECK_PLAY_AT_START">
+        <source>Play the default station when Sonavel starts</source>
+        <translation>Riproduci la stazione predefinita all’avvio di Sonavel</translation>
+    </message>
+    <message id="CHECK_PLAY_WHEN_CHOSEN">
+        <source>Play a station as soon as it is chosen</source>
+        <translation>Riproduci una stazione appena viene scelta</translation>
+    </message>
+    <message id="LABEL_DEFAULT_STATION">
+        <source>Default station</source>
+        <translation>Stazione predefinita</translation>
+    </message>
+    <message id="LABEL_DEFAULT_VOLUME">
+        <source>Default volume</source>
+        <translation>Volume predefinito</translation>
+    </message>
+    <message id="HINT_DEFAULT_STATION">
+        <source>The station that is chosen when Sonavel starts</source>
+        <translation>La stazione scelta all’avvio di Sonavel</translation>
+    </message>
+    <message id="HINT_DEFAULT_VOLUME">
+        <source>How loud Sonavel is when it starts</source>
+        <translation>Il livello del suono all’avvio di Sonavel</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message id="WIN_UPDATE">
+        <source>Software Update</source>
+        <translation>Aggiornamento software</translation>
+    </message>
+    <message id="UPD_NEW_UPDATE_AVIABLE">
+        <source>has a new version</source>
+        <translation>ha una nuova versione</translation>
+    </message>
+    <message id="UPD_INFO">
+        <source>is available. You have</source>
+        <translation>è disponibile. Hai</translation>
+    </message>
+    <message id="UPDATE_NONE">
+        <source>You have the newest version.</source>
+        <translation>Hai la versione più recente.</translation>
+    </message>
+    <message id="UPDATE_NO_ANSWER">
+        <source>The server gave no usable answer. Try again later.</source>
+        <translation>Il server non ha dato una risposta utilizzabile. Riprova più tardi.</translation>
+    </message>
+    <message id="BUTTON_DOWNLOAD">
+        <source>Download</source>
+        <translation>Scarica</translation>
+    </message>
+    <message id="BUTTON_REMIND">
+        <source>Remind Me Later</source>
+        <translation>Ricordamelo più tardi</translation>
+    </message>
+    <message id="RELEASE_NOTES">
+        <source>What is new</source>
+        <translation>Novità</translation>
+    </message>
+    <message id="WIN_ABOUT">
+        <source>About Sonavel</source>
+        <translation>Informazioni su Sonavel</translation>
+    </message>
+    <message id="ABOUT_VERSION">
+        <source>Version %@</source>
+        <translation>Versione %@</translation>
+    </message>
+    <message id="ABOUT_LICENSE">
+        <source>Free software under the MIT license</source>
+        <translation>Software libero con licenza MIT</translation>
+    </message>
+    <message id="ABOUT_COPYRIGHT">
+        <source>© 2026 The Sonavel developers</source>
+        <translation>© 2026 The Sonavel developers</translation>
+    </message>
+    <message id="MENU_ABOUT">
+        <source>&amp;About Sonavel</source>
+        <translation>&amp;Informazioni su Sonavel</translation>
+    </message>
+    <message id="MENU_CHECK_UPDATES">
+        <source>&amp;Check for Updates…</source>
+        <translation>Cerca &amp;aggiornamenti…</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Preferenze…</translation>
+    </message>
     <message id="NOW_PLAYING">
         <source>Now playing</source>
         <translation>In onda</translation>

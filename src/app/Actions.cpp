@@ -93,7 +93,8 @@ void Actions::wireItems()
     wire(
         outlets_.menuPreferences.action, OpenCell::Stays, [](Controller& c) { c.preferencesWindow.showPreferences(); });
     wire(outlets_.menuAbout.action, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.makeKeyAndOrderFront(); });
-    wire(outlets_.winAbout.action, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.setIsVisible(false); });
+    for (Action* closing : {&outlets_.buttonCloseAbout.action, &outlets_.winAbout.action})
+        wire(*closing, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.setIsVisible(false); });
 }
 
 void Actions::wire(Action& action, OpenCell openCell, std::function<void(Controller&)> operation)

@@ -83,7 +83,6 @@ void WinSonavelController::showPreferences()
     outlets_.sliderDefaultVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
     outlets_.sliderVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
     outlets_.tableViewListRadio.setAllowsMultipleSelection(preferences.PREF_ENABLE_MULTIPLE_SELECTION);
-    outlets_.tableViewListRadio.setDoubleAction([this] { editorTable.myDoubleClickAction(); });
     outlets_.tableViewListRadio.reloadData();
 }
 

@@ -5,34 +5,15 @@
 namespace sonavel {
 
 EditSheetDialog::EditSheetDialog(QWidget& editor)
-    : QDialog(&editor)
-    , description_(std::make_unique<Ui::EditSheet>())
+    : ProgramDialog(&editor)
 {
-    description_->setupUi(this);
-    description_->buttons->addButton(description_->buttonAction, QDialogButtonBox::AcceptRole);
-    description_->buttons->addButton(description_->buttonCancel, QDialogButtonBox::RejectRole);
-    description_->buttonAction->reserveRoomFor({qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")});
-
-    const int line = fontMetrics().height();
-    description_->rows->setContentsMargins(line, line, line, line);
-    description_->rows->setSpacing(line * 3 / 4);
-    description_->fields->setHorizontalSpacing(line * 3 / 4);
-    description_->fields->setVerticalSpacing(line * 5 / 8);
-    for (QLineEdit* field : {description_->textFieldRadioName, description_->textFieldRadioLink}) {
-        field->setMinimumHeight(line * 7 / 4);
-        field->setTextMargins(line / 4, 0, line / 4, 0);
-    }
-    for (QPushButton* button : {static_cast<QPushButton*>(description_->buttonAction), description_->buttonCancel})
-        button->setMinimumHeight(line * 2);
-    setMinimumSize(minimumSizeHint());
-    resize(line * 30, minimumHeight());
-}
-
-EditSheetDialog::~EditSheetDialog() = default;
-
-void EditSheetDialog::reject()
-{
-    description_->buttonCancel->click();
+    Ui::EditSheet description;
+    description.setupUi(this);
+    description.buttons->addButton(description.buttonAction, QDialogButtonBox::AcceptRole);
+    description.buttons->addButton(description.buttonCancel, QDialogButtonBox::RejectRole);
+    description.buttonAction->reserveRoomFor({qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")});
+    takeProportions();
+    resize(fontMetrics().height() * 30, minimumHeight());
 }
 
 } // namespace sonavel

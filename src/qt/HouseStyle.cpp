@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QStyleFactory>
+#include <QStyleOptionButton>
 #include <QTableView>
 
 namespace sonavel {
@@ -23,6 +24,18 @@ int HouseStyle::styleHint(
     default:
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }
+}
+
+/// The outline is made of the window's colour, a little darker, which is not seen where that is dark already.
+void HouseStyle::drawPrimitive(
+    PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != PE_IndicatorCheckBox || button == nullptr)
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    QStyleOptionButton outlined = *button;
+    outlined.palette.setColor(QPalette::Window, button->palette.color(QPalette::PlaceholderText));
+    QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
 }
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

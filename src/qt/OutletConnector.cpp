@@ -1,8 +1,10 @@
 #include "qt/OutletConnector.h"
 
+#include "platform/Interfaces.h"
 #include "qt/ButtonBinder.h"
 #include "qt/LabelBinder.h"
 #include "qt/MenuItemBinder.h"
+#include "qt/NotesBinder.h"
 #include "qt/PopUpBinder.h"
 #include "qt/ProgramMenus.h"
 #include "qt/SliderBinder.h"
@@ -59,6 +61,8 @@ void connect(TextField& outlet, QWidget& window, const char* name)
         new TextFieldBinder(outlet, *typed);
     else if (auto* status = dynamic_cast<StatusLine*>(&widget))
         new StatusLineBinder(outlet, *status);
+    else if (auto* notes = dynamic_cast<QPlainTextEdit*>(&widget))
+        new NotesBinder(outlet, *notes);
     else
         new LabelBinder(outlet, objectNamed<QLabel>(window, name));
 }
@@ -73,6 +77,36 @@ void connect(ToolbarItem& outlet, QWidget& window, const char* name)
 void connect(Toolbar& outlet, QWidget& window, const char* name)
 {
     outlet.connect({objectNamed<QToolBar>(window, name).isVisibleTo(&window)});
+}
+
+void connectStationListWindowBeforehand(Outlets& outlets)
+{
+    outlets.winWebRadioListEdit.connect({translated("WIN_EDIT_RADIO_LIST")});
+    outlets.toolBar.connect({true});
+    int tag = 0;
+    for (ToolbarItem* item :
+        {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
+        item->connect({tag++, false});
+    outlets.tableViewListRadio.connect({});
+    outlets.labelListStatus.connect({Text("")});
+
+    outlets.winEditData.connect({translated("WIN_EDIT_DATA")});
+    outlets.textFieldRadioName.connect({Text("")});
+    outlets.textFieldRadioLink.connect({Text("")});
+    outlets.buttonAction.connect({translated("BUTTON_ADD"), TitleColor::Black, {}, true});
+    outlets.buttonCancel.connect({translated("BUTTON_CANCEL"), TitleColor::Black, {}, true});
+}
+
+void connectPreferencesBeforehand(Outlets& outlets)
+{
+    outlets.winPreferences.connect({translated("WIN_PREFERENCES")});
+    outlets.checkBoxDefaultAutoPlayAtStartApp.connect({translated("CHECK_PLAY_AT_START"), TitleColor::Black, {}, true});
+    outlets.checkBoxDefaultAutoPlay.connect({translated("CHECK_PLAY_WHEN_CHOSEN"), TitleColor::Black, {}, true});
+    outlets.labelSetDeaultRadio.connect({translated("LABEL_DEFAULT_STATION")});
+    outlets.popupDefaultButtonListRadio.connect({nullptr, -1, true});
+    outlets.labelSetDefaultVolume.connect({translated("LABEL_DEFAULT_VOLUME")});
+    outlets.sliderDefaultVolume.connect({0.0, 1.0, 0.0, true});
+    outlets.buttonClosePreferences.connect({translated("BUTTON_CLOSE"), TitleColor::Black, {}, true});
 }
 
 } // namespace
@@ -111,28 +145,60 @@ void connectEditSheet(Outlets& outlets, QWidget& sheet)
     connect(outlets.buttonCancel, sheet, "buttonCancel");
 }
 
-void connectStationListWindowBeforehand(Outlets& outlets)
+void connectPreferences(Outlets& outlets, QWidget& sheet)
 {
-    outlets.winWebRadioListEdit.connect({translated("WIN_EDIT_RADIO_LIST")});
-    outlets.toolBar.connect({true});
-    int tag = 0;
-    for (ToolbarItem* item :
-        {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
-        item->connect({tag++, false});
-    outlets.tableViewListRadio.connect({});
-    outlets.labelListStatus.connect({Text("")});
+    connect(outlets.winPreferences, sheet, "winPreferences");
+    connect(outlets.checkBoxDefaultAutoPlayAtStartApp, sheet, "checkBoxDefaultAutoPlayAtStartApp");
+    connect(outlets.checkBoxDefaultAutoPlay, sheet, "checkBoxDefaultAutoPlay");
+    connect(outlets.labelSetDeaultRadio, sheet, "labelSetDeaultRadio");
+    connect(outlets.popupDefaultButtonListRadio, sheet, "popupDefaultButtonListRadio");
+    connect(outlets.labelSetDefaultVolume, sheet, "labelSetDefaultVolume");
+    connect(outlets.sliderDefaultVolume, sheet, "sliderDefaultVolume");
+    connect(outlets.buttonClosePreferences, sheet, "buttonClosePreferences");
+}
 
-    outlets.winEditData.connect({translated("WIN_EDIT_DATA")});
-    outlets.textFieldRadioName.connect({Text("")});
-    outlets.textFieldRadioLink.connect({Text("")});
-    outlets.buttonAction.connect({translated("BUTTON_ADD"), TitleColor::Black, {}, true});
-    outlets.buttonCancel.connect({translated("BUTTON_CANCEL"), TitleColor::Black, {}, true});
+void connectAboutWindow(Outlets& outlets, QWidget& window)
+{
+    connect(outlets.winAbout, window, "winAbout");
+    connect(outlets.labelAppName, window, "labelAppName");
+    connect(outlets.labelAppVersion, window, "labelAppVersion");
+    connect(outlets.labelAppLicense, window, "labelAppLicense");
+    connect(outlets.labelAppCopytight, window, "labelAppCopytight");
+    connect(outlets.buttonCloseAbout, window, "buttonCloseAbout");
+}
+
+void connectUpdateNotice(Outlets& outlets, QWidget& window)
+{
+    connect(outlets.winUpdateNotification, window, "winUpdateNotification");
+    connect(outlets.labelUpdateNotification, window, "labelUpdateNotification");
+    connect(outlets.buttonCloseNotification, window, "buttonCloseNotification");
+}
+
+void connectUpdateWindow(const UpdaterControls& controls, QWidget& window)
+{
+    connect(controls.windowUpdater, window, "windowUpdater");
+    connect(controls.textFieldLabelUpdateNameApp, window, "textFieldLabelUpdateNameApp");
+    connect(controls.textFieldLabelUpdateVersionNote, window, "textFieldLabelUpdateVersionNote");
+    connect(controls.textViewRelaseNote, window, "textViewRelaseNote");
+    connect(controls.buttonUpdate, window, "buttonUpdate");
+    connect(controls.buttonRemind, window, "buttonRemind");
+}
+
+void connectBeforehand(Outlets& outlets)
+{
+    connectStationListWindowBeforehand(outlets);
+    connectPreferencesBeforehand(outlets);
+    outlets.winAbout.connect({translated("WIN_ABOUT")});
+    outlets.winUpdateNotification.connect({translated("WIN_UPDATE")});
+    outlets.labelUpdateNotification.connect({Text("")});
 }
 
 void connectMenus(Outlets& outlets, const ProgramMenus& menus)
 {
     const std::initializer_list<std::pair<MenuItem&, const char*>> items{{outlets.menuQuit, "menuQuit"},
-        {outlets.menuPlayPause, "menuPlayPause"}, {outlets.menuStop, "menuStop"}, {outlets.menuMute, "menuMute"},
+        {outlets.menuAbout, "menuAbout"}, {outlets.menuCheckUpdates, "menuCheckUpdates"},
+        {outlets.menuPreferences, "menuPreferences"}, {outlets.menuPlayPause, "menuPlayPause"},
+        {outlets.menuStop, "menuStop"}, {outlets.menuMute, "menuMute"},
         {outlets.menuPreviousStation, "menuPreviousStation"}, {outlets.menuNextStation, "menuNextStation"},
         {outlets.menuRadioShowEditRadio, "menuRadioShowEditRadio"}, {outlets.menuRadioAdd, "menuRadioAdd"},
         {outlets.menuRadioEdit, "menuRadioEdit"}, {outlets.menuRadioRemove, "menuRadioRemove"},

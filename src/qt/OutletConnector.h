@@ -16,15 +16,20 @@ public:
 };
 
 class ProgramMenus;
+struct UpdaterControls;
 
 /// Each connects every outlet that belongs to the window, a top-level widget, or to the menus. They throw
 /// MissingOutlet.
 void connectMainWindow(Outlets& outlets, QWidget& window);
 void connectStationListWindow(Outlets& outlets, QWidget& window);
 void connectEditSheet(Outlets& outlets, QWidget& sheet);
-/// For as long as the station list window and its sheet are not built, connects their outlets to what the descriptions
-/// of these windows say. What the program says meanwhile is rendered when the windows are connected.
-void connectStationListWindowBeforehand(Outlets& outlets);
+void connectPreferences(Outlets& outlets, QWidget& sheet);
+void connectAboutWindow(Outlets& outlets, QWidget& window);
+void connectUpdateNotice(Outlets& outlets, QWidget& window);
+void connectUpdateWindow(const UpdaterControls& controls, QWidget& window);
+/// For as long as the windows beside the main window are not built, connects their outlets to what the descriptions of
+/// these windows say. What the program says meanwhile is rendered when the windows are connected.
+void connectBeforehand(Outlets& outlets);
 void connectMenus(Outlets& outlets, const ProgramMenus& menus);
 
 } // namespace sonavel

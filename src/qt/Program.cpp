@@ -15,25 +15,23 @@
 #include "platform/NotificationCenter.h"
 #include "qt/AwaitingHttpClient.h"
 #include "qt/AwakeningSignals.h"
-#include "qt/EditSheetDialog.h"
 #include "qt/FirstPaint.h"
 #include "qt/MainWindow.h"
 #include "qt/MediaPlayerBus.h"
 #include "qt/NowPlayingText.h"
-#include "qt/OutletConnector.h"
-#include "qt/ProgramMenus.h"
+#include "qt/ProgramWindows.h"
 #include "qt/QtAlerts.h"
 #include "qt/QtEventLoop.h"
 #include "qt/QtFilePanels.h"
+#include "qt/QtInterfaces.h"
 #include "qt/QtProcess.h"
 #include "qt/QtRunLoop.h"
+#include "qt/QtWebBrowser.h"
 #include "qt/SaveFailure.h"
 #include "qt/SplashScreen.h"
-#include "qt/StationListWindow.h"
 #include "qt/TerminationSignals.h"
 #include "qt/TextConversion.h"
 #include "qt/TranslatedStrings.h"
-#include "qt/WindowMemory.h"
 #include "server/DataServer.h"
 #include "ui/Outlets.h"
 
@@ -89,14 +87,14 @@ struct Program::Parts {
         , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, outlets)
         , actions(controller, outlets, gate)
         , mediaControls(controller, outlets, actions)
-        , windowMemory(settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
+        , windows(outlets, actions, settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
     {
     }
 
     Ports ports()
     {
-        return {alerts, filePanels, files, httpClient, engine, preferenceDomains, clock, strings, notificationCenter,
-            runLoop, process, {"Sonavel", SONAVEL_VERSION, buildNumber}};
+        return {alerts, filePanels, files, httpClient, interfaces, engine, webBrowser, preferenceDomains, clock,
+            strings, notificationCenter, runLoop, process, {"Sonavel", SONAVEL_VERSION, buildNumber}};
     }
 
     std::unique_ptr<OneInstance> instance; ///< null where nobody else can have the home directory
@@ -106,6 +104,8 @@ struct Program::Parts {
     QtProcess process;
     QtAlerts alerts;
     QtFilePanels filePanels;
+    QtInterfaces interfaces;
+    QtWebBrowser webBrowser;
     QtRunLoop runLoop;
     QtEventLoop eventLoop;
     TranslatedStrings strings;
@@ -124,12 +124,8 @@ struct Program::Parts {
     Actions actions;
     MediaControls mediaControls;
 
-    WindowMemory windowMemory;
+    ProgramWindows windows;
     std::unique_ptr<SplashScreen> splashScreen;
-    std::unique_ptr<ProgramMenus> menus;
-    std::unique_ptr<MainWindow> mainWindow;
-    std::unique_ptr<StationListWindow> stationListWindow;
-    QString earlyNotice; ///< to be told once there is a window
     bool isInitialized = false;
     std::unique_ptr<TerminationSignals> terminationSignals;
     std::unique_ptr<MediaPlayerBus> mediaPlayerBus;
@@ -174,7 +170,8 @@ Program::Program(std::unique_ptr<Parts> parts)
     parts_->httpClient.setSlowRequestObserver(
         [this](const HttpRequest& request) { showWaiting(QUrl(toQString(request.address)).host()); },
         [this] { parts_->splashScreen.reset(); });
-    parts_->files.setWriteFailureObserver([this](const Text& path, const Text& why) { tellSaveFailure(path, why); });
+    parts_->files.setWriteFailureObserver(
+        [this](const Text& path, const Text& why) { parts_->windows.showNotice(saveFailureText(path, why)); });
     parts_->process.beforeExit([this] { leaveWindows(); });
 }
 
@@ -184,37 +181,18 @@ void Program::start(std::function<void()> whenVisible)
 {
     parts_->controller.init();
     parts_->isInitialized = true;
-    buildWindows();
-    afterFirstPaint(*parts_->mainWindow, [this, whenVisible = std::move(whenVisible)] {
+    parts_->windows.buildMainWindow();
+    parts_->appDelegate.window = &parts_->outlets.winSonavel;
+    parts_->engine.setNowPlayingObserver([this](const NowPlaying& nowPlaying) { showNowPlaying(nowPlaying); });
+    afterFirstPaint(*parts_->windows.mainWindow(), [this, whenVisible = std::move(whenVisible)] {
         parts_->engine.start();
-        buildStationListWindow();
+        parts_->windows.buildOtherWindows();
         joinDesktop();
         whenVisible();
     });
     parts_->controller.awakeFromNib();
     parts_->actions.validateItems();
     parts_->appDelegate.applicationDidFinishLaunching();
-}
-
-void Program::buildWindows()
-{
-    parts_->menus = std::make_unique<ProgramMenus>([this] { parts_->actions.validateItems(); });
-    connectMenus(parts_->outlets, *parts_->menus);
-    connectStationListWindowBeforehand(parts_->outlets);
-    buildMainWindow();
-}
-
-void Program::buildMainWindow()
-{
-    parts_->mainWindow = std::make_unique<MainWindow>();
-    MainWindow& window = *parts_->mainWindow;
-    window.addMenus(*parts_->menus);
-    connectMainWindow(parts_->outlets, window);
-    parts_->appDelegate.window = &parts_->outlets.winSonavel;
-    parts_->windowMemory.restore(window);
-    parts_->engine.setNowPlayingObserver([this](const NowPlaying& nowPlaying) { showNowPlaying(nowPlaying); });
-    if (!parts_->earlyNotice.isEmpty())
-        window.showNotice(parts_->earlyNotice);
 }
 
 /// Nothing of it is needed before there is a window.
@@ -233,50 +211,20 @@ void Program::joinDesktop()
 void Program::showNowPlaying(const NowPlaying& nowPlaying)
 {
     const bool sounds = nowPlaying.state == NowPlaying::State::Playing;
-    parts_->mainWindow->showNowPlaying(
+    parts_->windows.mainWindow()->showNowPlaying(
         nowPlayingText(nowPlaying), sounds ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded);
     if (parts_->mediaPlayerBus)
         parts_->mediaPlayerBus->setTitle(onOneLine(toQString(nowPlaying.title)));
 }
 
-/// Takes a sixth of a start, so it waits until the main window is painted, and leaves the keyboard there.
-void Program::buildStationListWindow()
-{
-    parts_->stationListWindow = std::make_unique<StationListWindow>(parts_->outlets.tableViewListRadio);
-    StationListWindow& window = *parts_->stationListWindow;
-    parts_->menus->addTo(window);
-    parts_->windowMemory.restore(window);
-    window.setAttribute(Qt::WA_ShowWithoutActivating);
-    connectStationListWindow(parts_->outlets, window);
-    window.setAttribute(Qt::WA_ShowWithoutActivating, false);
-    window.whenFileDropped([this](const Text& path) {
-        parts_->actions.perform(parts_->stationListWindow.get(),
-            [path](WinSonavelController& controller) { controller.stationImport.importRadioListFromFileAtPath(path); });
-    });
-    auto* sheet = new EditSheetDialog(window);
-    parts_->menus->addKeysTo(*sheet);
-    connectEditSheet(parts_->outlets, *sheet);
-}
-
 /// Only before there is a window; the main window stays painted by itself.
 void Program::showWaiting(const QString& host)
 {
-    if (parts_->mainWindow)
+    if (parts_->windows.mainWindow() != nullptr)
         return;
     if (!parts_->splashScreen)
         parts_->splashScreen = std::make_unique<SplashScreen>();
     parts_->splashScreen->showWaitingFor(qtTrId("SPLASH_WAITING").replace(QStringLiteral("%@"), host));
-}
-
-void Program::tellSaveFailure(const Text& path, const Text& why)
-{
-    const QString notice = saveFailureText(path, why);
-    if (parts_->stationListWindow && parts_->stationListWindow->isVisible())
-        parts_->stationListWindow->showNotice(notice);
-    else if (parts_->mainWindow)
-        parts_->mainWindow->showNotice(notice);
-    else
-        parts_->earlyNotice = notice;
 }
 
 /// As Quit does, without its question. Preferences that are not loaded yet must not be stored.
@@ -290,10 +238,7 @@ void Program::endAsTheSessionDoes()
 
 void Program::leaveWindows()
 {
-    if (parts_->mainWindow)
-        parts_->windowMemory.keep(*parts_->mainWindow);
-    if (parts_->stationListWindow)
-        parts_->windowMemory.keep(*parts_->stationListWindow);
+    parts_->windows.keepPlaces();
     if (parts_->throwAwayHome)
         parts_->throwAwayHome->remove();
 }

@@ -32,13 +32,9 @@ private:
     struct Parts;
     explicit Program(std::unique_ptr<Parts> parts);
 
-    void buildWindows();
-    void buildMainWindow();
-    void buildStationListWindow();
     void joinDesktop();
     void showNowPlaying(const NowPlaying& nowPlaying);
     void showWaiting(const QString& host);
-    void tellSaveFailure(const Text& path, const Text& why);
     void endAsTheSessionDoes();
     void leaveWindows();
 

@@ -11,6 +11,8 @@ namespace sonavel {
 
 namespace {
 
+constexpr int noTag = -1;
+
 struct Item {
     const char* name; ///< null for a line between items
     const char* title = nullptr;
@@ -26,7 +28,10 @@ struct Menu {
 std::array<Menu, 3> layout()
 {
     return {
-        Menu{"MENU_SONAVEL", {{"menuQuit", "MENU_QUIT", 0, {Qt::CTRL | Qt::Key_Q}}}},
+        Menu{"MENU_SONAVEL",
+            {{"menuAbout", "MENU_ABOUT", noTag}, {"menuCheckUpdates", "MENU_CHECK_UPDATES", 4001}, {nullptr},
+                {"menuPreferences", "MENU_PREFERENCES", 4000, {Qt::CTRL | Qt::Key_Comma}}, {nullptr},
+                {"menuQuit", "MENU_QUIT", 0, {Qt::CTRL | Qt::Key_Q}}}},
         {"MENU_PLAYBACK",
             {{"menuPlayPause", "MENU_PLAY_PAUSE", 2000, {Qt::CTRL | Qt::Key_P, Qt::Key_Space}},
                 {"menuStop", "MENU_STOP", 2001, {Qt::CTRL | Qt::Key_Period}},

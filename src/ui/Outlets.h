@@ -78,6 +78,7 @@ struct Outlets {
 
     // What the program tells of itself.
     Window winAbout;
+    Button buttonCloseAbout;
     ImageView imageAppIcon;
     TextField labelAppName;
     TextField labelAppVersion;

@@ -6,7 +6,6 @@
 #include "ui/Rendered.h"
 
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -78,8 +77,6 @@ public:
     }
     /// Hands the edit that the user ended last to the data source.
     void passEditOn();
-    /// What a double click does.
-    void setDoubleAction(std::function<void()> perform) { doubleAction.set(std::move(perform)); }
 
     /// The user selected exactly these rows; `latest` is the one that he touched.
     void selectedByUser(const IndexSet& rows, long latest);
@@ -89,6 +86,7 @@ public:
 
     /// The user selected other rows.
     Action action;
+    /// The user clicked a row twice.
     Action doubleAction;
     /// The user ended the editing of a cell; `passEditOn` is to follow.
     Action editAction;

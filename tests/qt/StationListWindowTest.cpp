@@ -75,7 +75,7 @@ TEST_F(StationListWindowTest, WhatIsSaidOfTheWindowBeforeItIsBuiltIsWhatItSays)
     EditSheetDialog anotherSheet(another);
     connectEditSheet(built, anotherSheet);
     Outlets announced;
-    connectStationListWindowBeforehand(announced);
+    connectBeforehand(announced);
     EXPECT_EQ(announced.winWebRadioListEdit.state(), built.winWebRadioListEdit.state());
     EXPECT_EQ(announced.toolBar.state(), built.toolBar.state());
     EXPECT_EQ(announced.radioAdd.state(), built.radioAdd.state());
@@ -92,7 +92,7 @@ TEST_F(StationListWindowTest, AWindowThatIsBuiltLaterShowsWhatWasSaidMeanwhile)
 {
     Outlets early;
     early.tableViewListRadio.setDataSource(&rows);
-    connectStationListWindowBeforehand(early);
+    connectBeforehand(early);
     early.winWebRadioListEdit.setTitle("Station List (5)");
     early.winWebRadioListEdit.setIsVisible(true);
     early.radioImport.setEnabled(true);

@@ -19,7 +19,7 @@ protected:
         table.setDataSource(&rows);
         table.action.set([this] { ++selections; });
         table.editAction.set([this] { table.passEditOn(); });
-        table.setDoubleAction([this] { ++doubleClicks; });
+        table.doubleAction.set([this] { ++doubleClicks; });
         new TableBinder(table, widget);
         table.setAllowsMultipleSelection(true);
         fill(5);

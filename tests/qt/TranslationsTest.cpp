@@ -38,7 +38,7 @@ Table tableIn(const QString& path)
 QString formOf(const QString& text)
 {
     QString form;
-    static const QRegularExpression mark(QStringLiteral("%[^ ]*[@di]|&(?=\\w)|…"));
+    static const QRegularExpression mark(QStringLiteral("%[^ ]*[@di]|&(?=\\S)|…"));
     for (auto match = mark.globalMatch(text); match.hasNext();)
         form += match.next().captured() + u' ';
     return form;

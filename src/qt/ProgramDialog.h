@@ -1,0 +1,36 @@
+// A small window of the program: a sheet, or one that stands alone.
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace sonavel {
+
+/// Built from its description, whose object names are the names of the outlets. Shown and hidden by the program: Return
+/// presses its default button, Escape and the title bar the button whose property `endsDialog` is set, and nothing else
+/// ends it.
+class ProgramDialog : public QDialog {
+public:
+    explicit ProgramDialog(QWidget* owner = nullptr)
+        : QDialog(owner)
+    {
+    }
+
+    /// A dialog from what the description compiler made of a description.
+    template <class Description> static std::unique_ptr<ProgramDialog> from(QWidget* owner = nullptr)
+    {
+        auto dialog = std::make_unique<ProgramDialog>(owner);
+        Description().setupUi(dialog.get());
+        dialog->takeProportions();
+        return dialog;
+    }
+
+    void reject() override;
+
+protected:
+    /// All distances follow the font.
+    void takeProportions();
+};
+
+} // namespace sonavel

@@ -1,0 +1,116 @@
+#include "qt/ProgramWindows.h"
+
+#include "app/Actions.h"
+#include "app/WinSonavelController.h"
+#include "qt/EditSheetDialog.h"
+#include "qt/Images.h"
+#include "qt/MainWindow.h"
+#include "qt/OutletConnector.h"
+#include "qt/ProgramDialog.h"
+#include "qt/ProgramMenus.h"
+#include "qt/StationListWindow.h"
+#include "ui_AboutWindow.h"
+#include "ui_PreferencesSheet.h"
+#include "ui_UpdateNotice.h"
+
+namespace sonavel {
+
+namespace {
+
+constexpr int iconSize = 64; // pixels of the layout
+constexpr int noticeWidth = 22; // times the height of a line: room for the title too
+
+} // namespace
+
+ProgramWindows::ProgramWindows(Outlets& outlets, Actions& actions, const QString& stateFolder)
+    : outlets_(outlets)
+    , actions_(actions)
+    , memory_(stateFolder)
+{
+}
+
+ProgramWindows::~ProgramWindows() = default;
+
+void ProgramWindows::buildMainWindow()
+{
+    menus_ = std::make_unique<ProgramMenus>([this] { actions_.validateItems(); });
+    connectMenus(outlets_, *menus_);
+    connectBeforehand(outlets_);
+    mainWindow_ = std::make_unique<MainWindow>();
+    mainWindow_->addMenus(*menus_);
+    connectMainWindow(outlets_, *mainWindow_);
+    memory_.restore(*mainWindow_);
+    if (!earlyNotice_.isEmpty())
+        mainWindow_->showNotice(earlyNotice_);
+}
+
+void ProgramWindows::buildOtherWindows()
+{
+    buildStationListWindow();
+    buildPreferences();
+    buildAboutWindow();
+    buildUpdateNotice();
+}
+
+void ProgramWindows::buildStationListWindow()
+{
+    stationListWindow_ = std::make_unique<StationListWindow>(outlets_.tableViewListRadio);
+    StationListWindow& window = *stationListWindow_;
+    menus_->addTo(window);
+    memory_.restore(window);
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    connectStationListWindow(outlets_, window);
+    window.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    window.whenFileDropped([this](const Text& path) {
+        actions_.perform(stationListWindow_.get(),
+            [path](WinSonavelController& controller) { controller.stationImport.importRadioListFromFileAtPath(path); });
+    });
+    auto* sheet = new EditSheetDialog(window);
+    menus_->addKeysTo(*sheet);
+    connectEditSheet(outlets_, *sheet);
+}
+
+void ProgramWindows::buildPreferences()
+{
+    ProgramDialog* sheet = ProgramDialog::from<Ui::PreferencesSheet>(mainWindow_.get()).release();
+    menus_->addKeysTo(*sheet);
+    connectPreferences(outlets_, *sheet);
+}
+
+void ProgramWindows::buildAboutWindow()
+{
+    ProgramDialog& window = *dialogs_.emplace_back(ProgramDialog::from<Ui::AboutWindow>());
+    const auto label = [&window](const char* name) { return window.findChild<QLabel*>(QString::fromLatin1(name)); };
+    label("imageAppIcon")->setPixmap(programIcon().pixmap(iconSize));
+    label("labelAppName")->setText(QStringLiteral("Sonavel"));
+    label("labelAppVersion")
+        ->setText(qtTrId("ABOUT_VERSION").replace(QStringLiteral("%@"), QStringLiteral(SONAVEL_VERSION)));
+    connectAboutWindow(outlets_, window);
+}
+
+void ProgramWindows::buildUpdateNotice()
+{
+    ProgramDialog& window = *dialogs_.emplace_back(ProgramDialog::from<Ui::UpdateNotice>());
+    window.setMinimumWidth(window.fontMetrics().height() * noticeWidth);
+    connectUpdateNotice(outlets_, window);
+}
+
+void ProgramWindows::showNotice(const QString& text)
+{
+    if (stationListWindow_ && stationListWindow_->isVisible())
+        stationListWindow_->showNotice(text);
+    else if (mainWindow_)
+        mainWindow_->showNotice(text);
+    else
+        earlyNotice_ = text;
+}
+
+void ProgramWindows::keepPlaces() const
+{
+    if (mainWindow_)
+        memory_.keep(*mainWindow_);
+    if (stationListWindow_)
+        memory_.keep(*stationListWindow_);
+}
+
+} // namespace sonavel

@@ -1,0 +1,58 @@
+// All windows of the program, with their menus.
+#pragma once
+
+#include "qt/WindowMemory.h"
+
+#include <memory>
+#include <vector>
+
+namespace sonavel {
+
+class Actions;
+class MainWindow;
+class ProgramDialog;
+class ProgramMenus;
+class StationListWindow;
+struct Outlets;
+
+/// The main window is built first, so that it is on the screen as soon as can be; what the program says to the others
+/// meanwhile is rendered once they are there.
+class ProgramWindows {
+public:
+    ProgramWindows(Outlets& outlets, Actions& actions, const QString& stateFolder);
+    ProgramWindows(const ProgramWindows&) = delete;
+    ProgramWindows& operator=(const ProgramWindows&) = delete;
+    ~ProgramWindows();
+
+    /// Between the two phases of the start-up.
+    void buildMainWindow();
+    /// Once the main window is painted: takes longer than it, and leaves the keyboard there.
+    void buildOtherWindows();
+
+    /// Null before it is built.
+    [[nodiscard]] MainWindow* mainWindow() const { return mainWindow_.get(); }
+
+    /// Tells of a failure in the station list window, if that is shown, else in the main window, if need be as soon as
+    /// there is one.
+    void showNotice(const QString& text);
+
+    /// Remembers where the windows are.
+    void keepPlaces() const;
+
+private:
+    void buildStationListWindow();
+    void buildPreferences();
+    void buildAboutWindow();
+    void buildUpdateNotice();
+
+    Outlets& outlets_;
+    Actions& actions_;
+    WindowMemory memory_;
+    std::unique_ptr<ProgramMenus> menus_;
+    std::unique_ptr<MainWindow> mainWindow_;
+    std::unique_ptr<StationListWindow> stationListWindow_;
+    std::vector<std::unique_ptr<ProgramDialog>> dialogs_;
+    QString earlyNotice_;
+};
+
+} // namespace sonavel
