@@ -106,7 +106,7 @@ void MediaControls::raise()
     actions_.perform(&outlets_.winSonavel, [this](Controller&) { outlets_.winSonavel.makeKeyAndOrderFront(); });
 }
 
-void MediaControls::quit()
+void MediaControls::quit() const
 {
     outlets_.winSonavel.closeRequestedByUser();
 }

@@ -57,7 +57,7 @@ public:
     /// Shows the main window.
     void raise();
     /// As Quit does, with its question.
-    void quit();
+    void quit() const;
 
 private:
     void step(bool previous);

@@ -4,8 +4,6 @@
 #include "platform/LocalizedStrings.h"
 #include "ui/Outlets.h"
 
-#include <algorithm>
-
 namespace sonavel {
 
 namespace {
@@ -73,9 +71,11 @@ const std::array rows{
 
 const Row* rowOf(int tag)
 {
-    const auto row =
-        std::find_if(rows.begin(), rows.end(), [tag](const Row& candidate) { return candidate.tag == tag; });
-    return row == rows.end() ? nullptr : &*row;
+    for (const Row& row : rows) {
+        if (row.tag == tag)
+            return &row;
+    }
+    return nullptr;
 }
 
 } // namespace

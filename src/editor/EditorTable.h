@@ -21,7 +21,7 @@ public:
         EditSheet& editSheet, Outlets& outlets);
     EditorTable(const EditorTable&) = delete;
     EditorTable& operator=(const EditorTable&) = delete;
-    ~EditorTable() = default;
+    ~EditorTable() override = default;
 
     [[nodiscard]] long numberOfRowsInTableView(const TableView& tableView) const override;
 

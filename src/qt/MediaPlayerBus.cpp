@@ -35,12 +35,12 @@ MediaPlayerRoot::MediaPlayerRoot(MediaControls& controls, QObject& object)
 {
 }
 
-QString MediaPlayerRoot::identity() const
+QString MediaPlayerRoot::identity()
 {
     return QStringLiteral("Sonavel");
 }
 
-QString MediaPlayerRoot::desktopEntry() const
+QString MediaPlayerRoot::desktopEntry()
 {
     return QStringLiteral("sonavel");
 }

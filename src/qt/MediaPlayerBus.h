@@ -25,13 +25,13 @@ class MediaPlayerRoot : public QDBusAbstractAdaptor {
 public:
     MediaPlayerRoot(MediaControls& controls, QObject& object);
 
-    [[nodiscard]] bool canQuit() const { return true; }
-    [[nodiscard]] bool canRaise() const { return true; }
-    [[nodiscard]] bool hasTrackList() const { return false; }
-    [[nodiscard]] QString identity() const;
-    [[nodiscard]] QString desktopEntry() const;
-    [[nodiscard]] QStringList supportedUriSchemes() const { return {}; }
-    [[nodiscard]] QStringList supportedMimeTypes() const { return {}; }
+    [[nodiscard]] static bool canQuit() { return true; }
+    [[nodiscard]] static bool canRaise() { return true; }
+    [[nodiscard]] static bool hasTrackList() { return false; }
+    [[nodiscard]] static QString identity();
+    [[nodiscard]] static QString desktopEntry();
+    [[nodiscard]] static QStringList supportedUriSchemes() { return {}; }
+    [[nodiscard]] static QStringList supportedMimeTypes() { return {}; }
 
 public slots:
     void Raise() { controls_.raise(); }
@@ -68,16 +68,16 @@ public:
     void update();
 
     [[nodiscard]] QString playbackStatus() const;
-    [[nodiscard]] double rate() const { return 1.0; }
+    [[nodiscard]] static double rate() { return 1.0; }
     void setRate(double) { }
     [[nodiscard]] QVariantMap metadata() const;
     [[nodiscard]] double volume() const { return state_.volume; }
     void setVolume(double volume) { controls_.setVolume(volume); }
-    [[nodiscard]] qlonglong position() const { return 0; }
+    [[nodiscard]] static qlonglong position() { return 0; }
     [[nodiscard]] bool canStep() const { return state_.canStep; }
     [[nodiscard]] bool canPlay() const { return state_.canPlay; }
-    [[nodiscard]] bool canSeek() const { return false; }
-    [[nodiscard]] bool canControl() const { return true; }
+    [[nodiscard]] static bool canSeek() { return false; }
+    [[nodiscard]] static bool canControl() { return true; }
 
 public slots:
     void Next() { controls_.next(); }

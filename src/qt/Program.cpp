@@ -132,9 +132,8 @@ struct Program::Parts {
     std::unique_ptr<AwakeningSignals> awakeningSignals;
 };
 
-std::unique_ptr<Program> Program::create(const Settings& given, std::unique_ptr<OneInstance> instance, QString& whyNot)
+std::unique_ptr<Program> Program::create(Settings settings, std::unique_ptr<OneInstance> instance, QString& whyNot)
 {
-    Settings settings = given;
     std::unique_ptr<QTemporaryDir> throwAwayHome;
     if (settings.home.isEmpty()) {
         throwAwayHome = std::make_unique<QTemporaryDir>();

@@ -33,7 +33,7 @@ Text QtFilePanels::runModal(const OpenPanel& panel)
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilter(qtTrId("PANEL_STATION_LISTS") + QStringLiteral(" (*.%1)").arg(type));
     dialog.setDirectory(folder_);
-    const Text chosen = chosenIn(dialog);
+    Text chosen = chosenIn(dialog);
     if (!chosen.isAbsent())
         folder_ = QFileInfo(toQString(chosen)).absolutePath();
     return chosen;

@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <array>
+
 namespace sonavel {
 
 namespace {
@@ -25,15 +27,15 @@ struct Option {
     const char* meaning;
 };
 
-constexpr Option options[] = {
-    {"home", "DIR", "SONAVEL_HOME", "keep stations and preferences below DIR/Library/Preferences"},
-    {"data-server", "URL", "SONAVEL_DATA_SERVER", "get the stations from this data server"},
-    {"probe", "URL", "SONAVEL_PROBE", "ask this page whether there is an internet connection"},
-    {"demo", nullptr, nullptr, "try the player: own server, own streams, nothing kept"},
-    {"language", "CODE", nullptr, "language of the windows, such as en"},
-    {"appearance", "light|dark", nullptr, "colours of the windows"},
-    {"version", nullptr, nullptr, "print the version"},
-    {"help", nullptr, nullptr, "print this"},
+constexpr std::array options = {
+    Option{"home", "DIR", "SONAVEL_HOME", "keep stations and preferences below DIR/Library/Preferences"},
+    Option{"data-server", "URL", "SONAVEL_DATA_SERVER", "get the stations from this data server"},
+    Option{"probe", "URL", "SONAVEL_PROBE", "ask this page whether there is an internet connection"},
+    Option{"demo", nullptr, nullptr, "try the player: own server, own streams, nothing kept"},
+    Option{"language", "CODE", nullptr, "language of the windows, such as en"},
+    Option{"appearance", "light|dark", nullptr, "colours of the windows"},
+    Option{"version", nullptr, nullptr, "print the version"},
+    Option{"help", nullptr, nullptr, "print this"},
 };
 
 QString helpText()

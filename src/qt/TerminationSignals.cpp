@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 
@@ -10,16 +12,21 @@ namespace sonavel {
 
 namespace {
 
-constexpr int endingSignals[] = {SIGTERM, SIGINT, SIGHUP};
+constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
 
-/// Read end and write end: a signal handler may write, and the loop reads.
-int signalPipe[2] = {-1, -1};
+/// The end of a pipe that a signal handler may write to; the loop reads the other. Initialised before there is any
+/// code that could be interrupted.
+std::atomic<int>& writeEnd()
+{
+    static constinit std::atomic<int> end = -1;
+    return end;
+}
 
 void noteSignal(int)
 {
     const int keptError = errno;
     const char note = 1;
-    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &note, 1);
+    [[maybe_unused]] const ssize_t written = ::write(writeEnd(), &note, 1);
     errno = keptError;
 }
 
@@ -36,14 +43,18 @@ void handleSignalsWith(void (*handler)(int))
 
 TerminationSignals::TerminationSignals(std::function<void()> requested)
 {
-    if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0)
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         return;
-    notifier_ = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [requested = std::move(requested)] {
-        char note = 0;
-        if (::read(signalPipe[0], &note, 1) == 1)
-            requested();
-    });
+    const auto [readEnd, newWriteEnd] = ends;
+    writeEnd() = newWriteEnd;
+    notifier_ = std::make_unique<QSocketNotifier>(readEnd, QSocketNotifier::Read);
+    QObject::connect(
+        notifier_.get(), &QSocketNotifier::activated, [readEnd = readEnd, requested = std::move(requested)] {
+            char note = 0;
+            if (::read(readEnd, &note, 1) == 1)
+                requested();
+        });
     handleSignalsWith(noteSignal);
 }
 
@@ -52,11 +63,10 @@ TerminationSignals::~TerminationSignals()
     if (!notifier_)
         return;
     handleSignalsWith(SIG_DFL);
+    const auto readEnd = static_cast<int>(notifier_->socket());
     notifier_.reset();
-    for (int& end : signalPipe) {
-        ::close(end);
-        end = -1;
-    }
+    ::close(readEnd);
+    ::close(writeEnd().exchange(-1));
 }
 
 } // namespace sonavel

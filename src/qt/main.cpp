@@ -10,14 +10,14 @@
 
 #include <fontconfig/fontconfig.h>
 
-#include <cstdio>
+#include <iostream>
 #include <thread>
 
 namespace {
 
 int print(const sonavel::EndAtOnce& end)
 {
-    std::fprintf(end.status == 0 ? stdout : stderr, "%s\n", qUtf8Printable(end.text));
+    (end.status == 0 ? std::cout : std::cerr) << qUtf8Printable(end.text) << std::endl;
     return end.status;
 }
 
@@ -29,12 +29,12 @@ QStringList withoutName(int argumentCount, char** arguments)
     return list;
 }
 
-void setUpNames(QApplication& application)
+void setUpNames()
 {
-    application.setApplicationName(QStringLiteral("sonavel"));
+    QApplication::setApplicationName(QStringLiteral("sonavel"));
     // No display name: it would be put behind the title of every window.
-    application.setDesktopFileName(QStringLiteral("sonavel"));
-    application.setQuitOnLastWindowClosed(false);
+    QApplication::setDesktopFileName(QStringLiteral("sonavel"));
+    QApplication::setQuitOnLastWindowClosed(false);
 }
 
 /// Whether the desktop brings neither a style nor colours of its own.
@@ -80,7 +80,7 @@ int main(int argumentCount, char** arguments)
     std::jthread fonts([] { FcInit(); });
     int ownArguments = 1; // the options are the program's own, not Qt's
     QApplication application(ownArguments, arguments);
-    setUpNames(application);
+    setUpNames();
     const auto desktop = setUpLooks(settings);
 
     QString whyNot;

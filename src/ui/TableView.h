@@ -18,6 +18,11 @@ class TableView;
 /// fewer.
 class TableViewDataSource {
 public:
+    TableViewDataSource() = default;
+    TableViewDataSource(const TableViewDataSource&) = delete;
+    TableViewDataSource& operator=(const TableViewDataSource&) = delete;
+    virtual ~TableViewDataSource() = default;
+
     [[nodiscard]] virtual long numberOfRowsInTableView(const TableView& tableView) const = 0;
 
     /// What a cell shows; columns go by their identifiers.
@@ -27,9 +32,6 @@ public:
     /// The user ended the editing of a cell.
     virtual void tableView(
         const TableView& tableView, const Text& setObjectValue, std::string_view forTableColumn, long row) = 0;
-
-protected:
-    ~TableViewDataSource() = default;
 };
 
 struct TableViewState {
