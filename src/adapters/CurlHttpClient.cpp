@@ -1,6 +1,6 @@
 #include "adapters/CurlHttpClient.h"
 
-#include <curl/curl.h>
+#include "adapters/CurlLibrary.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -13,9 +13,15 @@ namespace {
 constexpr long mostRedirections = 5;
 constexpr const char* usableSchemes = "http,https";
 
+/// Only where there is one.
+const CurlLibrary& curl()
+{
+    return *CurlLibrary::shared();
+}
+
 struct HandleRelease {
-    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
-    void operator()(curl_slist* headers) const { curl_slist_free_all(headers); }
+    void operator()(CURL* handle) const { curl().easyCleanup(handle); }
+    void operator()(curl_slist* headers) const { curl().slistFreeAll(headers); }
 };
 using Handle = std::unique_ptr<CURL, HandleRelease>;
 using Headers = std::unique_ptr<curl_slist, HandleRelease>;
@@ -69,7 +75,7 @@ std::string hostsWithoutProxy()
 
 template <class Value> void set(const Handle& handle, CURLoption option, Value value)
 {
-    curl_easy_setopt(handle.get(), option, value);
+    curl().easySetopt(handle.get(), option, value);
 }
 
 void setSafety(const Handle& handle)
@@ -102,7 +108,7 @@ void receiveInto(Answer& answer, const Handle& handle)
 
 void appendHeader(Headers& headers, const std::string& line)
 {
-    headers.reset(curl_slist_append(headers.release(), line.c_str()));
+    headers.reset(curl().slistAppend(headers.release(), line.c_str()));
 }
 
 Headers headersOf(const HttpRequest& request)
@@ -128,6 +134,11 @@ void setContent(const Handle& handle, const HttpRequest& request, const Headers&
 
 } // namespace
 
+void CurlHttpClient::loadLibrary()
+{
+    (void)CurlLibrary::shared();
+}
+
 CurlHttpClient::CurlHttpClient(const Text& version)
     : CurlHttpClient(version, Limits())
 {
@@ -141,8 +152,7 @@ CurlHttpClient::CurlHttpClient(const Text& version, const Limits& limits)
 
 std::optional<std::string> CurlHttpClient::sendSynchronousRequest(const HttpRequest& request)
 {
-    static const bool isCurlUsable = curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
-    const Handle handle(isCurlUsable ? curl_easy_init() : nullptr);
+    const Handle handle(CurlLibrary::shared() == nullptr ? nullptr : curl().easyInit());
     if (!handle)
         return std::nullopt;
 
@@ -154,7 +164,7 @@ std::optional<std::string> CurlHttpClient::sendSynchronousRequest(const HttpRequ
     setContent(handle, request, headers);
     set(handle, CURLOPT_USERAGENT, userAgent_.c_str());
     // A connection that ends within the head is an empty body to libcurl.
-    if (curl_easy_perform(handle.get()) != CURLE_OK || !answer.isHeadWhole)
+    if (curl().easyPerform(handle.get()) != CURLE_OK || !answer.isHeadWhole)
         return std::nullopt;
     return std::move(answer.body);
 }

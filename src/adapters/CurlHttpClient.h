@@ -21,6 +21,9 @@ public:
         std::size_t heads = std::size_t{256} << 10U;
     };
 
+    /// Loads the library that the first request needs. Takes some milliseconds; may be called on any thread.
+    static void loadLibrary();
+
     /// `version` is the program's own, for servers to see.
     explicit CurlHttpClient(const Text& version);
     CurlHttpClient(const Text& version, const Limits& limits);

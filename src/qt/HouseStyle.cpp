@@ -1,5 +1,7 @@
 #include "qt/HouseStyle.h"
 
+#include "qt/Images.h"
+
 #include <QHeaderView>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
@@ -36,6 +38,17 @@ void HouseStyle::drawPrimitive(
     QStyleOptionButton outlined = *button;
     outlined.palette.setColor(QPalette::Window, button->palette.color(QPalette::PlaceholderText));
     QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+}
+
+/// Every menu bar asks for the picture of the button that shows what has no room, as good as never to be seen. The
+/// toolkit reads its own from a file, with a plug-in for every format that there is.
+QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
+{
+    if (picture != SP_ToolBarHorizontalExtensionButton || widget == nullptr)
+        return QProxyStyle::standardIcon(picture, option, widget);
+    const QPalette palette = widget->palette();
+    return imageNamed("more.png", palette.color(QPalette::Active, QPalette::ButtonText),
+        palette.color(QPalette::Disabled, QPalette::ButtonText));
 }
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

@@ -16,6 +16,7 @@ public:
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
     void drawPrimitive(
         PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };
 

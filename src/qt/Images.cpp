@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QtMath>
 
+#include <png.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -16,12 +18,29 @@ namespace {
 
 constexpr int sharpestVersion = 3;
 
-/// An image as it was made for that scale of the screen; null when there is none. Says that it is a PNG, because a
-/// guess loads a plug-in for every other format first.
+/// Null when it is no PNG. The toolkit's own way loads a plug-in for every format that there is, which a start would
+/// wait for.
+QImage decodedPng(const QByteArray& bytes)
+{
+    png_image png{};
+    png.version = PNG_IMAGE_VERSION;
+    if (png_image_begin_read_from_memory(&png, bytes.constData(), static_cast<std::size_t>(bytes.size())) == 0)
+        return {};
+    png.format = PNG_FORMAT_RGBA;
+    QImage image(static_cast<int>(png.width), static_cast<int>(png.height), QImage::Format_RGBA8888);
+    if (png_image_finish_read(&png, nullptr, image.bits(), static_cast<png_int_32>(image.bytesPerLine()), nullptr) == 0)
+        return {};
+    return image;
+}
+
+/// An image as it was made for that scale of the screen; null when there is none.
 QPixmap readVersion(const QString& path, int scale)
 {
     const QString ending = scale == 1 ? QStringLiteral(".png") : QStringLiteral("@%1x.png").arg(scale);
-    QPixmap pixmap(path + ending, "PNG");
+    QFile file(path + ending);
+    if (!file.open(QFile::ReadOnly))
+        return {};
+    QPixmap pixmap = QPixmap::fromImage(decodedPng(file.readAll()));
     pixmap.setDevicePixelRatio(scale);
     return pixmap;
 }

@@ -20,11 +20,14 @@ QFont scaled(QFont font, double factor)
 
 } // namespace
 
-MainWindow::MainWindow()
+MainWindow::MainWindow(ProgramMenus* menus)
     : description_(std::make_unique<Ui::MainWindow>())
 {
     description_->setupUi(this);
     setUpProportions();
+    if (menus != nullptr)
+        menus->addTo(*this);
+    setUpSize();
     setUpColors();
     showNowPlaying(qtTrId("NOW_PLAYING_NOTHING"), Emphasis::Faded);
 }
@@ -48,8 +51,6 @@ void MainWindow::setUpProportions()
              description_->buttonMute, description_->buttonEditRadioList})
         button->setMinimumHeight(line * 2);
     description_->popupbuttonRadioList->setMinimumHeight(line * 2 - line / 4);
-
-    setUpSize();
 }
 
 void MainWindow::setUpSize()
@@ -58,12 +59,6 @@ void MainWindow::setUpSize()
     setMinimumSize(smallest);
     setMaximumHeight(smallest.height());
     resize(qMax(smallest.width(), fontMetrics().averageCharWidth() * usualWidth), smallest.height());
-}
-
-void MainWindow::addMenus(ProgramMenus& menus)
-{
-    menus.addTo(*this);
-    setUpSize();
 }
 
 void MainWindow::setUpColors()

@@ -16,11 +16,9 @@ class ProgramMenus;
 /// Built from its description, whose object names are the names of the outlets. Shown by the program, not by itself.
 class MainWindow : public QMainWindow {
 public:
-    MainWindow();
+    /// `menus` may be null, for a window without any.
+    explicit MainWindow(ProgramMenus* menus);
     ~MainWindow() override;
-
-    /// Before the window is shown.
-    void addMenus(ProgramMenus& menus);
 
     /// What is on air, or what keeps it from being so. Faded when `text` is about nothing that plays.
     enum class Emphasis { Faded, Usual };

@@ -180,10 +180,10 @@ void Program::start(std::function<void()> whenVisible)
 {
     parts_->controller.init();
     parts_->isInitialized = true;
-    parts_->windows.buildMainWindow();
+    parts_->windows.connectMainWindow();
     parts_->appDelegate.window = &parts_->outlets.winSonavel;
     parts_->engine.setNowPlayingObserver([this](const NowPlaying& nowPlaying) { showNowPlaying(nowPlaying); });
-    afterFirstPaint(*parts_->windows.mainWindow(), [this, whenVisible = std::move(whenVisible)] {
+    afterFirstPaint(parts_->windows.mainWindow(), [this, whenVisible = std::move(whenVisible)] {
         parts_->engine.start();
         parts_->windows.buildOtherWindows();
         joinDesktop();
@@ -210,7 +210,7 @@ void Program::joinDesktop()
 void Program::showNowPlaying(const NowPlaying& nowPlaying)
 {
     const bool sounds = nowPlaying.state == NowPlaying::State::Playing;
-    parts_->windows.mainWindow()->showNowPlaying(
+    parts_->windows.mainWindow().showNowPlaying(
         nowPlayingText(nowPlaying), sounds ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded);
     if (parts_->mediaPlayerBus)
         parts_->mediaPlayerBus->setTitle(onOneLine(toQString(nowPlaying.title)));
@@ -219,7 +219,7 @@ void Program::showNowPlaying(const NowPlaying& nowPlaying)
 /// Only before there is a window; the main window stays painted by itself.
 void Program::showWaiting(const QString& host)
 {
-    if (parts_->windows.mainWindow() != nullptr)
+    if (parts_->windows.isMainWindowConnected())
         return;
     if (!parts_->splashScreen)
         parts_->splashScreen = std::make_unique<SplashScreen>();

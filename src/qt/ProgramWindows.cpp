@@ -26,22 +26,20 @@ ProgramWindows::ProgramWindows(Outlets& outlets, Actions& actions, const QString
     : outlets_(outlets)
     , actions_(actions)
     , memory_(stateFolder)
+    , menus_(std::make_unique<ProgramMenus>([this] { actions_.validateItems(); }))
+    , mainWindow_(std::make_unique<MainWindow>(menus_.get()))
 {
+    memory_.restore(*mainWindow_);
 }
 
 ProgramWindows::~ProgramWindows() = default;
 
-void ProgramWindows::buildMainWindow()
+void ProgramWindows::connectMainWindow()
 {
-    menus_ = std::make_unique<ProgramMenus>([this] { actions_.validateItems(); });
     connectMenus(outlets_, *menus_);
     connectBeforehand(outlets_);
-    mainWindow_ = std::make_unique<MainWindow>();
-    mainWindow_->addMenus(*menus_);
-    connectMainWindow(outlets_, *mainWindow_);
-    memory_.restore(*mainWindow_);
-    if (!earlyNotice_.isEmpty())
-        mainWindow_->showNotice(earlyNotice_);
+    sonavel::connectMainWindow(outlets_, *mainWindow_);
+    isMainWindowConnected_ = true;
 }
 
 void ProgramWindows::buildOtherWindows()
@@ -99,15 +97,13 @@ void ProgramWindows::showNotice(const QString& text)
 {
     if (stationListWindow_ && stationListWindow_->isVisible())
         stationListWindow_->showNotice(text);
-    else if (mainWindow_)
-        mainWindow_->showNotice(text);
     else
-        earlyNotice_ = text;
+        mainWindow_->showNotice(text);
 }
 
 void ProgramWindows::keepPlaces() const
 {
-    if (mainWindow_)
+    if (isMainWindowConnected_)
         memory_.keep(*mainWindow_);
     if (stationListWindow_)
         memory_.keep(*stationListWindow_);

@@ -19,21 +19,21 @@ struct Outlets;
 /// meanwhile is rendered once they are there.
 class ProgramWindows {
 public:
+    /// Builds the main window, which shows what its description says until it is connected.
     ProgramWindows(Outlets& outlets, Actions& actions, const QString& stateFolder);
     ProgramWindows(const ProgramWindows&) = delete;
     ProgramWindows& operator=(const ProgramWindows&) = delete;
     ~ProgramWindows();
 
     /// Between the two phases of the start-up.
-    void buildMainWindow();
+    void connectMainWindow();
     /// Once the main window is painted: takes longer than it, and leaves the keyboard there.
     void buildOtherWindows();
 
-    /// Null before it is built.
-    [[nodiscard]] MainWindow* mainWindow() const { return mainWindow_.get(); }
+    [[nodiscard]] bool isMainWindowConnected() const { return isMainWindowConnected_; }
+    [[nodiscard]] MainWindow& mainWindow() const { return *mainWindow_; }
 
-    /// Tells of a failure in the station list window, if that is shown, else in the main window, if need be as soon as
-    /// there is one.
+    /// Tells of a failure in the station list window, if that is shown, else in the main window.
     void showNotice(const QString& text);
 
     /// Remembers where the windows are.
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<MainWindow> mainWindow_;
     std::unique_ptr<StationListWindow> stationListWindow_;
     std::vector<std::unique_ptr<ProgramDialog>> dialogs_;
-    QString earlyNotice_;
+    bool isMainWindowConnected_ = false;
 };
 
 } // namespace sonavel

@@ -1,4 +1,5 @@
 // The player.
+#include "adapters/CurlHttpClient.h"
 #include "adapters/OneInstance.h"
 #include "qt/DesktopAppearance.h"
 #include "qt/HouseStyle.h"
@@ -80,6 +81,8 @@ int main(int argumentCount, char** arguments)
     std::jthread fonts([] { FcInit(); });
     int ownArguments = 1; // the options are the program's own, not Qt's
     QApplication application(ownArguments, arguments);
+    // And what the first request needs, while the main window is built.
+    const std::jthread network([] { sonavel::CurlHttpClient::loadLibrary(); });
     setUpNames();
     const auto desktop = setUpLooks(settings);
 

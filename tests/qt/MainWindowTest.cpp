@@ -24,7 +24,7 @@ QString accessible(QWidget& window, const char* name, QAccessible::Text text)
 TEST(MainWindow, HasEveryOutletAndStartsStopped)
 {
     Outlets outlets;
-    MainWindow window;
+    MainWindow window{nullptr};
     connectMainWindow(outlets, window);
     EXPECT_EQ(outlets.buttonPlayPause.state().image, Text("play.png"));
     EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
@@ -38,7 +38,7 @@ TEST(MainWindow, HasEveryOutletAndStartsStopped)
 TEST(MainWindow, NothingMovesWhenTextsChange)
 {
     Outlets outlets;
-    MainWindow window;
+    MainWindow window{nullptr};
     connectMainWindow(outlets, window);
     window.show();
     QApplication::processEvents();
@@ -63,7 +63,7 @@ TEST(MainWindow, NothingMovesWhenTextsChange)
 TEST(MainWindow, AScreenReaderHearsTheTitleAndTheNameOfEveryControl)
 {
     Outlets outlets;
-    MainWindow window;
+    MainWindow window{nullptr};
     connectMainWindow(outlets, window);
     window.showNowPlaying("Someone <i>& Co</i> – Song", MainWindow::Emphasis::Usual);
     EXPECT_EQ(accessible(window, "labelNowPlaying", QAccessible::Name), "Someone <i>& Co</i> – Song");
@@ -99,7 +99,7 @@ TEST(WindowMemory, AWindowComesBackWhereItWasAndRubbishIsForgotten)
 TEST(MainWindow, TheKeyboardGoesThroughTheControlsInReadingOrder)
 {
     Outlets outlets;
-    MainWindow window;
+    MainWindow window{nullptr};
     connectMainWindow(outlets, window);
     for (Button* button : {&outlets.buttonPlayPause, &outlets.buttonStop, &outlets.buttonMute})
         button->setEnabled(true);
