@@ -156,7 +156,7 @@ class Desktop:
     def _start_window_manager(self):
         """A window that is shown before the window manager is ready may stay hidden for good."""
         self.start(["openbox", "--sm-disable"])
-        ask = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
+        ask = ["xprop", "-root", "_NET_CLIENT_LIST"]  # set last when it starts
         wait_until(lambda: "window id" in subprocess.run(ask, env=self.environment, capture_output=True, text=True,
                                                          check=False).stdout, "the window manager")
 
