@@ -95,6 +95,10 @@ class Control:
         wait_until(lambda: self.has(Atspi.StateType.FOCUSED), f"the focus on {self.name}")
 
     @property
+    def text(self):
+        return Atspi.Text.get_text(self.node, 0, -1)
+
+    @property
     def value(self):
         return self.node.get_current_value()
 
