@@ -11,6 +11,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <string_view>
 #include <utility>
 
 namespace sonavel {
@@ -57,6 +58,24 @@ std::string versionAnswer(const DataServerSettings& settings, const std::string&
         + starterStationsChanged + "\r";
 }
 
+/// What a URL calls the host at that address. What listens at every address is found on its own machine by loopback.
+std::string hostOf(const std::string& address)
+{
+    if (address == "0.0.0.0")
+        return "127.0.0.1";
+    if (address == "::")
+        return "[::1]";
+    return address.find(':') == std::string::npos ? address : '[' + address + ']';
+}
+
+/// Whether the name, as a client sent it, can stand in an address and in a list without ending either.
+bool isHostAndPort(std::string_view name)
+{
+    constexpr std::size_t longestName = 255;
+    constexpr std::string_view usual = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-._:[]";
+    return !name.empty() && name.size() <= longestName && name.find_first_not_of(usual) == std::string_view::npos;
+}
+
 } // namespace
 
 struct DataServer::Implementation {
@@ -68,6 +87,7 @@ struct DataServer::Implementation {
 
     void configure();
     void publish(const DataServerSettings& settings);
+    [[nodiscard]] std::string baseAddressFor(const httplib::Request& request) const;
     void answer(const httplib::Request& request, httplib::Response& response) const;
     void stream(const DemoStation& station, const httplib::Request& request, httplib::Response& response);
 
@@ -91,20 +111,28 @@ void DataServer::Implementation::configure()
 
 void DataServer::Implementation::publish(const DataServerSettings& settings)
 {
-    const bool isDemo = settings.content == DataServerSettings::Content::Demo;
-    files.addBuiltIn(listName, encryptedList(isDemo ? demoRecords(baseAddress) : starterRecords()));
-    files.addBuiltIn(versionName, versionAnswer(settings, baseAddress));
-    if (!isDemo)
+    files.addBuiltIn(versionName, [settings](const std::string& address) { return versionAnswer(settings, address); });
+    if (settings.content == DataServerSettings::Content::Starter) {
+        files.addBuiltIn(listName, [list = encryptedList(starterRecords())](const std::string&) { return list; });
         return;
+    }
+    files.addBuiltIn(listName, [](const std::string& address) { return encryptedList(demoRecords(address)); });
     for (const DemoStation& station : demoStations())
         server.Get(station.path, [this, &station](const httplib::Request& request, httplib::Response& response) {
             stream(station, request, response);
         });
 }
 
+/// The client knows best by which of this machine's names and addresses it is reached.
+std::string DataServer::Implementation::baseAddressFor(const httplib::Request& request) const
+{
+    const std::string host = request.get_header_value("Host");
+    return isHostAndPort(host) ? "http://" + host + '/' : baseAddress;
+}
+
 void DataServer::Implementation::answer(const httplib::Request& request, httplib::Response& response) const
 {
-    if (const auto content = files.contentOf(request.get_param_value("file"))) {
+    if (const auto content = files.contentOf(request.get_param_value("file"), baseAddressFor(request))) {
         response.set_content(*content, "text/plain");
         return;
     }
@@ -148,9 +176,7 @@ std::unique_ptr<DataServer> DataServer::create(const DataServerSettings& setting
     const int port = implementation->server.listenAt(settings.address, settings.port, whyNot);
     if (port == 0)
         return nullptr;
-    const bool isNumericV6 = settings.address.find(':') != std::string::npos;
-    const std::string host = isNumericV6 ? '[' + settings.address + ']' : settings.address;
-    implementation->baseAddress = "http://" + host + ':' + std::to_string(port) + '/';
+    implementation->baseAddress = "http://" + hostOf(settings.address) + ':' + std::to_string(port) + '/';
     implementation->publish(settings);
     implementation->server.start();
     return std::unique_ptr<DataServer>(new DataServer(std::move(implementation)));

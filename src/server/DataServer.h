@@ -44,7 +44,8 @@ public:
     DataServer& operator=(const DataServer&) = delete;
     ~DataServer();
 
-    /// Such as "http://127.0.0.1:8080/".
+    /// Where it is reached on this machine, such as "http://127.0.0.1:8080/". What it publishes about itself names the
+    /// host that each client asked for, and this one to those that named none.
     [[nodiscard]] Text baseAddress() const;
 
 private:

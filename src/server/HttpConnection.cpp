@@ -15,7 +15,9 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto timeBetweenRequests = 2s;
-constexpr auto timeOfARequest = 10s;
+/// When clients that never end theirs have taken every connection, another still gets its answer before a player's
+/// probe gives up, which it does after 5 s.
+constexpr auto timeOfARequest = 3s;
 constexpr auto timeWithoutTaking = 30s;
 constexpr auto timeOfAFarewell = 500ms;
 constexpr std::size_t sizeOfARequest = 131'072;

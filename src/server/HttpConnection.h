@@ -12,7 +12,7 @@ namespace sonavel {
 
 /// The stream that the server's library reads requests from and writes answers to.
 ///
-/// A request that does not arrive whole within 10 s or is longer than 128 KiB, head and form together, cannot be read
+/// A request that does not arrive whole within 3 s or is longer than 128 KiB, head and form together, cannot be read
 /// on; an answer of which the client takes nothing for 30 s cannot be written on. The library gives up then.
 class HttpConnection final : public httplib::Stream {
 public:

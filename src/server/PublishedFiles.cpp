@@ -49,12 +49,12 @@ PublishedFiles::PublishedFiles(std::string folder)
 {
 }
 
-void PublishedFiles::addBuiltIn(const std::string& name, std::string content)
+void PublishedFiles::addBuiltIn(const std::string& name, BuiltIn answer)
 {
-    builtIn_.insert_or_assign(name, std::move(content));
+    builtIn_.insert_or_assign(name, std::move(answer));
 }
 
-std::optional<std::string> PublishedFiles::contentOf(const std::string& name) const
+std::optional<std::string> PublishedFiles::contentOf(const std::string& name, const std::string& baseAddress) const
 {
     if (!isPlainName(name))
         return std::nullopt;
@@ -71,7 +71,7 @@ std::optional<std::string> PublishedFiles::contentOf(const std::string& name) co
     const auto found = builtIn_.find(name);
     if (found == builtIn_.end())
         return std::nullopt;
-    return found->second;
+    return found->second(baseAddress);
 }
 
 } // namespace sonavel

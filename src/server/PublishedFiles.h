@@ -3,6 +3,7 @@
 
 #include "base/Text.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -16,17 +17,21 @@ public:
     /// `folder` may be empty: then there are the built-in answers alone.
     explicit PublishedFiles(std::string folder);
 
-    /// Answers for `name` where the folder has no such file. Before the first request.
-    void addBuiltIn(const std::string& name, std::string content);
+    /// Makes an answer for a client that reaches the server at that base address, such as "http://example.org:8080/".
+    using BuiltIn = std::function<std::string(const std::string& baseAddress)>;
 
-    /// The content published under a name. Only a plain name of a regular file in the folder itself is looked for:
-    /// nothing with a "/", "\" or control character, hidden, of more than 255 bytes, behind a link, or above 64 MiB.
-    /// What is there but cannot be given out is not replaced by the built-in answer.
-    [[nodiscard]] std::optional<std::string> contentOf(const std::string& name) const;
+    /// Answers for `name` where the folder has no such file. Before the first request.
+    void addBuiltIn(const std::string& name, BuiltIn answer);
+
+    /// The content published under a name, for a client that reaches the server at `baseAddress`. Only a plain name of
+    /// a regular file in the folder itself is looked for: nothing with a "/", "\" or control character, hidden, of more
+    /// than 255 bytes, behind a link, or above 64 MiB. What is there but cannot be given out is not replaced by the
+    /// built-in answer.
+    [[nodiscard]] std::optional<std::string> contentOf(const std::string& name, const std::string& baseAddress) const;
 
 private:
     std::string folder_;
-    std::map<std::string, std::string, std::less<>> builtIn_;
+    std::map<std::string, BuiltIn, std::less<>> builtIn_;
 };
 
 } // namespace sonavel

@@ -28,7 +28,8 @@ constexpr const char* help = "Usage: sonavel-data-server [OPTION]...\n"
                              "  --demo             offer three demo stations, and stream them\n"
                              "  --version          print the version\n"
                              "  --help             print this\n\n"
-                             "Prints \"listening on http://ADDRESS:PORT/\" once it does. SIGTERM and SIGINT end it.\n";
+                             "Prints \"listening on http://HOST:PORT/\", which reaches it on this machine, once it\n"
+                             "does. SIGTERM and SIGINT end it.\n";
 
 [[noreturn]] void refuse(const std::string& why)
 {

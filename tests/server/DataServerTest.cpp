@@ -86,6 +86,32 @@ TEST_F(DataServerTest, TheVersionAnswerHasItsEightValuesInTheirPlaces)
     EXPECT_TRUE(momentFromInternationalForm(values[7]));
 }
 
+TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)
+{
+    DataServerSettings everywhere = settings();
+    everywhere.content = DataServerSettings::Content::Demo;
+    everywhere.address = "0.0.0.0";
+    start(everywhere);
+    const std::string own(server_->baseAddress().view());
+    EXPECT_EQ(own.find("http://127.0.0.1:"), 0U) << own;
+
+    struct Case {
+        std::string host;
+        std::string expected;
+    };
+    for (const Case& each :
+        {Case{"radio.example.org:8080", "http://radio.example.org:8080/"}, {"[::1]:80", "http://[::1]:80/"}, {"", own},
+            {"a;b", own}, {"a/b", own}, {"user@host", own}, {"a b", own}, {std::string(256, 'a'), own}}) {
+        client_->set_default_headers({{"Host", each.host}});
+        const Text list = AES256DecryptWithKey(Text(get("?file=20161001000000_lr.rdb")), stationDatabasePassphrase);
+        const StationRecords records = recordsFromListText(list);
+        ASSERT_EQ(records.size(), 3U) << each.host;
+        for (std::size_t i = 0; i < records.size(); ++i)
+            EXPECT_EQ(records[i]->link(), Text(each.expected + (demoStations()[i].path + 1))) << each.host;
+        EXPECT_NE(get("?file=sonavel.ini").find("page;" + each.expected + '\r'), std::string::npos) << each.host;
+    }
+}
+
 TEST_F(DataServerTest, WhatIsNotPublishedIsAnsweredWithAStatusAndNotWithAFile)
 {
     const test::TemporaryFolder folder;

@@ -1,5 +1,8 @@
+#include "server/HttpServer.h"
+
 #include "server/DataServer.h"
 #include "server/RawClient.h"
+#include "support/ServerHost.h"
 
 #include <gtest/gtest.h>
 
@@ -72,6 +75,17 @@ TEST(HttpServer, ListenersWithoutEndLeaveRoomForRequests)
     EXPECT_GE(seated, 8U);
     EXPECT_LT(seated, 100U);
     EXPECT_EQ(answerTo(*server, ask), granted);
+}
+
+TEST(HttpServer, HalfRequestsOnEveryConnectionHoldUpAPlayersProbeForLessThanItWaits)
+{
+    const auto server = startedServer();
+    std::deque<RawClient> halfway;
+    for (int client = 0; client < HttpServer::mostConnections; ++client)
+        EXPECT_TRUE(halfway.emplace_back(*server).send("GET / HT"));
+    httplib::Client probe(test::hostOf(*server));
+    probe.set_read_timeout(std::chrono::seconds(5));
+    EXPECT_TRUE(probe.Get("/"));
 }
 
 TEST(HttpServer, ClientsWhoDoNothingDoNotHoldUpItsEnd)

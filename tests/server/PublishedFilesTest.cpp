@@ -9,16 +9,18 @@
 namespace sonavel {
 namespace {
 
+const std::string client = "http://host/";
+
 TEST(PublishedFiles, APublishedFileWinsOverTheBuiltInAnswer)
 {
     const test::TemporaryFolder folder;
     PublishedFiles files(folder.path());
-    files.addBuiltIn("list.rdb", "built in");
-    EXPECT_EQ(files.contentOf("list.rdb"), "built in");
+    files.addBuiltIn("list.rdb", [](const std::string& address) { return "built in at " + address; });
+    EXPECT_EQ(files.contentOf("list.rdb", client), "built in at http://host/");
     folder.put("list.rdb", "published");
-    EXPECT_EQ(files.contentOf("list.rdb"), "published");
-    EXPECT_EQ(files.contentOf("other.rdb"), std::nullopt);
-    EXPECT_EQ(PublishedFiles("").contentOf("list.rdb"), std::nullopt);
+    EXPECT_EQ(files.contentOf("list.rdb", client), "published");
+    EXPECT_EQ(files.contentOf("other.rdb", client), std::nullopt);
+    EXPECT_EQ(PublishedFiles("").contentOf("list.rdb", client), std::nullopt);
 }
 
 TEST(PublishedFiles, NothingButPlainFilesOfTheFolderItselfIsGivenOut)
@@ -33,12 +35,12 @@ TEST(PublishedFiles, NothingButPlainFilesOfTheFolderItselfIsGivenOut)
     ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
 
     PublishedFiles files(folder.path());
-    files.addBuiltIn("link", "built in");
+    files.addBuiltIn("link", [](const std::string&) { return "built in"; });
     for (const std::string& name : {std::string(), std::string("."), std::string(".."), std::string(".hidden"),
              std::string("inner"), std::string("inner/file"), std::string("inner\\file"), std::string("link"),
              std::string("pipe"), outside.path("secret"), "../" + outside.path("secret"), std::string("list\0", 5),
              std::string("a\nb"), std::string(256, 'a')})
-        EXPECT_EQ(files.contentOf(name), std::nullopt) << name;
+        EXPECT_EQ(files.contentOf(name, client), std::nullopt) << name;
 }
 
 } // namespace
