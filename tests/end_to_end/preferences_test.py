@@ -4,9 +4,11 @@ its argument."""
 
 import os
 import plistlib
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
@@ -120,6 +122,25 @@ class PreferencesTest(unittest.TestCase):
         program.find(self.Role.LABEL, "Version 0.1.0")
         self.desk.keys("Escape")
         self.wait_gone(program, self.Role.LABEL, "Version 0.1.0")
+        self.quit(program)
+
+    def test_keys_wait_while_a_server_is_silent(self):
+        program = self.start()
+        volume = program.find(self.Role.SLIDER, "Volume")
+        volume.focus()
+        before = volume.value
+        self.server.send_signal(signal.SIGSTOP)
+        self.choose(program, "Check for Updates…")
+        self.wait_gone(program, self.Role.MENU_ITEM, "Check for Updates…")
+        self.desk.keys("Left")
+        time.sleep(0.5)
+        self.assertEqual(volume.value, before)
+        self.assertFalse(program.shows(self.Role.LABEL, "You have the newest version."))
+
+        self.server.send_signal(signal.SIGCONT)
+        wait_until(lambda: volume.value < before, "the key to arrive")
+        program.find(self.Role.LABEL, "You have the newest version.")
+        self.desk.keys("Escape")
         self.quit(program)
 
 
