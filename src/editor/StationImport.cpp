@@ -12,6 +12,7 @@
 #include "storage/StationDatabase.h"
 #include "ui/Outlets.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_set>
 
@@ -23,12 +24,12 @@ namespace {
 class ImportedNames {
 public:
     /// Into an empty list all names go as they are, repeated ones too.
-    explicit ImportedNames(const StationRecords& list)
+    ImportedNames(const StationRecords& list, std::string_view text)
         : isMerging_(!list.empty())
     {
         if (!isMerging_)
             return;
-        names_.reserve(list.size());
+        names_.reserve(list.size() + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\r')));
         for (const auto& station : list)
             names_.insert(station->radio().view());
     }
@@ -106,7 +107,7 @@ bool StationImport::isToReplaceList() const
 StationImport::Outcome StationImport::appendStations(const Text& text)
 {
     StationRecords& list = *stationList_.listRadio;
-    ImportedNames names(list);
+    ImportedNames names(list, text.view());
     const auto initialCount = static_cast<std::int64_t>(list.size());
     std::int64_t runningCount = initialCount;
     StationListReader reader(text.view());

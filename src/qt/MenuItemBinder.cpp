@@ -14,7 +14,9 @@ MenuItemBinder::MenuItemBinder(MenuItem& item, QAction& action)
 {
     item_.connect({titleShown_, action.property("tag").toInt(), action.isEnabled()},
         [this](const MenuItemState& state) { render(state); });
-    connect(&action, &QAction::triggered, this, [this] { item_.chosenByUser(); });
+    // Queued: a screen reader that chooses it waits for an answer, and must not wait for that of a question.
+    connect(
+        &action, &QAction::triggered, this, [this] { item_.chosenByUser(); }, Qt::QueuedConnection);
 }
 
 MenuItemBinder::~MenuItemBinder()

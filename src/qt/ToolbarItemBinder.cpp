@@ -10,7 +10,9 @@ ToolbarItemBinder::ToolbarItemBinder(ToolbarItem& item, QAction& action)
 {
     item_.connect({action.property("tag").toInt(), action.isEnabled()},
         [&action](const ToolbarItemState& state) { action.setEnabled(state.isEnabled); });
-    connect(&action, &QAction::triggered, this, [this] { item_.pressedByUser(); });
+    // Queued: a screen reader that presses it waits for an answer, and must not wait for that of a question.
+    connect(
+        &action, &QAction::triggered, this, [this] { item_.pressedByUser(); }, Qt::QueuedConnection);
 }
 
 ToolbarItemBinder::~ToolbarItemBinder()

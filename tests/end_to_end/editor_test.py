@@ -202,7 +202,7 @@ class EditorTest(unittest.TestCase):
         self.program.find(self.Role.PUSH_BUTTON, "Pause")
         self.expect(chosen=name)
         self.select(1)
-        self.desk.click(self.program.find(self.Role.PUSH_BUTTON, "Remove"))
+        self.program.find(self.Role.PUSH_BUTTON, "Remove").press()
         self.answer(f"“{name}” is the chosen station. Stop it and remove it?", "Yes")
         self.expect_list([self.demo[0], self.demo[2]], [1])
         self.assertFalse(self.program.find(self.Role.PUSH_BUTTON, "Stop").enabled)

@@ -167,11 +167,13 @@ TEST_F(StationListWindowTest, KeysOfTheTableUseTheToolsThatAreEnabled)
     outlets.radioRemove.action.set([&] { used << "remove"; });
     QTest::keyClick(&tableWidget(), Qt::Key_Return);
     QTest::keyClick(&tableWidget(), Qt::Key_Delete);
+    QApplication::processEvents();
     EXPECT_TRUE(used.isEmpty());
     outlets.radioEdit.setEnabled(true);
     outlets.radioRemove.setEnabled(true);
     QTest::keyClick(&tableWidget(), Qt::Key_Return);
     QTest::keyClick(&tableWidget(), Qt::Key_Delete);
+    QApplication::processEvents();
     EXPECT_EQ(used.join(' '), "edit remove");
 
     tableWidget().setCurrentIndex(tableWidget().model()->index(1, 0));
@@ -264,6 +266,7 @@ TEST_F(StationListWindowTest, TheSheetBlocksItsWindowAloneAndKeepsTheKeysOfTheMe
     openSheet();
     EXPECT_EQ(sheet.windowModality(), Qt::WindowModal);
     QTest::keyClick(&sheet, Qt::Key_Period, Qt::ControlModifier);
+    QApplication::processEvents();
     EXPECT_EQ(stops, 1);
     EXPECT_FALSE(outlets.winWebRadioListEdit.isKeyWindow());
     EXPECT_TRUE(outlets.winEditData.isKeyWindow());
@@ -298,10 +301,12 @@ TEST_F(StationListWindowTest, KeysOfTheMenusDoNotDisturbTyping)
     button.show();
     QTest::keyClick(&button, Qt::Key_Space);
     QTest::keyClick(&tableWidget(), Qt::Key_Space);
+    QApplication::processEvents();
     EXPECT_TRUE(chosen.isEmpty());
     QTest::keyClick(&window, Qt::Key_Space);
     QTest::keyClick(&tableWidget(), Qt::Key_Right, Qt::ControlModifier);
     QTest::keyClick(&findField(), Qt::Key_P, Qt::ControlModifier);
+    QApplication::processEvents();
     EXPECT_EQ(chosen.join(' '), "play next play");
 }
 
@@ -320,8 +325,8 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
     ASSERT_TRUE(handleEventsUntil([&] { return main.isActiveWindow(); }));
     menus.item("menuMute").setShortcuts({});
     QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
-    EXPECT_TRUE(isChosen);
     QApplication::processEvents();
+    EXPECT_TRUE(isChosen);
     const int before = validations;
     emit window.menuBar()->actions().at(1)->menu()->aboutToShow();
     EXPECT_EQ(validations, before + 1);

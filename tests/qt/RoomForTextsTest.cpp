@@ -1,0 +1,103 @@
+// Whether every text has room in its control, in every language.
+#include "qt/EditSheetDialog.h"
+#include "qt/ElidedLabel.h"
+#include "qt/MainWindow.h"
+#include "qt/ProgramDialog.h"
+#include "qt/ProgramMenus.h"
+#include "qt/StationComboBox.h"
+#include "qt/StationListWindow.h"
+#include "qt/StatusLine.h"
+#include "qt/TranslatedStrings.h"
+#include "ui/TableView.h"
+#include "ui_AboutWindow.h"
+#include "ui_PreferencesSheet.h"
+#include "ui_UpdateNotice.h"
+#include "ui_UpdateWindow.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace sonavel {
+namespace {
+
+class RoomForTextsTest : public testing::TestWithParam<const char*> {
+protected:
+    /// Lines that may be longer than their room elide what does not fit, and tell it otherwise.
+    static bool mayElide(const QWidget& widget)
+    {
+        return dynamic_cast<const ElidedLabel*>(&widget) || dynamic_cast<const StatusLine*>(&widget)
+            || dynamic_cast<const StationComboBox*>(&widget) || widget.objectName().startsWith(QStringLiteral("qt_"));
+    }
+
+    static void expectRoomIn(QWidget& window)
+    {
+        window.show();
+        for (auto* widget : window.findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            const bool hasText = qobject_cast<QLabel*>(widget) || (button != nullptr && !button->text().isEmpty());
+            if (!hasText || mayElide(*widget) || !widget->isVisible())
+                continue;
+            EXPECT_GE(widget->width(), widget->sizeHint().width())
+                << GetParam() << ", " << widget->objectName().toStdString();
+            EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
+                << GetParam() << ", " << widget->objectName().toStdString();
+        }
+        for (auto* field : window.findChildren<QLineEdit*>()) {
+            const int text = field->fontMetrics().horizontalAdvance(field->placeholderText());
+            EXPECT_GE(field->width(), text) << GetParam() << ", " << field->objectName().toStdString();
+        }
+        for (auto* header : window.findChildren<QHeaderView*>()) {
+            for (int column = 0; header->orientation() == Qt::Horizontal && column < header->count(); ++column)
+                EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column)) << GetParam();
+        }
+        window.hide();
+    }
+
+    /// A tool bar or menu bar that is too small hides its last entries behind a button.
+    static void expectAllShown(QMainWindow& window)
+    {
+        window.show();
+        for (auto* extension : window.findChildren<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+            EXPECT_FALSE(extension->isVisible()) << GetParam();
+        for (auto* extension : window.findChildren<QToolButton*>(QStringLiteral("qt_menubar_ext_button")))
+            EXPECT_FALSE(extension->isVisible()) << GetParam();
+    }
+};
+
+TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
+{
+    const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
+    ProgramMenus menus([] {});
+    MainWindow main(&menus);
+    main.resize(main.minimumSize());
+    expectRoomIn(main);
+    expectAllShown(main);
+
+    TableView table;
+    StationListWindow list(table);
+    menus.addTo(list);
+    list.resize(list.minimumSize());
+    expectRoomIn(list);
+    expectAllShown(list);
+
+    EditSheetDialog sheet(list);
+    sheet.resize(sheet.minimumSize());
+    expectRoomIn(sheet);
+    for (const auto& dialog : {ProgramDialog::from<Ui::PreferencesSheet>(), ProgramDialog::from<Ui::AboutWindow>(),
+             ProgramDialog::from<Ui::UpdateNotice>(), ProgramDialog::from<Ui::UpdateWindow>()}) {
+        dialog->resize(dialog->minimumSize());
+        expectRoomIn(*dialog);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, RoomForTextsTest, testing::Values("en", "de", "fr", "it", "es"),
+    [](const auto& language) { return std::string(language.param); });
+
+} // namespace
+} // namespace sonavel
