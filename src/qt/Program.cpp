@@ -64,6 +64,7 @@ DataServerSettings serverSettings(const Settings& settings)
 {
     DataServerSettings server;
     server.content = settings.isDemo ? DataServerSettings::Content::Demo : DataServerSettings::Content::Starter;
+    server.offersUpdate = settings.offersUpdate;
     server.version = std::string(SONAVEL_VERSION);
     server.build = std::string(buildNumber);
     return server;

@@ -32,6 +32,7 @@ constexpr std::array options = {
     Option{"data-server", "URL", "SONAVEL_DATA_SERVER", "get the stations from this data server"},
     Option{"probe", "URL", "SONAVEL_PROBE", "ask this page whether there is an internet connection"},
     Option{"demo", nullptr, nullptr, "try the player: own server, own streams, nothing kept"},
+    Option{"demo-update", nullptr, nullptr, "with --demo: have a newer version offered"},
     Option{"language", "CODE", nullptr, "language of the windows, such as en"},
     Option{"appearance", "light|dark", nullptr, "colours of the windows"},
     Option{"version", nullptr, nullptr, "print the version"},
@@ -158,6 +159,9 @@ Settings settingsOf(const Lookup& lookup, const QMap<QString, QString>& environm
 {
     Settings settings;
     settings.isDemo = lookup.given("demo").has_value();
+    settings.offersUpdate = lookup.given("demo-update").has_value();
+    if (settings.offersUpdate && !settings.isDemo)
+        throw UsageError{QStringLiteral("--demo-update needs --demo.")};
     if (const auto language = lookup.find("language"))
         settings.language = language->value;
     if (const auto found = lookup.find("appearance"))

@@ -21,6 +21,8 @@ struct Settings {
     QString probe;
     /// Everything embedded: an own data server with streams of its own.
     bool isDemo = false;
+    /// The embedded server offers a newer version.
+    bool offersUpdate = false;
     /// Language code such as "de"; empty for the desktop's.
     QString language;
     /// Absent for the desktop's.

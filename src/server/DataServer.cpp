@@ -5,6 +5,7 @@
 #include "server/HttpServer.h"
 #include "server/IcyStream.h"
 #include "server/PublishedFiles.h"
+#include "server/PublishedVersion.h"
 #include "server/Stations.h"
 #include "storage/AESCrypt.h"
 #include "storage/Passphrase.h"
@@ -53,8 +54,10 @@ StationRecords demoRecords(const std::string& baseAddress)
 /// Eight values by their position; the words before them are for people.
 std::string versionAnswer(const DataServerSettings& settings, const std::string& baseAddress)
 {
-    return "name;Sonavel\rversion;" + settings.version + "\rbuild;" + settings.build + "\rapplication;" + baseAddress
-        + "\rpage;" + baseAddress + "\rnotes;\rreleased;" + starterStationsChanged + "\rlist changed;"
+    const std::string version = settings.offersUpdate ? "99.0.0" : settings.version;
+    const std::string notes = settings.offersUpdate ? "This is a demonstration.\\nNothing is to be had here." : "";
+    return "name;Sonavel\rversion;" + version + "\rbuild;" + settings.build + "\rapplication;" + baseAddress + "\rpage;"
+        + baseAddress + "\rnotes;" + notes + "\rreleased;" + starterStationsChanged + "\rlist changed;"
         + starterStationsChanged + "\r";
 }
 
@@ -82,6 +85,7 @@ struct DataServer::Implementation {
     explicit Implementation(const DataServerSettings& settings)
         : burstSeconds(settings.burstSeconds)
         , files(settings.folder)
+        , version(files)
     {
     }
 
@@ -93,6 +97,7 @@ struct DataServer::Implementation {
 
     const double burstSeconds;
     PublishedFiles files;
+    PublishedVersion version;
     std::string baseAddress;
     std::atomic<int> listeners = 0;
     HttpServer server; // last, so that it has ended before what its threads use goes
@@ -111,7 +116,9 @@ void DataServer::Implementation::configure()
 
 void DataServer::Implementation::publish(const DataServerSettings& settings)
 {
-    files.addBuiltIn(versionName, [settings](const std::string& address) { return versionAnswer(settings, address); });
+    files.addBuiltIn(versionName, [this, settings](const std::string& address) {
+        return version.answer().value_or(versionAnswer(settings, address));
+    });
     if (settings.content == DataServerSettings::Content::Starter) {
         files.addBuiltIn(listName, [list = encryptedList(starterRecords())](const std::string&) { return list; });
         return;
@@ -172,6 +179,9 @@ void DataServer::Implementation::stream(
 std::unique_ptr<DataServer> DataServer::create(const DataServerSettings& settings, std::string& whyNot)
 {
     auto implementation = std::make_unique<Implementation>(settings);
+    whyNot = implementation->version.fault();
+    if (!whyNot.empty())
+        return nullptr;
     implementation->configure();
     const int port = implementation->server.listenAt(settings.address, settings.port, whyNot);
     if (port == 0)

@@ -25,6 +25,8 @@ struct DataServerSettings {
     /// What the built-in version answer tells: the short version and the build.
     std::string version;
     std::string build;
+    /// The built-in version answer offers a version that is newer, with notes.
+    bool offersUpdate = false;
     /// How many seconds of a demo stream are sent at once; the rest follows at the speed at which it is played.
     double burstSeconds = 4.0;
 };
@@ -37,7 +39,8 @@ struct DataServerSettings {
 /// version.
 class DataServer {
 public:
-    /// Null when it cannot listen there; then `whyNot` is one sentence for the user.
+    /// Null when it cannot listen there, or the folder's "version.txt" cannot be published; then `whyNot` is one
+    /// sentence for the user.
     [[nodiscard]] static std::unique_ptr<DataServer> create(const DataServerSettings& settings, std::string& whyNot);
 
     DataServer(const DataServer&) = delete;

@@ -26,6 +26,7 @@ constexpr const char* help = "Usage: sonavel-data-server [OPTION]...\n"
                              "  --port N           listen at this port; 0, as without this option, takes a free one\n"
                              "  --address ADDRESS  listen at this address (127.0.0.1)\n"
                              "  --demo             offer three demo stations, and stream them\n"
+                             "  --demo-update      with --demo: offer a newer version, too\n"
                              "  --version          print the version\n"
                              "  --help             print this\n\n"
                              "Prints \"listening on http://HOST:PORT/\", which reaches it on this machine, once it\n"
@@ -64,6 +65,7 @@ DataServerSettings settingsFrom(int argc, char** argv)
         option{"port", required_argument, nullptr, 'p'},
         option{"address", required_argument, nullptr, 'a'},
         option{"demo", no_argument, nullptr, 'D'},
+        option{"demo-update", no_argument, nullptr, 'u'},
         option{"version", no_argument, nullptr, 'V'},
         option{"help", no_argument, nullptr, 'h'},
         option{},
@@ -82,6 +84,9 @@ DataServerSettings settingsFrom(int argc, char** argv)
         case 'D':
             settings.content = DataServerSettings::Content::Demo;
             break;
+        case 'u':
+            settings.offersUpdate = true;
+            break;
         case 'V':
             std::cout << "sonavel-data-server " << SONAVEL_VERSION << '\n';
             std::exit(EXIT_SUCCESS);
@@ -92,6 +97,8 @@ DataServerSettings settingsFrom(int argc, char** argv)
             std::exit(usageError);
         }
     }
+    if (settings.offersUpdate && settings.content != DataServerSettings::Content::Demo)
+        refuse("--demo-update needs --demo");
     if (optind < argc)
         refuse(std::string("it does not know what to do with ") + argv[optind]);
     return settings;

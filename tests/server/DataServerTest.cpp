@@ -86,6 +86,32 @@ TEST_F(DataServerTest, TheVersionAnswerHasItsEightValuesInTheirPlaces)
     EXPECT_TRUE(momentFromInternationalForm(values[7]));
 }
 
+TEST_F(DataServerTest, AVersionFileIsFollowedAndItsFaultsLeaveTheFormerVersion)
+{
+    test::TemporaryFolder folder;
+    DataServerSettings published = settings();
+    published.folder = folder.path();
+    folder.put("version.txt", "version = 1\n");
+    std::string whyNot;
+    EXPECT_EQ(DataServer::create(published, whyNot), nullptr);
+    EXPECT_EQ(whyNot, "version.txt, \"build\" is missing");
+
+    folder.put("version.txt", "version = 7.0.0\nbuild = 1\n");
+    start(published);
+    const auto version = [&] {
+        const auto answer =
+            client_->Post("/app_data_files/testpost.php", "file=sonavel.ini", "application/x-www-form-urlencoded");
+        return answer ? answer->body.substr(0, answer->body.find("\rbuild")) : "no answer";
+    };
+    EXPECT_EQ(version(), "name;Sonavel\rversion;7.0.0");
+    folder.put("version.txt", "version = 8.0.0\nbuild = x\n");
+    EXPECT_EQ(version(), "name;Sonavel\rversion;7.0.0");
+    folder.put("version.txt", "version = 8.0.0\nbuild = 2\n");
+    EXPECT_EQ(version(), "name;Sonavel\rversion;8.0.0");
+    folder.put("sonavel.ini", "the maker's own");
+    EXPECT_EQ(version(), "the maker's own");
+}
+
 TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)
 {
     DataServerSettings everywhere = settings();
