@@ -64,8 +64,10 @@ std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::Settings& 
 
 int main(int argumentCount, char** arguments)
 {
-    const sonavel::SettingsOrEnd outcome = sonavel::settingsFrom(
-        withoutName(argumentCount, arguments), sonavel::readEnvironment(), sonavel::readConfiguration());
+    QStringList given = withoutName(argumentCount, arguments);
+    const bool isMirrored = given.removeAll(QStringLiteral("-reverse")) > 0; // as for every program of the toolkit
+    const sonavel::SettingsOrEnd outcome =
+        sonavel::settingsFrom(given, sonavel::readEnvironment(), sonavel::readConfiguration());
     if (const auto* end = std::get_if<sonavel::EndAtOnce>(&outcome))
         return print(*end);
     const auto& settings = std::get<sonavel::Settings>(outcome);
@@ -84,6 +86,8 @@ int main(int argumentCount, char** arguments)
     // And what the first request needs, while the main window is built.
     const std::jthread network([] { sonavel::CurlHttpClient::loadLibrary(); });
     setUpNames();
+    if (isMirrored)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
     const auto desktop = setUpLooks(settings);
 
     QString whyNot;

@@ -231,6 +231,10 @@ class EditorTest(unittest.TestCase):
         self.expect()
         self.assertEqual(exported.read_bytes().decode(), "radio;link\r" + self.expected["stored"])
 
+        self.choose_file("ctrl+shift+e", "Export Stations", "/proc/out.csv")
+        self.program.find(self.Role.LABEL, "A file could not be saved: No such file or directory")
+        self.expect()
+
         self.import_file(b"radio;link\rOnly;http://only/\r", "Yes")
         rows = [("Only", "http://only/")]
         self.expect(rows=rows, items=["Only"], stored=text_of(rows))
