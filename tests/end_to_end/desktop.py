@@ -120,13 +120,17 @@ class Desktop:
         return subprocess.run(["xdotool", "getwindowname", str(self.window(pattern))], env=self.environment, check=True,
                               capture_output=True, text=True).stdout.strip()
 
+    def _windows(self, title):
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self.environment,
+                               capture_output=True, text=True, check=False)
+        return found.stdout.split()
+
+    def is_shown(self, title):
+        return bool(self._windows(title))
+
     def window(self, title):
         """The identifier of the visible window of that title, once it is there."""
-        def search():
-            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self.environment,
-                                   capture_output=True, text=True, check=False)
-            return found.stdout.split()[-1:] or None
-        return int(wait_until(search, f"the window {title}")[0])
+        return int(wait_until(lambda: self._windows(title), f"the window {title}")[-1])
 
     def activate(self, title):
         """Waits for the visible window of that title, and gives it the keyboard."""

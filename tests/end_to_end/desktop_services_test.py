@@ -2,48 +2,18 @@
 """The built player among the desktop's services: media keys, a second start, sleep and network. Takes the folder of the
 built programs as its argument."""
 
-import http.server
 import subprocess
 import sys
 import tempfile
-import threading
 import unittest
 from pathlib import Path
 
 import dbus
 import desktop
 from desktop import wait_until
+from small_server import SmallServer
 
 BUILD = Path(sys.argv.pop(1))
-LIST = "app_data_files/testget.php?file=20161001000000_lr.rdb"
-
-
-class RefusingServer(http.server.ThreadingHTTPServer):
-    """Publishes the given list, answers the probe, and has no stream at /gone: it counts who asks for it."""
-
-    def __init__(self):
-        super().__init__(("127.0.0.1", 0), RefusingServer.Handler)
-        self.attempts = 0
-        self.list = b""
-        threading.Thread(target=self.serve_forever, daemon=True).start()
-
-    @property
-    def address(self):
-        return f"http://127.0.0.1:{self.server_port}/"
-
-    class Handler(http.server.BaseHTTPRequestHandler):
-        def do_GET(self):
-            self.server.attempts += self.path == "/gone"
-            found = self.path != "/gone"
-            self.send_response(200 if found else 404)
-            self.end_headers()
-            self.wfile.write(self.server.list if LIST in self.path else b"")
-
-        def do_POST(self):
-            self.send_error(404)
-
-        def log_message(self, *_):
-            pass
 
 
 class DesktopServicesTest(unittest.TestCase):
@@ -110,7 +80,7 @@ class DesktopServicesTest(unittest.TestCase):
         self.desk.window("Sonavel")
 
     def test_a_stream_is_asked_for_again_at_once_after_sleep_and_when_the_network_is_back(self):
-        server = RefusingServer()
+        server = SmallServer()
         self.addCleanup(server.server_close)
         self.addCleanup(server.shutdown)
         database = Path(self.home, "Library/Preferences/radiolist.csv")
