@@ -1,23 +1,105 @@
-// Versions: any answer of a server, and any file of a maker.
-#include "Require.h"
-#include "online/VersionRecord.h"
-#include "server/VersionFile.h"
+// Fuzzes what is made of a data server's answer about the newest version.
 
-#include <cstddef>
+#include "Require.h"
+#include "base/Moment.h"
+#include "online/RequestAddress.h"
+#include "online/VersionRecord.h"
+
+#include <algorithm>
+#include <array>
 #include <cstdint>
+#include <string>
+
+namespace sonavel {
+namespace {
+
+constexpr std::size_t valueCount = 8;
+
+std::array<Text, 11> textsOf(const VersionRecord& record)
+{
+    return {record.AppName, record.MajorVersion, record.MinorVersion, record.BugVersion, record.StageCode, record.Build,
+        record.LinkApp, record.LinkPage, record.Note, record.updateApp, record.updateData};
+}
+
+bool isAscii(std::string_view bytes)
+{
+    return std::none_of(bytes.begin(), bytes.end(),
+        [](char character) { return (static_cast<unsigned char>(character) & 0x80U) != 0; });
+}
+
+std::size_t linesWithFields(std::string_view answer)
+{
+    std::size_t lines = 0;
+    bool hasField = false;
+    for (const char character : answer) {
+        lines += character == ';' && !hasField ? 1 : 0;
+        hasField = character != '\r' && (hasField || character == ';');
+    }
+    return lines;
+}
+
+void checkTexts(const VersionRecord& record)
+{
+    for (const Text& text : textsOf(record)) {
+        require(!text.isAbsent(), "a usable answer gives every value");
+        require(text.view().find_first_of(";\r") == std::string_view::npos, "values have no separator");
+    }
+    for (const Text& number : {record.MajorVersion, record.MinorVersion, record.BugVersion})
+        require(number.view().find('.') == std::string_view::npos, "each number of the version stands for itself");
+    require(!isAnyNumberHigher(record, record), "no version is newer than itself");
+    require(versionText(record).view().ends_with(" (" + record.Build.string() + ")"), "the text ends in the build");
+}
+
+void checkNotes(const VersionRecord& record)
+{
+    const std::string_view note = record.Note.view();
+    std::size_t separators = 0;
+    for (std::size_t found = note.find("\\n"); found != std::string_view::npos; found = note.find("\\n", found + 2))
+        ++separators;
+    const std::string notes = releaseNotes(record).string();
+    require(notes.starts_with("- ") && notes.ends_with('\n'), "notes are lines after hyphens");
+    require(notes.size() == note.size() - 2 * separators + 3 * (separators + 1), "every note is a line, none is lost");
+}
+
+void checkAddressAndDates(const VersionRecord& record)
+{
+    const Text page = usableWebAddress(record.LinkPage);
+    require(page.isAbsent() || (page == record.LinkPage && percentEscaped(page) == page && isAscii(page.view())),
+        "a page that is opened is the server's own, with nothing to escape");
+    for (const Text& date : {record.updateApp, record.updateData}) {
+        const auto moment = momentFromInternationalForm(date);
+        // An offset can move the very first and the very last day into a year that has no text.
+        const auto again = moment ? momentFromInternationalForm(internationalForm(*moment)) : std::nullopt;
+        require(!again || again == moment, "a date is read as it was written");
+    }
+}
+
+void checkOtherLineEnds(std::string_view answer, const VersionRecord& record)
+{
+    std::string withLineFeeds;
+    for (const char character : answer)
+        withLineFeeds.append(1, character).append(character == '\r' ? "\n" : "");
+    const auto again = serverVersionRecord(withLineFeeds);
+    require(again && textsOf(*again) == textsOf(record), "line feeds after the carriage returns change nothing");
+    const auto longer = serverVersionRecord(std::string(answer) + "\rmore;x");
+    require(longer && textsOf(*longer) == textsOf(record), "lines after the eighth change nothing");
+}
+
+} // namespace
+} // namespace sonavel
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace sonavel;
-    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const VersionRecord application;
-    if (const auto record = serverVersionRecord(bytes)) {
-        (void)isAnyNumberHigher(*record, application);
-        require(releaseNotes(*record).view().starts_with("- "), "notes are lines with hyphens");
-        require(versionText(*record).view().find(" (") != std::string_view::npos, "a version tells its build");
-    }
-    const auto outcome = versionAnswerFrom(bytes);
-    if (const auto* answer = std::get_if<VersionAnswer>(&outcome))
-        require(serverVersionRecord(answer->text).has_value(), "what is published can be read");
+    const std::string_view answer(reinterpret_cast<const char*>(data), size);
+    const auto record = serverVersionRecord(answer);
+    require(record.has_value() == (isAscii(answer) && linesWithFields(answer) >= valueCount),
+        "an answer is usable when it is ASCII and has its values");
+    if (!record)
+        return 0;
+    checkTexts(*record);
+    checkNotes(*record);
+    checkAddressAndDates(*record);
+    checkOtherLineEnds(answer, *record);
     return 0;
 }

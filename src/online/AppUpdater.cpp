@@ -6,6 +6,7 @@
 #include "platform/WebBrowser.h"
 
 #include <string>
+#include <utility>
 
 namespace sonavel {
 
@@ -36,8 +37,8 @@ std::shared_ptr<AppUpdater> AppUpdater::create(const UpdaterPorts& ports, Versio
     return updater;
 }
 
-AppUpdater::AppUpdater(const UpdaterPorts& ports, Versions& versions)
-    : ports_(ports)
+AppUpdater::AppUpdater(UpdaterPorts ports, Versions& versions)
+    : ports_(std::move(ports))
     , versions_(versions)
 {
 }

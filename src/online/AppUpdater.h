@@ -83,7 +83,7 @@ public:
     void buttnRemind();
 
 private:
-    AppUpdater(const UpdaterPorts& ports, Versions& versions);
+    AppUpdater(UpdaterPorts ports, Versions& versions);
 
     void showWindow();
 

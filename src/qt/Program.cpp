@@ -64,7 +64,8 @@ DataServerSettings serverSettings(const Settings& settings)
 {
     DataServerSettings server;
     server.content = settings.isDemo ? DataServerSettings::Content::Demo : DataServerSettings::Content::Starter;
-    server.offersUpdate = settings.offersUpdate;
+    if (settings.offersUpdate)
+        server.offer = DataServerSettings::Offer::NewerVersion;
     server.version = std::string(SONAVEL_VERSION);
     server.build = std::string(buildNumber);
     return server;

@@ -2,11 +2,12 @@
 
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
+#include "server/BuiltInVersion.h"
 #include "server/HttpServer.h"
 #include "server/IcyStream.h"
 #include "server/PublishedFiles.h"
-#include "server/PublishedVersion.h"
 #include "server/Stations.h"
+#include "server/VersionFile.h"
 #include "storage/AESCrypt.h"
 #include "storage/Passphrase.h"
 
@@ -51,16 +52,6 @@ StationRecords demoRecords(const std::string& baseAddress)
     return records;
 }
 
-/// Eight values by their position; the words before them are for people.
-std::string versionAnswer(const DataServerSettings& settings, const std::string& baseAddress)
-{
-    const std::string version = settings.offersUpdate ? "99.0.0" : settings.version;
-    const std::string notes = settings.offersUpdate ? "This is a demonstration.\\nNothing is to be had here." : "";
-    return "name;Sonavel\rversion;" + version + "\rbuild;" + settings.build + "\rapplication;" + baseAddress + "\rpage;"
-        + baseAddress + "\rnotes;" + notes + "\rreleased;" + starterStationsChanged + "\rlist changed;"
-        + starterStationsChanged + "\r";
-}
-
 /// What a URL calls the host at that address. What listens at every address is found on its own machine by loopback.
 std::string hostOf(const std::string& address)
 {
@@ -85,7 +76,6 @@ struct DataServer::Implementation {
     explicit Implementation(const DataServerSettings& settings)
         : burstSeconds(settings.burstSeconds)
         , files(settings.folder)
-        , version(files)
     {
     }
 
@@ -97,7 +87,7 @@ struct DataServer::Implementation {
 
     const double burstSeconds;
     PublishedFiles files;
-    PublishedVersion version;
+    std::unique_ptr<VersionFile> versionFile;
     std::string baseAddress;
     std::atomic<int> listeners = 0;
     HttpServer server; // last, so that it has ended before what its threads use goes
@@ -116,9 +106,8 @@ void DataServer::Implementation::configure()
 
 void DataServer::Implementation::publish(const DataServerSettings& settings)
 {
-    files.addBuiltIn(versionName, [this, settings](const std::string& address) {
-        return version.answer().value_or(versionAnswer(settings, address));
-    });
+    files.addBuiltIn(
+        versionName, [this](const std::string& address) { return versionAnswer(versionFile->current(), address); });
     if (settings.content == DataServerSettings::Content::Starter) {
         files.addBuiltIn(listName, [list = encryptedList(starterRecords())](const std::string&) { return list; });
         return;
@@ -179,8 +168,9 @@ void DataServer::Implementation::stream(
 std::unique_ptr<DataServer> DataServer::create(const DataServerSettings& settings, std::string& whyNot)
 {
     auto implementation = std::make_unique<Implementation>(settings);
-    whyNot = implementation->version.fault();
-    if (!whyNot.empty())
+    implementation->versionFile =
+        VersionFile::create(settings.folder, builtInVersion(settings), settings.report, whyNot);
+    if (implementation->versionFile == nullptr)
         return nullptr;
     implementation->configure();
     const int port = implementation->server.listenAt(settings.address, settings.port, whyNot);

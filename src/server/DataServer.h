@@ -3,6 +3,7 @@
 
 #include "base/Text.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -16,17 +17,26 @@ struct DataServerSettings {
         Demo,
     };
 
+    enum class Offer {
+        /// The version below.
+        ThisVersion,
+        /// One that is newer, with notes, so that its user sees how that is told.
+        NewerVersion,
+    };
+
     Content content = Content::Starter;
+    /// What the built-in version answer tells of.
+    Offer offer = Offer::ThisVersion;
     /// The folder whose files are published; empty for the built-in answers alone.
     std::string folder;
     std::string address = "127.0.0.1";
     /// 0 takes a free one.
     int port = 0;
-    /// What the built-in version answer tells: the short version and the build.
+    /// The program's own short version and build.
     std::string version;
     std::string build;
-    /// The built-in version answer offers a version that is newer, with notes.
-    bool offersUpdate = false;
+    /// Told in one sentence what goes wrong while it serves; on any thread.
+    std::function<void(const std::string&)> report = [](const std::string&) {};
     /// How many seconds of a demo stream are sent at once; the rest follows at the speed at which it is played.
     double burstSeconds = 4.0;
 };
@@ -36,11 +46,11 @@ struct DataServerSettings {
 /// `GET /` answers with a small page. `GET /app_data_files/testget.php?file=NAME` and `POST
 /// /app_data_files/testpost.php` with the form field `file=NAME` answer with what is published under that name, status
 /// 404 without. The built-in names are "20161001000000_lr.rdb", the encrypted station list, and "sonavel.ini", the
-/// version.
+/// newest version: what the folder's file "version.txt" says, or else that of the program itself.
 class DataServer {
 public:
-    /// Null when it cannot listen there, or the folder's "version.txt" cannot be published; then `whyNot` is one
-    /// sentence for the user.
+    /// Null when it cannot listen there, or cannot publish the folder's "version.txt"; then `whyNot` is one sentence
+    /// for the user.
     [[nodiscard]] static std::unique_ptr<DataServer> create(const DataServerSettings& settings, std::string& whyNot);
 
     DataServer(const DataServer&) = delete;

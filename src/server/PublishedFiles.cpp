@@ -1,19 +1,15 @@
 #include "server/PublishedFiles.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "server/PublishedFile.h"
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
 #include <utility>
 
 namespace sonavel {
 
 namespace {
 
-constexpr off_t largestFile = off_t{64} * 1024 * 1024;
+constexpr std::size_t largestFile = std::size_t{64} * 1024 * 1024;
 constexpr std::size_t longestName = 255;
 
 bool isPlainName(std::string_view name)
@@ -23,23 +19,6 @@ bool isPlainName(std::string_view name)
                const auto byte = static_cast<unsigned char>(character);
                return byte < 0x20 || byte == 0x7F || byte == '/' || byte == '\\';
            });
-}
-
-std::optional<std::string> readAll(int file)
-{
-    struct stat status { };
-    if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > largestFile)
-        return std::nullopt;
-    std::string content;
-    std::array<char, 65'536> piece{};
-    for (;;) {
-        const ssize_t count = read(file, piece.data(), piece.size());
-        if (count < 0 || content.size() > static_cast<std::size_t>(largestFile))
-            return std::nullopt;
-        if (count == 0)
-            return content;
-        content.append(piece.data(), static_cast<std::size_t>(count));
-    }
 }
 
 } // namespace
@@ -59,13 +38,10 @@ std::optional<std::string> PublishedFiles::contentOf(const std::string& name, co
     if (!isPlainName(name))
         return std::nullopt;
     if (!folder_.empty()) {
-        const int file = open((folder_ + '/' + name).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-        if (file >= 0) {
-            auto content = readAll(file);
-            close(file);
-            return content;
-        }
-        if (errno != ENOENT)
+        PublishedFile file = readPublishedFile(folder_ + '/' + name, largestFile);
+        if (file.state == PublishedFile::State::Read)
+            return std::move(file.content);
+        if (file.state == PublishedFile::State::Unusable)
             return std::nullopt;
     }
     const auto found = builtIn_.find(name);

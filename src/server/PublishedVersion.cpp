@@ -1,51 +1,26 @@
 #include "server/PublishedVersion.h"
 
-#include "server/PublishedFiles.h"
-#include "server/VersionFile.h"
-
-#include <iostream>
-#include <utility>
-
 namespace sonavel {
 
 namespace {
 
-constexpr const char* fileName = "version.txt";
+std::string joined(const std::vector<std::string>& notes)
+{
+    std::string text;
+    for (const std::string& note : notes)
+        text.append(text.empty() ? "" : "\\n").append(note);
+    return text;
+}
 
 } // namespace
 
-PublishedVersion::PublishedVersion(const PublishedFiles& files)
-    : files_(files)
+std::string versionAnswer(const PublishedVersion& published, const std::string& baseAddress)
 {
-}
-
-std::string PublishedVersion::fault()
-{
-    const std::lock_guard guard(mutex_);
-    return read();
-}
-
-std::optional<std::string> PublishedVersion::answer()
-{
-    const std::lock_guard guard(mutex_);
-    const std::string fault = read();
-    if (std::exchange(faultTold_, fault) != fault && !fault.empty())
-        std::cerr << "sonavel-data-server: " << fault << "; what it said before goes on to be published\n";
-    return answer_;
-}
-
-std::string PublishedVersion::read()
-{
-    const auto file = files_.contentOf(fileName, {});
-    if (!file) {
-        answer_.reset();
-        return {};
-    }
-    auto outcome = versionAnswerFrom(*file);
-    if (const auto* fault = std::get_if<VersionFault>(&outcome))
-        return std::string(fileName) + ", " + fault->text;
-    answer_ = std::move(std::get<VersionAnswer>(outcome).text);
-    return {};
+    const auto orOwn = [&](const std::string& address) { return address.empty() ? baseAddress : address; };
+    // Players count the values; the words before them are for people.
+    return "name;Sonavel\rversion;" + published.version + "\rbuild;" + published.build + "\rapplication;"
+        + orOwn(published.application) + "\rpage;" + orOwn(published.page) + "\rnotes;" + joined(published.notes)
+        + "\rreleased;" + published.released + "\rlist changed;" + published.listChanged + '\r';
 }
 
 } // namespace sonavel

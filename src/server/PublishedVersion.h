@@ -1,34 +1,28 @@
-// The version that the maker publishes in "version.txt".
+// The newest version of the program, as the data server tells players of it.
 #pragma once
 
-#include <mutex>
-#include <optional>
 #include <string>
+#include <vector>
 
 namespace sonavel {
 
-class PublishedFiles;
-
-/// Follows the file: what it says counts from the next request on. Safe to ask from several threads.
-class PublishedVersion {
-public:
-    /// Borrows the files.
-    explicit PublishedVersion(const PublishedFiles& files);
-
-    /// Why the file cannot be published, in one sentence; empty when it can, or there is none.
-    [[nodiscard]] std::string fault();
-
-    /// The answer that the file makes. Where it cannot be published, the one that it made last, and the standard error
-    /// output tells why. Nothing when there is no file.
-    [[nodiscard]] std::optional<std::string> answer();
-
-private:
-    [[nodiscard]] std::string read();
-
-    const PublishedFiles& files_;
-    std::mutex mutex_;
-    std::optional<std::string> answer_;
-    std::string faultTold_;
+/// All texts are printable ASCII without ";", and what their names say; notes are without a backslash before an "n".
+struct PublishedVersion {
+    /// Up to three numbers with points between.
+    std::string version;
+    std::string build;
+    /// Web addresses of the program and of the page where the user gets it; empty for the server's own address.
+    std::string application;
+    std::string page;
+    /// Release notes, in their order.
+    std::vector<std::string> notes;
+    /// Dates in the international form: of this version, and of the last change of the station list.
+    std::string released;
+    std::string listChanged;
 };
+
+/// The answer to players: eight values by their position, each a line of its own that ends with a carriage return.
+/// `baseAddress` is where the client reaches the server.
+[[nodiscard]] std::string versionAnswer(const PublishedVersion& published, const std::string& baseAddress);
 
 } // namespace sonavel

@@ -1,140 +1,57 @@
 #include "server/VersionFile.h"
 
-#include "base/Ascii.h"
-#include "base/ForeignText.h"
-#include "base/Moment.h"
-#include "online/RequestAddress.h"
+#include "server/PublishedFile.h"
+#include "server/VersionText.h"
 
-#include <algorithm>
-#include <array>
-#include <optional>
+#include <utility>
 
 namespace sonavel {
 
-namespace {
-
-constexpr std::string_view noteSeparator = "\\n";
-
-struct Fault {
-    std::string why;
-};
-
-std::string quoted(std::string_view name)
+std::unique_ptr<VersionFile> VersionFile::create(
+    const std::string& folder, PublishedVersion builtIn, Report report, std::string& whyNot)
 {
-    std::string text(1, '"');
-    return text.append(name).append("\"");
+    std::unique_ptr<VersionFile> file(new VersionFile(folder, std::move(builtIn), std::move(report)));
+    const std::string mistake = file->readAnew();
+    if (mistake.empty())
+        return file;
+    whyNot = mistake + '.';
+    return nullptr;
 }
 
-bool isNumber(std::string_view text)
+VersionFile::VersionFile(const std::string& folder, PublishedVersion builtIn, Report report)
+    : path_(folder.empty() ? std::string() : folder + '/' + std::string(fileName))
+    , builtIn_(std::move(builtIn))
+    , report_(std::move(report))
+    , lastGood_(builtIn_)
 {
-    constexpr std::size_t mostDigits = 18; // more do not fit into what players compare
-    return !text.empty() && text.size() <= mostDigits && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-bool isVersion(std::string_view text)
+PublishedVersion VersionFile::current()
 {
-    int parts = 1;
-    for (std::size_t dot = text.find('.'); dot != std::string_view::npos; dot = text.find('.'), ++parts) {
-        if (!isNumber(text.substr(0, dot)))
-            return false;
-        text.remove_prefix(dot + 1);
-    }
-    return isNumber(text) && parts <= 3;
+    const std::lock_guard lock(mutex_);
+    std::string mistake = readAnew();
+    if (!mistake.empty() && mistake != reported_)
+        report_(mistake + "; the last good version stays published.");
+    reported_ = std::move(mistake);
+    return lastGood_;
 }
 
-bool isWebAddress(std::string_view text)
+/// Half a sentence about what is wrong; empty when nothing is.
+std::string VersionFile::readAnew()
 {
-    return !usableWebAddress(text).isAbsent();
-}
-
-bool isDate(std::string_view text)
-{
-    return momentFromInternationalForm(text).has_value();
-}
-
-bool isNote(std::string_view text)
-{
-    return text.find(noteSeparator) == std::string_view::npos;
-}
-
-struct Key {
-    std::string_view name;
-    bool (*isValid)(std::string_view);
-    const char* kind;
-    bool mayRepeat = false;
-};
-
-/// In the order in which the answer has them; the name of the program comes first.
-constexpr std::array keys{
-    Key{"version", isVersion, "up to three numbers with dots between them"},
-    Key{"build", isNumber, "a number"},
-    Key{"application", isWebAddress, "an http or https address"},
-    Key{"page", isWebAddress, "an http or https address"},
-    Key{"note", isNote, "a text without a backslash before an \"n\", which separates notes", true},
-    Key{"released", isDate, "a date such as 2026-11-01 00:00:00 +0000"},
-    Key{"list changed", isDate, "a date such as 2026-11-01 00:00:00 +0000"},
-};
-
-using Values = std::array<std::optional<std::string>, keys.size()>;
-
-bool canBeSent(std::string_view value)
-{
-    return std::all_of(value.begin(), value.end(), [](char character) {
-        const auto byte = static_cast<unsigned char>(character);
-        return byte >= 0x20 && byte < 0x7F && character != ';';
-    });
-}
-
-void take(std::string_view line, Values& values)
-{
-    const std::size_t equals = line.find('=');
-    if (equals == std::string_view::npos)
-        throw Fault{"it has no \"=\""};
-    const std::string_view name = withoutOuterBlanks(line.substr(0, equals));
-    const std::string_view value = withoutOuterBlanks(line.substr(equals + 1));
-    const auto* key = std::find_if(keys.begin(), keys.end(), [name](const Key& known) { return known.name == name; });
-    if (key == keys.end())
-        throw Fault{quoted(name).append(" is not known")};
-    if (!canBeSent(value))
-        throw Fault{"only printable ASCII characters without \";\" can be sent"};
-    if (!key->isValid(value))
-        throw Fault{quoted(name).append(" has to be ").append(key->kind)};
-    auto& former = values[static_cast<std::size_t>(key - keys.begin())];
-    if (former && !key->mayRepeat)
-        throw Fault{quoted(name).append(" stands there twice")};
-    former = former ? former->append(noteSeparator).append(value) : std::string(value);
-}
-
-std::string answerOf(const Values& values)
-{
-    std::string answer = "name;Sonavel\r";
-    for (std::size_t index = 0; index < keys.size(); ++index)
-        answer.append(keys[index].name).append(";").append(values[index].value_or("")).append("\r");
-    return answer;
-}
-
-} // namespace
-
-std::variant<VersionAnswer, VersionFault> versionAnswerFrom(std::string_view file)
-{
-    file = withoutByteOrderMark(file);
-    Values values;
-    for (int number = 1; !file.empty(); ++number) {
-        const std::size_t end = file.find('\n');
-        const std::string_view line = withoutOuterBlanks(file.substr(0, end));
-        file.remove_prefix(std::min(end, file.size() - 1) + 1);
-        if (line.empty() || line.front() == '#')
-            continue;
-        try {
-            take(line, values);
-        } catch (const Fault& fault) {
-            return VersionFault{"line " + std::to_string(number) + ": " + fault.why};
-        }
-    }
-    for (const std::size_t required : {0U, 1U})
-        if (!values[required])
-            return VersionFault{quoted(keys[required].name).append(" is missing")};
-    return VersionAnswer{answerOf(values)};
+    if (path_.empty())
+        return {};
+    const PublishedFile file = readPublishedFile(path_, largestFile);
+    if (file.state == PublishedFile::State::Absent)
+        return wasThere_ ? path_ + ": the file has gone" : std::string();
+    if (file.state == PublishedFile::State::Unusable)
+        return path_ + ": it cannot be read as a plain file of at most 64 KiB";
+    auto outcome = publishedVersionFromText(file.content, builtIn_);
+    if (const auto* mistake = std::get_if<VersionTextMistake>(&outcome))
+        return path_ + ", line " + std::to_string(mistake->line) + ": " + mistake->why;
+    lastGood_ = std::get<PublishedVersion>(std::move(outcome));
+    wasThere_ = true;
+    return {};
 }
 
 } // namespace sonavel

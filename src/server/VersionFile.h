@@ -1,35 +1,52 @@
-// What the maker publishes of the newest version: a small file that people can read and write.
+// The newest version as the maker states it in a file that he may change while the data server runs.
 #pragma once
 
+#include "server/PublishedVersion.h"
+
+#include <functional>
+#include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
-#include <variant>
 
 namespace sonavel {
 
-/// The answer to players that ask for the newest version, made of such a file:
+/// Reads the file "version.txt" of a folder, anew each time it is asked. A file that has become unusable, or has gone,
+/// changes nothing: the last good version stays, and what is wrong is reported once.
 ///
-///     # What players are told.
-///     version = 1.3.0
-///     build = 8
-///     page = https://example.org/sonavel
-///     application = https://example.org/sonavel/sonavel.deb
-///     note = Plays everything.
-///     note = Faster.
-///     released = 2026-11-01 00:00:00 +0000
-///     list changed = 2026-11-02 06:30:00 +0000
-///
-/// `version` and `build` must be there; the others may be left out, and notes may be many. Empty lines and those that
-/// begin with "#" are skipped.
-struct VersionAnswer {
-    std::string text;
-};
+/// Safe to ask from several threads.
+class VersionFile {
+public:
+    static constexpr std::string_view fileName = "version.txt";
+    static constexpr std::size_t largestFile = 65'536;
 
-/// Why a file cannot be published: one sentence with the number of the line.
-struct VersionFault {
-    std::string text;
-};
+    using Report = std::function<void(const std::string& sentence)>;
 
-[[nodiscard]] std::variant<VersionAnswer, VersionFault> versionAnswerFrom(std::string_view file);
+    /// Null when there is a file that cannot be published; then `whyNot` is one sentence with file, line and reason.
+    /// Without a file, as in an empty `folder`, `builtIn` is the version until there is one. `report` is called within
+    /// `current`.
+    [[nodiscard]] static std::unique_ptr<VersionFile> create(
+        const std::string& folder, PublishedVersion builtIn, Report report, std::string& whyNot);
+
+    VersionFile(const VersionFile&) = delete;
+    VersionFile& operator=(const VersionFile&) = delete;
+    ~VersionFile() = default;
+
+    /// The version to publish now.
+    [[nodiscard]] PublishedVersion current();
+
+private:
+    VersionFile(const std::string& folder, PublishedVersion builtIn, Report report);
+
+    [[nodiscard]] std::string readAnew();
+
+    const std::string path_; ///< empty without a folder
+    const PublishedVersion builtIn_;
+    const Report report_;
+    std::mutex mutex_;
+    PublishedVersion lastGood_;
+    bool wasThere_ = false;
+    std::string reported_;
+};
 
 } // namespace sonavel

@@ -74,7 +74,7 @@ Text keep(Files& files, const Text& path, std::string_view reason, Keep operatio
     const CopyNames names(path.view(), reason);
     CopiesByNumber copies = copiesPresent(files, names);
     const std::uint32_t number = copies.empty() ? 1 : copies.rbegin()->first + 1;
-    const Text copy = names.pathOf(number);
+    Text copy = names.pathOf(number);
     if (!(files.*operation)(path, copy))
         return {};
     copies.emplace(number, copy);

@@ -26,15 +26,21 @@ constexpr const char* help = "Usage: sonavel-data-server [OPTION]...\n"
                              "  --port N           listen at this port; 0, as without this option, takes a free one\n"
                              "  --address ADDRESS  listen at this address (127.0.0.1)\n"
                              "  --demo             offer three demo stations, and stream them\n"
-                             "  --demo-update      with --demo: offer a newer version, too\n"
+                             "  --demo-update      with --demo: offer a newer version, which does not exist\n"
                              "  --version          print the version\n"
                              "  --help             print this\n\n"
                              "Prints \"listening on http://HOST:PORT/\", which reaches it on this machine, once it\n"
                              "does. SIGTERM and SIGINT end it.\n";
 
+/// In one piece, so that what several threads tell stays apart.
+void tell(const std::string& what)
+{
+    std::cerr << "sonavel-data-server: " + what + '\n';
+}
+
 [[noreturn]] void refuse(const std::string& why)
 {
-    std::cerr << "sonavel-data-server: " << why << '\n';
+    tell(why);
     std::exit(usageError);
 }
 
@@ -60,12 +66,13 @@ DataServerSettings settingsFrom(int argc, char** argv)
     DataServerSettings settings;
     settings.version = SONAVEL_VERSION;
     settings.build = SONAVEL_BUILD;
+    settings.report = tell;
     constexpr std::array options{
         option{"directory", required_argument, nullptr, 'd'},
         option{"port", required_argument, nullptr, 'p'},
         option{"address", required_argument, nullptr, 'a'},
         option{"demo", no_argument, nullptr, 'D'},
-        option{"demo-update", no_argument, nullptr, 'u'},
+        option{"demo-update", no_argument, nullptr, 'U'},
         option{"version", no_argument, nullptr, 'V'},
         option{"help", no_argument, nullptr, 'h'},
         option{},
@@ -84,8 +91,8 @@ DataServerSettings settingsFrom(int argc, char** argv)
         case 'D':
             settings.content = DataServerSettings::Content::Demo;
             break;
-        case 'u':
-            settings.offersUpdate = true;
+        case 'U':
+            settings.offer = DataServerSettings::Offer::NewerVersion;
             break;
         case 'V':
             std::cout << "sonavel-data-server " << SONAVEL_VERSION << '\n';
@@ -97,10 +104,11 @@ DataServerSettings settingsFrom(int argc, char** argv)
             std::exit(usageError);
         }
     }
-    if (settings.offersUpdate && settings.content != DataServerSettings::Content::Demo)
-        refuse("--demo-update needs --demo");
     if (optind < argc)
         refuse(std::string("it does not know what to do with ") + argv[optind]);
+    if (settings.offer == DataServerSettings::Offer::NewerVersion
+        && settings.content != DataServerSettings::Content::Demo)
+        refuse("--demo-update goes with --demo alone");
     return settings;
 }
 
@@ -124,7 +132,7 @@ int main(int argc, char** argv)
     std::string whyNot;
     const auto server = DataServer::create(settings, whyNot);
     if (server == nullptr) {
-        std::cerr << "sonavel-data-server: " << whyNot << '\n';
+        tell(whyNot);
         return EXIT_FAILURE;
     }
     std::cout << "listening on " << server->baseAddress().view() << std::endl;

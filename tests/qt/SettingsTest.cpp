@@ -51,6 +51,8 @@ TEST(Settings, TheDemoTouchesNothingThatIsConfigured)
     const Settings demo = accepted({"--demo"}, environment, {{"data-server", "http://file/"}});
     EXPECT_TRUE(demo.isDemo);
     EXPECT_EQ(demo.home + demo.dataServer + demo.probe, "");
+    EXPECT_FALSE(demo.offersUpdate);
+    EXPECT_TRUE(accepted({"--demo-update", "--demo"}).offersUpdate);
     EXPECT_EQ(accepted({"--demo", "--home", existing}).home, QDir::cleanPath(existing));
 }
 
@@ -71,6 +73,7 @@ TEST(Settings, AMistakeIsOneLineAndStatusTwo)
         {{"--probe", "http://"}, "--probe"},
         {{"--appearance", "pink"}, "pink"},
         {{"--demo=yes"}, "demo"},
+        {{"--demo-update"}, "--demo"},
         {{"stations.csv"}, "stations.csv"},
     };
     for (const auto& mistake : mistakes) {

@@ -4,6 +4,9 @@
 #include "model/KVStationWebRadio.h"
 #include "model/NameOrder.h"
 #include "model/StationListText.h"
+#include "online/RequestAddress.h"
+#include "online/VersionRecord.h"
+#include "platform/Bundle.h"
 #include "playback/StreamAddress.h"
 #include "server/ConnectionThreads.h"
 #include "server/Stations.h"
@@ -86,30 +89,30 @@ TEST_F(DataServerTest, TheVersionAnswerHasItsEightValuesInTheirPlaces)
     EXPECT_TRUE(momentFromInternationalForm(values[7]));
 }
 
-TEST_F(DataServerTest, AVersionFileIsFollowedAndItsFaultsLeaveTheFormerVersion)
+TEST_F(DataServerTest, TheStatedVersionIsAnsweredUnlessTheAnswerItselfIsPublished)
 {
-    test::TemporaryFolder folder;
-    DataServerSettings published = settings();
-    published.folder = folder.path();
-    folder.put("version.txt", "version = 1\n");
-    std::string whyNot;
-    EXPECT_EQ(DataServer::create(published, whyNot), nullptr);
-    EXPECT_EQ(whyNot, "version.txt, \"build\" is missing");
+    const test::TemporaryFolder folder;
+    folder.put("version.txt", "version = 1.3.0\nbuild = 8\n");
+    DataServerSettings withFolder = settings();
+    withFolder.folder = folder.path();
+    start(withFolder);
+    EXPECT_EQ(get("?file=sonavel.ini").find("name;Sonavel\rversion;1.3.0\rbuild;8\r"), 0U);
+    folder.put("sonavel.ini", "of the maker's own");
+    EXPECT_EQ(get("?file=sonavel.ini"), "of the maker's own");
+}
 
-    folder.put("version.txt", "version = 7.0.0\nbuild = 1\n");
-    start(published);
-    const auto version = [&] {
-        const auto answer =
-            client_->Post("/app_data_files/testpost.php", "file=sonavel.ini", "application/x-www-form-urlencoded");
-        return answer ? answer->body.substr(0, answer->body.find("\rbuild")) : "no answer";
-    };
-    EXPECT_EQ(version(), "name;Sonavel\rversion;7.0.0");
-    folder.put("version.txt", "version = 8.0.0\nbuild = x\n");
-    EXPECT_EQ(version(), "name;Sonavel\rversion;7.0.0");
-    folder.put("version.txt", "version = 8.0.0\nbuild = 2\n");
-    EXPECT_EQ(version(), "name;Sonavel\rversion;8.0.0");
-    folder.put("sonavel.ini", "the maker's own");
-    EXPECT_EQ(version(), "the maker's own");
+TEST_F(DataServerTest, TheUpdateOfTheDemoIsNewerThanWhatRunsAndHasNotes)
+{
+    DataServerSettings offering = settings();
+    offering.content = DataServerSettings::Content::Demo;
+    offering.offer = DataServerSettings::Offer::NewerVersion;
+    start(offering);
+    const auto record = serverVersionRecord(get("?file=sonavel.ini"));
+    ASSERT_TRUE(record);
+    EXPECT_TRUE(isAnyNumberHigher(*record, applicationVersionRecord({"Sonavel", "3.4.5", "12"})));
+    EXPECT_EQ(versionText(*record), "4.0.0 (13)");
+    EXPECT_NE(releaseNotes(*record), "- \n");
+    EXPECT_FALSE(usableWebAddress(record->LinkPage).isAbsent());
 }
 
 TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)

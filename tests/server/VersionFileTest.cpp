@@ -1,59 +1,93 @@
-// The file in which the maker publishes the newest version.
 #include "server/VersionFile.h"
 
-#include "online/VersionRecord.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace sonavel {
 namespace {
 
-TEST(VersionFile, WhatItSaysIsWhatPlayersRead)
+const std::string name(VersionFile::fileName);
+
+std::string stating(const std::string& version)
 {
-    const auto outcome =
-        versionAnswerFrom("\xEF\xBB\xBF# news\r\n\r\nversion = 1.3.0\r\nbuild=8\n page = https://x.example/?a=1 \n"
-                          "note = One = two.\nnote=\nnote = Three\n"
-                          "released = 2026-11-01 00:00:00 +0000\nlist changed = 2026-11-02 06:30:00 +0000");
-    ASSERT_TRUE(std::holds_alternative<VersionAnswer>(outcome)) << std::get<VersionFault>(outcome).text;
-    const auto record = serverVersionRecord(std::get<VersionAnswer>(outcome).text);
-    ASSERT_TRUE(record);
-    EXPECT_EQ(versionText(*record), "1.3.0 (8)");
-    EXPECT_EQ(record->LinkPage, "https://x.example/?a=1");
-    EXPECT_EQ(releaseNotes(*record), "- One = two.\n- \n- Three\n");
-    EXPECT_EQ(record->updateApp, "2026-11-01 00:00:00 +0000");
-    EXPECT_EQ(record->updateData, "2026-11-02 06:30:00 +0000");
-    EXPECT_EQ(record->LinkApp, "");
+    return "version = " + version + "\nbuild = 8\n";
 }
 
-TEST(VersionFile, WhatCannotBeSentIsRefusedWithItsLine)
-{
-    const std::string good = "version = 1.3.0\nbuild = 8\n";
-    const std::pair<std::string, const char*> cases[] = {
-        {"", "\"version\" is missing"},
-        {"version = 1\n", "\"build\" is missing"},
-        {good + "note = a;b\n", "line 3: only printable ASCII characters without \";\" can be sent"},
-        {good + "\nnote = caf\xC3\xA9\n", "line 4: only printable ASCII characters without \";\" can be sent"},
-        {good + "note = a\rb\n", "line 3: only printable ASCII characters without \";\" can be sent"},
-        {good + "note = a\\nb\n",
-            "line 3: \"note\" has to be a text without a backslash before an \"n\", which separates notes"},
-        {good + "released = 2026-02-30 00:00:00 +0000\n",
-            "line 3: \"released\" has to be a date such as 2026-11-01 00:00:00 +0000"},
-        {good + "list changed = tomorrow\n",
-            "line 3: \"list changed\" has to be a date such as 2026-11-01 00:00:00 +0000"},
-        {good + "page = ftp://x/\n", "line 3: \"page\" has to be an http or https address"},
-        {good + "build = 9\n", "line 3: \"build\" stands there twice"},
-        {good + "color = red\n", "line 3: \"color\" is not known"},
-        {good + "nonsense\n", "line 3: it has no \"=\""},
-        {"version = 1.2.3.4\n", "line 1: \"version\" has to be up to three numbers with dots between them"},
-        {"version = 1.\n", "line 1: \"version\" has to be up to three numbers with dots between them"},
-        {"build = -1\n", "line 1: \"build\" has to be a number"},
-        {"build = 9999999999999999999\n", "line 1: \"build\" has to be a number"},
-    };
-    for (const auto& [file, why] : cases) {
-        const auto outcome = versionAnswerFrom(file);
-        ASSERT_TRUE(std::holds_alternative<VersionFault>(outcome)) << file;
-        EXPECT_EQ(std::get<VersionFault>(outcome).text, why);
+class VersionFileTest : public testing::Test {
+protected:
+    std::unique_ptr<VersionFile> create()
+    {
+        PublishedVersion builtIn;
+        builtIn.version = "0.1.0";
+        return VersionFile::create(
+            folder_.path(), builtIn, [this](const std::string& sentence) { reports_.push_back(sentence); }, whyNot_);
     }
+
+    const test::TemporaryFolder folder_;
+    std::vector<std::string> reports_;
+    std::string whyNot_;
+};
+
+TEST_F(VersionFileTest, AChangeCountsAtOnce)
+{
+    const auto file = create();
+    ASSERT_NE(file, nullptr) << whyNot_;
+    EXPECT_EQ(file->current().version, "0.1.0");
+    for (const char* version : {"1.3.0", "1.4.0"}) {
+        folder_.put(name, stating(version));
+        EXPECT_EQ(file->current().version, version);
+    }
+    EXPECT_TRUE(reports_.empty());
+}
+
+TEST_F(VersionFileTest, AFileThatBecomesUnusableLeavesTheLastGoodVersionAndIsReportedOnce)
+{
+    folder_.put(name, stating("1.3.0"));
+    const auto file = create();
+    ASSERT_NE(file, nullptr) << whyNot_;
+
+    folder_.put(name, stating("2;0"));
+    for (int request = 0; request < 3; ++request)
+        EXPECT_EQ(file->current().version, "1.3.0");
+    ASSERT_EQ(reports_.size(), 1U);
+    EXPECT_EQ(reports_[0].find(folder_.path(name) + ", line 1: "), 0U) << reports_[0];
+
+    ASSERT_EQ(::unlink(folder_.path(name).c_str()), 0);
+    EXPECT_EQ(file->current().version, "1.3.0");
+    EXPECT_EQ(file->current().version, "1.3.0");
+    EXPECT_EQ(reports_.size(), 2U);
+
+    folder_.put(name, stating("1.4.0"));
+    EXPECT_EQ(file->current().version, "1.4.0");
+    folder_.put(name, stating("2;0"));
+    EXPECT_EQ(file->current().version, "1.4.0");
+    EXPECT_EQ(reports_.size(), 3U);
+}
+
+TEST_F(VersionFileTest, WhatCannotBePublishedAtTheStartIsRefusedInOneSentence)
+{
+    const auto expectRefusal = [&](const std::string& reason) {
+        whyNot_.clear();
+        EXPECT_EQ(create(), nullptr) << reason;
+        EXPECT_EQ(whyNot_.find(folder_.path(name)), 0U) << whyNot_;
+        EXPECT_NE(whyNot_.find(reason), std::string::npos) << whyNot_;
+        EXPECT_EQ(whyNot_.back(), '.') << whyNot_;
+        ASSERT_EQ(::remove(folder_.path(name).c_str()), 0);
+    };
+    folder_.put(name, "version = 1.3.0\nbuild = many\n");
+    expectRefusal(", line 2: \"build\" takes");
+    folder_.put(name, stating("1.3.0") + '#' + std::string(VersionFile::largestFile, 'x'));
+    expectRefusal("64 KiB");
+    ASSERT_EQ(::mkdir(folder_.path(name).c_str(), 0700), 0);
+    expectRefusal("plain file");
+    ASSERT_EQ(::mkfifo(folder_.path(name).c_str(), 0600), 0);
+    expectRefusal("plain file");
+    ASSERT_EQ(::symlink("/etc/passwd", folder_.path(name).c_str()), 0);
+    expectRefusal("plain file");
+    EXPECT_TRUE(reports_.empty());
 }
 
 } // namespace

@@ -1,0 +1,13 @@
+// The version that the data server tells of unless its maker states one.
+#pragma once
+
+#include "server/PublishedVersion.h"
+
+namespace sonavel {
+
+struct DataServerSettings;
+
+/// The version of the settings, or the one that they offer in its place.
+[[nodiscard]] PublishedVersion builtInVersion(const DataServerSettings& settings);
+
+} // namespace sonavel

@@ -1,0 +1,192 @@
+#include "server/VersionText.h"
+
+#include "base/Ascii.h"
+#include "base/ForeignText.h"
+#include "base/Moment.h"
+#include "base/Numbers.h"
+#include "online/RequestAddress.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <set>
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+constexpr std::size_t mostNumbers = 3;
+/// Of a strange line in a complaint.
+constexpr std::size_t longestQuotation = 40;
+
+/// Whether it is a number that players can compare, which count in 64 bits.
+bool isNumber(std::string_view text)
+{
+    std::int64_t number = 0;
+    return !text.empty() && std::all_of(text.begin(), text.end(), isDigit)
+        && std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();
+}
+
+bool isVersion(std::string_view text)
+{
+    for (std::size_t count = 1; count <= mostNumbers; ++count) {
+        const std::size_t end = text.find('.');
+        if (!isNumber(text.substr(0, end)))
+            return false;
+        if (end == std::string_view::npos)
+            return true;
+        text.remove_prefix(end + 1);
+    }
+    return false;
+}
+
+bool isWebAddress(std::string_view text)
+{
+    return !usableWebAddress(Text(text)).isAbsent();
+}
+
+bool isDate(std::string_view text)
+{
+    return momentFromInternationalForm(Text(text)).has_value();
+}
+
+bool isOneNote(std::string_view text)
+{
+    return text.find("\\n") == std::string_view::npos;
+}
+
+struct Key {
+    std::string_view name;
+    std::string PublishedVersion::*place; ///< null for what is added to the notes
+    bool (*accepts)(std::string_view value);
+    const char* mistake; ///< the end of a sentence that begins with the key
+};
+
+constexpr const char* noAddress = "takes a complete http or https address";
+constexpr const char* noDate = "takes a date that exists, such as 2026-11-01 00:00:00 +0000";
+constexpr std::array keys = {
+    Key{"version", &PublishedVersion::version, isVersion, "takes up to three numbers with points, such as 1.3.0"},
+    Key{"build", &PublishedVersion::build, isNumber, "takes a number without a sign, such as 8"},
+    Key{"application", &PublishedVersion::application, isWebAddress, noAddress},
+    Key{"page", &PublishedVersion::page, isWebAddress, noAddress},
+    Key{"note", nullptr, isOneNote, R"(holds "\n", which separates notes: each takes a line "note = " of its own)"},
+    Key{"released", &PublishedVersion::released, isDate, noDate},
+    Key{"list changed", &PublishedVersion::listChanged, isDate, noDate},
+};
+
+std::string quoted(std::string_view words)
+{
+    const Text shown = Text(withoutControls(utf8FromForeign(words)));
+    return '"' + shown.prefix(longestQuotation).string() + '"';
+}
+
+std::string namesOfKeys()
+{
+    std::string names;
+    for (const Key& key : keys)
+        names.append(names.empty() ? "" : ", ").append(key.name);
+    return names;
+}
+
+/// What keeps any value from being a field of the answer; empty when nothing does.
+std::string_view obstacleIn(std::string_view value)
+{
+    for (const char character : value) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (character == ';')
+            return "a \";\"";
+        if (byte < 0x20 || byte == 0x7F)
+            return "a control character";
+        if (byte > 0x7F)
+            return "a character outside ASCII";
+    }
+    return {};
+}
+
+/// Half a sentence about what is wrong; caught before it leaves this file.
+struct Mistake {
+    std::string why;
+};
+
+class VersionTextReader {
+public:
+    explicit VersionTextReader(PublishedVersion usual)
+        : published_(std::move(usual))
+    {
+        published_.notes.clear();
+    }
+
+    void readLine(std::string_view line)
+    {
+        line = withoutOuterBlanks(line);
+        if (line.empty() || line.front() == '#')
+            return;
+        const std::size_t sign = line.find('=');
+        if (sign == std::string_view::npos)
+            throw Mistake{quoted(line) + " has no \"=\" between a key and a value"};
+        setValue(keyNamed(withoutOuterBlanks(line.substr(0, sign))), withoutOuterBlanks(line.substr(sign + 1)));
+    }
+
+    [[nodiscard]] PublishedVersion finished() const
+    {
+        for (const std::string_view name : {"version", "build"}) {
+            if (!given_.contains(name))
+                throw Mistake{"the file ends without a " + quoted(name)};
+        }
+        return published_;
+    }
+
+private:
+    static const Key& keyNamed(std::string_view name)
+    {
+        const auto* const key =
+            std::find_if(keys.begin(), keys.end(), [&](const Key& each) { return each.name == name; });
+        if (key == keys.end())
+            throw Mistake{quoted(name) + " is none of the keys " + namesOfKeys()};
+        return *key;
+    }
+
+    void setValue(const Key& key, std::string_view value)
+    {
+        if (value.empty())
+            throw Mistake{quoted(key.name) + " has no value"};
+        if (const std::string_view obstacle = obstacleIn(value); !obstacle.empty())
+            throw Mistake{quoted(key.name) + " holds " + std::string(obstacle) + ", which the answer cannot carry"};
+        if (!key.accepts(value))
+            throw Mistake{quoted(key.name) + ' ' + key.mistake};
+        if (key.place == nullptr) {
+            published_.notes.emplace_back(value);
+            return;
+        }
+        if (!given_.insert(key.name).second)
+            throw Mistake{quoted(key.name) + " is given a second time"};
+        published_.*key.place = value;
+    }
+
+    PublishedVersion published_;
+    std::set<std::string_view> given_;
+};
+
+} // namespace
+
+std::variant<PublishedVersion, VersionTextMistake> publishedVersionFromText(
+    std::string_view text, PublishedVersion usual)
+{
+    VersionTextReader reader(std::move(usual));
+    std::size_t line = 0;
+    try {
+        for (std::string_view rest = withoutByteOrderMark(text); !rest.empty();) {
+            ++line;
+            const std::string_view content = rest.substr(0, rest.find('\n'));
+            reader.readLine(content);
+            rest.remove_prefix(std::min(content.size() + 1, rest.size()));
+        }
+        return reader.finished();
+    } catch (const Mistake& mistake) {
+        return VersionTextMistake{std::max<std::size_t>(line, 1), mistake.why};
+    }
+}
+
+} // namespace sonavel
