@@ -50,9 +50,10 @@ constexpr const char* buildNumber = "1";
 /// Beside the player in the build, in the folder for such programs when installed.
 std::string enginePath()
 {
-    const QString folder = QCoreApplication::applicationDirPath();
-    const QString beside = folder + QStringLiteral("/sonavel-engine");
-    return (QFile::exists(beside) ? beside : folder + QStringLiteral("/../libexec/sonavel-engine")).toStdString();
+    const QString folder = QCoreApplication::applicationDirPath() + u'/';
+    const QString beside = folder + QStringLiteral("sonavel-engine");
+    const QString installed = folder + QStringLiteral(SONAVEL_ENGINE_FOLDER "/sonavel-engine");
+    return (QFile::exists(beside) ? beside : installed).toStdString();
 }
 
 QLocale localeOf(const Settings& settings)
