@@ -34,6 +34,7 @@ class DesktopServicesTest(unittest.TestCase):
     def end(self, process):
         process.terminate()
         self.assertEqual(process.wait(10), 0)
+        wait_until(lambda: not self.desk.is_shown("Sonavel"), "the window to be gone")
 
     def media(self, *command):
         return subprocess.run(["playerctl", "--player=sonavel", *command], env=self.desk.environment,
