@@ -13,6 +13,7 @@
 #include "ui/Outlets.h"
 
 #include <algorithm>
+#include <memory_resource>
 #include <string>
 #include <unordered_set>
 
@@ -50,7 +51,8 @@ public:
 private:
     const bool isMerging_;
     bool hasDuplicates_ = false;
-    std::unordered_set<std::string_view> names_;
+    std::pmr::monotonic_buffer_resource memory_; ///< one after the other, which the processor's caches like
+    std::pmr::unordered_set<std::string_view> names_{&memory_};
 };
 
 } // namespace
