@@ -125,6 +125,9 @@ class Desktop:
                                capture_output=True, text=True, check=False)
         return found.stdout.split()
 
+    def number_of_windows(self, title):
+        return len(self._windows(title))
+
     def is_shown(self, title):
         return bool(self._windows(title))
 

@@ -36,6 +36,13 @@ class DesktopServicesTest(unittest.TestCase):
         self.assertEqual(process.wait(10), 0)
         wait_until(lambda: not self.desk.is_shown("Sonavel"), "the window to be gone")
 
+    def small_server(self):
+        server = SmallServer()
+        self.addCleanup(server.server_close)
+        self.addCleanup(server.shutdown)
+        self.addCleanup(server.answering.set)
+        return server
+
     def media(self, *command):
         return subprocess.run(["playerctl", "--player=sonavel", *command], env=self.desk.environment,
                               capture_output=True, text=True, check=False).stdout.strip()
@@ -80,10 +87,44 @@ class DesktopServicesTest(unittest.TestCase):
         self.assertEqual(second.wait(20), 0)
         self.desk.window("Sonavel")
 
+    def test_a_second_start_made_while_the_first_waits_for_its_server_is_one_start(self):
+        server = self.small_server()
+        server.answering.clear()
+        command = [BUILD / "sonavel", "--home", self.home, "--data-server", server.address, "--probe", server.address]
+        first = self.desk.start(command)
+        wait_until(lambda: server.requests, "the first start's request")
+        second = self.desk.start(command)
+        self.assertEqual(second.wait(20), 0)
+        self.assertFalse(self.desk.is_shown("Sonavel"))
+        server.answering.set()
+        self.desk.window("Sonavel")
+        wait_until(lambda: self.media("status") == "Stopped", "the player on the message bus")
+        self.end(first)
+
+    def test_media_keys_wait_for_the_answer_to_a_question_and_work_beside_a_sheet(self):
+        self.start("--demo")
+        self.media("next")
+        self.media("play")
+        self.expect("Playing", "status")
+        volume = self.media("volume")
+        self.desk.activate("Sonavel")
+        self.desk.keys("ctrl+q")
+        wait_until(lambda: self.desk.number_of_windows("Sonavel") == 2, "the question")
+        self.media("pause")
+        self.media("volume", "0.25")
+        self.assertEqual((self.media("status"), self.media("volume")), ("Playing", volume))
+        self.desk.keys("Escape")
+        self.expect("Paused", "status")
+        self.expect("0.250000", "volume")
+
+        self.desk.activate("Sonavel")
+        self.desk.keys("ctrl+comma")
+        self.desk.window("Preferences")
+        self.media("play")
+        self.expect("Playing", "status")
+
     def test_a_stream_is_asked_for_again_at_once_after_sleep_and_when_the_network_is_back(self):
-        server = SmallServer()
-        self.addCleanup(server.server_close)
-        self.addCleanup(server.shutdown)
+        server = self.small_server()
         database = Path(self.home, "Library/Preferences/radiolist.csv")
         database.parent.mkdir(parents=True)
         database.write_text(f"Gone;{server.address}gone\r")

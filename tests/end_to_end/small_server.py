@@ -6,10 +6,13 @@ import threading
 
 class SmallServer(http.server.ThreadingHTTPServer):
     """Answers the probe, publishes an empty list and no version, and has no stream at /gone. Counts who asks for that, and
-    for the version."""
+    for the version. Keeps everybody waiting while it is not `answering`."""
 
     def __init__(self):
         super().__init__(("127.0.0.1", 0), SmallServer.Handler)
+        self.answering = threading.Event()
+        self.answering.set()
+        self.requests = 0
         self.attempts = 0
         self.checks = 0
         threading.Thread(target=self.serve_forever, daemon=True).start()
@@ -20,6 +23,8 @@ class SmallServer(http.server.ThreadingHTTPServer):
 
     class Handler(http.server.BaseHTTPRequestHandler):
         def do_GET(self):
+            self.server.requests += 1
+            self.server.answering.wait()
             self.server.attempts += self.path == "/gone"
             found = self.path != "/gone"
             self.send_response(200 if found else 404)
