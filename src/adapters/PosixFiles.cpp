@@ -111,7 +111,7 @@ bool PosixFiles::keepCopy(const Text& path, const Text& copy)
     // File systems without hard links, or a folder on another one.
     if (failure && failure != std::errc::file_exists)
         failure = copyAs(original, copy.string());
-    return failure == std::errc::file_exists ? false : tell(failure, copy);
+    return tell(failure, copy);
 }
 
 std::error_code PosixFiles::linkAs(const std::string& path, const std::string& copy)

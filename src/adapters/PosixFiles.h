@@ -21,8 +21,7 @@ public:
 
     explicit PosixFiles(const Text& homeDirectory, std::unique_ptr<FileCalls> calls = std::make_unique<FileCalls>());
 
-    /// Hears of every failed `writeAtomically` and `makeFolder`, and of a `keepCopy` that failed for another reason
-    /// than a taken name.
+    /// Hears of every failed `writeAtomically`, `makeFolder` and `keepCopy`.
     void setWriteFailureObserver(WriteFailureObserver observer) { writeFailureObserver_ = std::move(observer); }
 
     [[nodiscard]] Text homeDirectory() const override { return homeDirectory_; }

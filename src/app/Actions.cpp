@@ -82,7 +82,8 @@ void Actions::wireUpdates()
     });
 }
 
-/// What the item of the preferences does is told by itself and not by its tag.
+/// The tag of the preferences' item tells when it is enabled, and nothing to do: its own action takes the place of the
+/// tag's.
 void Actions::wireItems()
 {
     for (ToolbarItem* item :

@@ -75,19 +75,19 @@ void MediaControls::stop()
 
 void MediaControls::next()
 {
-    step(false);
+    perform(Step::Next);
 }
 
 void MediaControls::previous()
 {
-    step(true);
+    perform(Step::Previous);
 }
 
-void MediaControls::step(bool previous)
+void MediaControls::perform(Step step)
 {
-    actions_.perform(&outlets_.popupbuttonRadioList.action, [previous](Controller& c) {
+    actions_.perform(&outlets_.popupbuttonRadioList.action, [step](Controller& c) {
         if (c.stationList.numberOfStations() > 0)
-            c.stationSelection.changeStation(previous);
+            c.stationSelection.changeStation(step == Step::Previous);
     });
 }
 

@@ -60,7 +60,8 @@ public:
     void quit() const;
 
 private:
-    void step(bool previous);
+    enum class Step { Next, Previous };
+    void perform(Step step);
     [[nodiscard]] Text stationName(const Text& address) const;
 
     WinSonavelController& controller_;

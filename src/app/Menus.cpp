@@ -52,12 +52,7 @@ const std::array rows{
         [](const Controller&, const Outlets& o) { return o.popupbuttonRadioList.indexOfSelectedItem() > 0; }},
     Row{2001, [](Controller& c) { c.player.stop(); },
         [](const Controller& c, const Outlets&) { return !c.player.isStop || c.player.isPlay; }},
-    Row{2002,
-        [](Controller& c) {
-            c.player.isMute = !c.player.isMute;
-            c.player.mute();
-        },
-        always},
+    Row{2002, [](Controller& c) { c.player.buttonMute(); }, always},
     Row{2003, [](Controller& c) { c.stationSelection.changeStation(true); }, always},
     Row{2004, [](Controller& c) { c.stationSelection.changeStation(false); }, always},
     Row{3000, [](Controller& c) { c.stationImport.importRadioListFromFile(); }, whileEditorHasKeyboard},

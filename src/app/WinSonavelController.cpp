@@ -50,7 +50,7 @@ void WinSonavelController::init()
         updateCheck.checkUpdate();
     stationLoading.initRadioList();
     preferences.loadingPreference();
-    outlets_.buttonPlayPause.setImage("play.png");
+    outlets_.buttonPlayPause.setImage("play.png"); // seen only by a window that is connected already
     player.isPlay = false;
     player.isStop = true;
     player.isMute = false;

@@ -27,12 +27,14 @@ void PreferencesWindow::winPreferenceClose()
 void PreferencesWindow::setAutoPlayAtStart()
 {
     preferences_.PREF_IS_AUTOPLAY_OPEN_APP = !preferences_.PREF_IS_AUTOPLAY_OPEN_APP;
+    outlets_.checkBoxDefaultAutoPlayAtStartApp.setState(preferences_.PREF_IS_AUTOPLAY_OPEN_APP);
     outlets_.popupDefaultButtonListRadio.setEnabled(setAutoEnablePopupDefaultButtonListRadio());
 }
 
 void PreferencesWindow::setAutoPlay()
 {
     preferences_.PREF_IS_AUTOPLAY = !preferences_.PREF_IS_AUTOPLAY;
+    outlets_.checkBoxDefaultAutoPlay.setState(preferences_.PREF_IS_AUTOPLAY);
 }
 
 void PreferencesWindow::setRadioDefault()

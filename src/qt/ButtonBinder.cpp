@@ -8,6 +8,8 @@
 #include <QSignalBlocker>
 #include <QVariant>
 
+#include <utility>
+
 namespace sonavel {
 
 ButtonBinder::ButtonBinder(Button& button, QAbstractButton& widget)
@@ -50,7 +52,21 @@ void ButtonBinder::render(const ButtonState& state)
     renderWords(state);
     renderColors(state);
     widget_.setChecked(state.isOn);
-    widget_.setEnabled(state.isEnabled);
+    renderEnabling(state.isEnabled);
+}
+
+/// The toolkit takes the keyboard from what is disabled. An action that disables a button for a moment leaves it there.
+void ButtonBinder::renderEnabling(bool isEnabled)
+{
+    const bool losesKeyboard = widget_.hasFocus() && !isEnabled;
+    widget_.setEnabled(isEnabled);
+    if (isEnabled && std::exchange(lostKeyboard_, false))
+        widget_.setFocus();
+    if (!losesKeyboard)
+        return;
+    lostKeyboard_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { lostKeyboard_ = false; }, Qt::QueuedConnection);
 }
 
 void ButtonBinder::renderWords(const ButtonState& state)

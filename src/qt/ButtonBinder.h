@@ -21,11 +21,13 @@ private:
     void render(const ButtonState& state);
     void renderWords(const ButtonState& state);
     void renderColors(const ButtonState& state);
+    void renderEnabling(bool isEnabled);
 
     Button& button_;
     QAbstractButton& widget_;
     bool isRed_ = false;
     bool isRenderingColors_ = false;
+    bool lostKeyboard_ = false; ///< in this turn of the loop, to its being disabled
 };
 
 } // namespace sonavel

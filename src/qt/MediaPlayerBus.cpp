@@ -56,7 +56,7 @@ MediaPlayerPlayer::MediaPlayerPlayer(MediaControls& controls, QObject& object)
 void MediaPlayerPlayer::setTitle(const QString& title)
 {
     title_ = title;
-    update();
+    QMetaObject::invokeMethod(this, &MediaPlayerPlayer::update, Qt::QueuedConnection);
 }
 
 void MediaPlayerPlayer::update()

@@ -62,7 +62,8 @@ class MediaPlayerPlayer : public QDBusAbstractAdaptor {
 public:
     MediaPlayerPlayer(MediaControls& controls, QObject& object);
 
-    /// What the stream calls what is on air; empty when it says nothing.
+    /// What the stream calls what is on air; empty when it says nothing. It may come in the middle of an action, and
+    /// is told after it.
     void setTitle(const QString& title);
     /// Tells the bus what has changed since the last call.
     void update();

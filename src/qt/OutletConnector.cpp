@@ -66,6 +66,12 @@ void connect(TextField& outlet, QWidget& window, const char* name)
     else
         new LabelBinder(outlet, objectNamed<QLabel>(window, name));
 }
+/// The layout gives the picture, and no operation changes it.
+void connect(ImageView& outlet, QWidget& window, const char* name)
+{
+    objectNamed<QLabel>(window, name);
+    outlet.connect({});
+}
 void connect(TableView& outlet, QWidget& window, const char* name)
 {
     new TableBinder(outlet, objectNamed<StationTable>(window, name));
@@ -110,6 +116,11 @@ void connectPreferencesBeforehand(Outlets& outlets)
 }
 
 } // namespace
+
+void connectSplashScreen(Outlets& outlets, QWidget& window)
+{
+    connect(outlets.winSplashScreen, window, "winSplashScreen");
+}
 
 void connectMainWindow(Outlets& outlets, QWidget& window)
 {
@@ -160,6 +171,7 @@ void connectPreferences(Outlets& outlets, QWidget& sheet)
 void connectAboutWindow(Outlets& outlets, QWidget& window)
 {
     connect(outlets.winAbout, window, "winAbout");
+    connect(outlets.imageAppIcon, window, "imageAppIcon");
     connect(outlets.labelAppName, window, "labelAppName");
     connect(outlets.labelAppVersion, window, "labelAppVersion");
     connect(outlets.labelAppLicense, window, "labelAppLicense");

@@ -20,6 +20,7 @@ struct UpdaterControls;
 
 /// Each connects every outlet that belongs to the window, a top-level widget, or to the menus. They throw
 /// MissingOutlet.
+void connectSplashScreen(Outlets& outlets, QWidget& window);
 void connectMainWindow(Outlets& outlets, QWidget& window);
 void connectStationListWindow(Outlets& outlets, QWidget& window);
 void connectEditSheet(Outlets& outlets, QWidget& sheet);

@@ -19,6 +19,7 @@
 #include "qt/MainWindow.h"
 #include "qt/MediaPlayerBus.h"
 #include "qt/NowPlayingText.h"
+#include "qt/OutletConnector.h"
 #include "qt/ProgramWindows.h"
 #include "qt/QtAlerts.h"
 #include "qt/QtEventLoop.h"
@@ -204,8 +205,8 @@ void Program::joinDesktop()
     parts_->actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
     parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
     // A session that ends tells so before it sends a signal, if at all.
-    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, parts_->mediaPlayerBus.get(),
-        [this] { parts_->controller.preferences.updatePreference(); });
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, parts_->mediaPlayerBus.get(), [this] { keepWhatIsOpen(); });
     if (parts_->instance)
         parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->mediaControls.raise(); });
 }
@@ -224,18 +225,28 @@ void Program::showWaiting(const QString& host)
 {
     if (parts_->windows.isMainWindowConnected())
         return;
-    if (!parts_->splashScreen)
+    if (!parts_->splashScreen) {
         parts_->splashScreen = std::make_unique<SplashScreen>();
-    parts_->splashScreen->showWaitingFor(qtTrId("SPLASH_WAITING").replace(QStringLiteral("%@"), host));
+        connectSplashScreen(parts_->outlets, *parts_->splashScreen);
+    }
+    parts_->splashScreen->setWaitingFor(qtTrId("SPLASH_WAITING").replace(QStringLiteral("%@"), host));
+    parts_->outlets.winSplashScreen.setIsVisible(true);
 }
 
 /// As Quit does, without its question. Preferences that are not loaded yet must not be stored.
 void Program::endAsTheSessionDoes()
 {
     if (parts_->isInitialized)
-        parts_->controller.preferences.updatePreference();
+        keepWhatIsOpen();
     parts_->appDelegate.applicationWillTerminate();
     parts_->process.exit(0);
+}
+
+/// A cell in which somebody types, and the preferences.
+void Program::keepWhatIsOpen()
+{
+    parts_->outlets.tableViewListRadio.endEditing();
+    parts_->controller.preferences.updatePreference();
 }
 
 void Program::leaveWindows()

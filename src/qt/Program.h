@@ -36,6 +36,7 @@ private:
     void showNowPlaying(const NowPlaying& nowPlaying);
     void showWaiting(const QString& host);
     void endAsTheSessionDoes();
+    void keepWhatIsOpen();
     void leaveWindows();
 
     std::unique_ptr<Parts> parts_;

@@ -20,6 +20,7 @@ SplashScreen::SplashScreen()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
     , line_(new ElidedLabel(this))
 {
+    setObjectName(QStringLiteral("winSplashScreen"));
     auto* picture = new QLabel(this);
     picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
     auto* name = new QLabel(qtTrId("WIN_SONAVEL"), this);
@@ -39,12 +40,11 @@ SplashScreen::SplashScreen()
     line_->setMinimumWidth(fontMetrics().averageCharWidth() * usualLength);
 }
 
-void SplashScreen::showWaitingFor(const QString& line)
+void SplashScreen::setWaitingFor(const QString& line)
 {
     line_->setText(line);
     adjustSize();
     move(screen()->availableGeometry().center() - rect().center());
-    show();
 }
 
 } // namespace sonavel

@@ -12,8 +12,8 @@ class SplashScreen : public QWidget {
 public:
     SplashScreen();
 
-    /// Shows it in the middle of the screen, with this line.
-    void showWaitingFor(const QString& line);
+    /// Writes this line and goes to the middle of the screen.
+    void setWaitingFor(const QString& line);
 
 private:
     QLabel* line_;

@@ -1,3 +1,4 @@
+#include "model/KVStationWebRadio.h"
 #include "support/ControllerTest.h"
 
 namespace sonavel {
@@ -26,15 +27,21 @@ TEST_F(StartTest, TheStepsComeInTheirOrder)
     logWhenShown(outlets.sliderDefaultVolume, "default volume");
     logWhenShown(outlets.tableViewListRadio, "table");
     logWhenShown(outlets.winWebRadioListEdit, "station list");
+    logWhenShown(outlets.sliderVolume, "volume");
+    logWhenShown(outlets.buttonPlayPause, "play/pause");
     platform.log.clear();
+    controller.stationList.listRadio->push_back(std::make_shared<KVStationWebRadio>(1, "A", "http://a/"));
+    controller.preferences.PREF_DEFAULT_STATION = "A";
+    controller.preferences.PREF_IS_AUTOPLAY_OPEN_APP = true;
     controller.preferences.PREF_IS_AUTOPLAY = true;
     controller.preferences.PREF_WINEDIT_IS_VISIBLE = true;
     controller.awakeFromNib();
     platform.log.emplace_back("returned");
     platform.runLoop.turn();
     EXPECT_EQ(platform.log,
-        (std::vector<std::string>{"pop-up", "station list", "station list", "check box", "default volume",
-            "default volume", "table", "table", "returned", "main window"}));
+        (std::vector<std::string>{"pop-up", "pop-up", "volume", "station list", "station list", "check box",
+            "default volume", "default volume", "volume", "table", "table", "pop-up", "play/pause", "play/pause",
+            "returned", "main window"}));
 }
 
 TEST_F(StartTest, WithoutANetworkOnlyTheMessageIsShownAndNothingStored)

@@ -2,6 +2,7 @@
 """The built player among the desktop's services: media keys, a second start, sleep and network. Takes the folder of the
 built programs as its argument."""
 
+import plistlib
 import subprocess
 import sys
 import tempfile
@@ -78,6 +79,23 @@ class DesktopServicesTest(unittest.TestCase):
         self.expect("Stopped", "status")
         heard = [changes.stdout.readline().strip() for _ in range(3)]
         self.assertEqual(heard, ["Stopped", "Playing", "Paused"])
+
+    def test_a_step_from_one_playing_station_to_the_next_is_no_stop(self):
+        preferences = Path(self.home, "Library/Preferences/Mertzan-Software.Sonavel.plist")
+        preferences.parent.mkdir(parents=True)
+        preferences.write_bytes(plistlib.dumps({"isAutoPlay": "YES"}))
+        self.start("--demo")
+        changes = self.desk.start(["playerctl", "--player=sonavel", "--follow", "status"], stdout=subprocess.PIPE,
+                                  text=True)
+        self.addCleanup(changes.stdout.close)
+        self.assertEqual(changes.stdout.readline().strip(), "Stopped")
+        for _ in range(3):
+            address = self.media("metadata", "xesam:url")
+            self.media("next")
+            wait_until(lambda: self.media("metadata", "xesam:url") != address, "the next station")
+            wait_until(lambda: " - " in self.media("metadata", "xesam:title"), "the stream's title")
+        self.media("stop")
+        self.assertEqual([changes.stdout.readline().strip() for _ in range(2)], ["Playing", "Stopped"])
 
     def test_a_second_start_shows_the_window_of_the_first_and_ends(self):
         self.start("--demo")

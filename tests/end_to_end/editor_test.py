@@ -207,6 +207,14 @@ class EditorTest(unittest.TestCase):
         rows[1] = ("Typed when closed", rows[1][1])
         wait_until(lambda: stored_list(self.home) == text_of(rows), "the cell to be stored")
 
+    def test_what_is_typed_in_a_cell_is_there_when_the_session_ends(self):
+        self.open_list()
+        self.select(0)
+        self.edit_cell("Typed at the end", "Left")
+        self.program.process.terminate()
+        self.assertEqual(self.program.process.wait(10), 0)
+        self.assertEqual(stored_list(self.home), text_of([("Typed at the end", self.demo[0][1]), *self.demo[1:]]))
+
     def test_stations_are_removed_after_a_question(self):
         self.open_list()
         name, other = self.demo[1][0], self.demo[0][0]

@@ -55,7 +55,8 @@ TEST(CalendarDays, TheProductWrapsAroundAt32Bits)
     const CalendarDays days(clock);
     // 25,384 times 84,600 is 2,147,486,400, which wraps to 2,147,480,896 seconds ahead.
     EXPECT_TRUE(compare(days, "2084-10-23 14:01:36 +0000", "2016-10-05 12:00:00 +0000", 25'384));
-    EXPECT_FALSE(compare(days, "2016-10-04 12:00:00 +0000", "", std::numeric_limits<std::int32_t>::min()));
+    // -2,147,483,648 times 84,600 wraps to nothing ahead.
+    EXPECT_TRUE(compare(days, "2016-10-05 12:00:00 +0000", "", std::numeric_limits<std::int32_t>::min()));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "support/ControllerTest.h"
 
+#include <cmath>
+
 namespace sonavel {
 namespace {
 
@@ -55,6 +57,7 @@ TEST_F(PreferencesTest, HugeAndOddValuesAreHarmless)
         start();
         EXPECT_GE(outlets.sliderVolume.floatValue(), 0.0F) << volume;
         EXPECT_LE(outlets.sliderVolume.floatValue(), 1.0F) << volume;
+        EXPECT_TRUE(std::isfinite(controller.preferences.PREF_DEFAULT_VOLUME)) << volume;
         EXPECT_FALSE(controller.preferences.PREF_DATE_UPDATE_LAST_DATACHECK);
         controller.preferences.updatePreference();
     }

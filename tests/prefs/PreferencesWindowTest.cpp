@@ -48,6 +48,17 @@ TEST_F(PreferencesWindowTest, WhatIsSetIsStoredWithTheNextStoreAndNotBefore)
     EXPECT_EQ(itemSelectedAtTheNextStart(), 2);
 }
 
+TEST_F(PreferencesWindowTest, ABoxThatIsToggledTwiceWhileAQuestionIsOpenShowsWhatHolds)
+{
+    startWithStations("A;http://a/\r");
+    platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", secondButtonAnswer, [this] {
+        outlets.checkBoxDefaultAutoPlay.toggledByUser(true);
+        outlets.checkBoxDefaultAutoPlay.toggledByUser(false);
+    });
+    outlets.winSonavel.closeRequestedByUser();
+    EXPECT_EQ(outlets.checkBoxDefaultAutoPlay.state().isOn, controller.preferences.PREF_IS_AUTOPLAY);
+}
+
 TEST_F(PreferencesWindowTest, ADefaultStationIsKnownByItsNameAlone)
 {
     const struct {

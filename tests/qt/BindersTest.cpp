@@ -8,6 +8,7 @@
 #include "qt/WindowBinder.h"
 
 #include <QCheckBox>
+#include <QHBoxLayout>
 #include <QListView>
 #include <QPushButton>
 
@@ -180,6 +181,31 @@ TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)
     EXPECT_EQ(widget.palette().color(QPalette::ButtonText), usual);
     button.setTitle("R&B");
     EXPECT_EQ(widget.text(), "R&&B");
+}
+
+TEST(ButtonBinding, AButtonThatIsDisabledForAMomentKeepsTheKeyboard)
+{
+    QWidget window;
+    QHBoxLayout layout(&window);
+    QPushButton play("Play");
+    QPushButton stop("Stop");
+    layout.addWidget(&play);
+    layout.addWidget(&stop);
+    Button button;
+    new ButtonBinder(button, play);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(handleEventsUntil([&] { return window.isActiveWindow(); }));
+    play.setFocus();
+
+    button.setEnabled(false);
+    button.setEnabled(true);
+    EXPECT_TRUE(play.hasFocus());
+
+    button.setEnabled(false);
+    QCoreApplication::processEvents();
+    button.setEnabled(true);
+    EXPECT_TRUE(stop.hasFocus());
 }
 
 TEST(ButtonBinding, ACheckBoxReportsTheUsersTicksAlone)
