@@ -18,11 +18,18 @@ const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const QString colorSchemeKey = QStringLiteral("color-scheme");
+const QString contrastKey = QStringLiteral("contrast");
 constexpr uint prefersDark = 1;
+constexpr uint prefersHighContrast = 1;
 
 const QString rememberedKey = QStringLiteral("desktop/appearance");
-const QString dark = QStringLiteral("dark");
-const QString light = QStringLiteral("light");
+
+Appearance appearanceOf(bool isDark, bool isHighContrast)
+{
+    if (isHighContrast)
+        return isDark ? Appearance::HighContrastDark : Appearance::HighContrastLight;
+    return isDark ? Appearance::Dark : Appearance::Light;
+}
 
 } // namespace
 
@@ -33,22 +40,35 @@ DesktopAppearance::DesktopAppearance(const QString& stateFolder)
 
 void DesktopAppearance::applyRemembered()
 {
-    const bool isDark = QFile::exists(file_) && QSettings(file_, QSettings::IniFormat).value(rememberedKey) == dark;
-    QGuiApplication::setPalette(paletteFor(isDark ? Appearance::Dark : Appearance::Light));
+    const auto remembered = QFile::exists(file_)
+        ? appearanceNamed(QSettings(file_, QSettings::IniFormat).value(rememberedKey).toString())
+        : std::nullopt;
+    const Appearance appearance = remembered.value_or(Appearance::Light);
+    isDark_ = appearance == Appearance::Dark || appearance == Appearance::HighContrastDark;
+    isHighContrast_ = appearance == Appearance::HighContrastLight || appearance == Appearance::HighContrastDark;
+    QGuiApplication::setPalette(paletteFor(appearance));
 }
 
 void DesktopAppearance::follow()
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+    // The bus finds the type of a slot's parameter by its name.
+    qRegisterMetaType<QDBusVariant>();
+    QDBusConnection::sessionBus().connect(service, path, interface, QStringLiteral("SettingChanged"), this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
-    question << appearanceGroup << colorSchemeKey;
-    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] { receive(*answer); });
+    ask(colorSchemeKey);
+    ask(contrastKey);
 }
 
-void DesktopAppearance::receive(QDBusPendingCallWatcher& answer)
+void DesktopAppearance::ask(const QString& key)
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    question << appearanceGroup << key;
+    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, key, answer] { receive(key, *answer); });
+}
+
+/// A desktop that does not know the setting answers with an error.
+void DesktopAppearance::receive(const QString& key, QDBusPendingCallWatcher& answer)
 {
     const QDBusPendingReply<QDBusVariant> reply = answer;
     answer.deleteLater();
@@ -56,23 +76,33 @@ void DesktopAppearance::receive(QDBusPendingCallWatcher& answer)
         return;
     // Older portals wrap the value twice.
     const QVariant value = reply.value().variant();
-    takeOver(value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value);
+    takeOver(key, value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value);
 }
 
 void DesktopAppearance::settingChanged(const QString& group, const QString& key, const QDBusVariant& value)
 {
-    if (group == appearanceGroup && key == colorSchemeKey)
-        takeOver(value.variant());
+    if (group == appearanceGroup)
+        takeOver(key, value.variant());
 }
 
-void DesktopAppearance::takeOver(const QVariant& colorScheme)
+void DesktopAppearance::takeOver(const QString& key, const QVariant& value)
 {
-    const Appearance wanted = colorScheme.toUInt() == prefersDark ? Appearance::Dark : Appearance::Light;
-    if (wanted == presentAppearance())
+    const Appearance shown = appearanceOf(isDark_, isHighContrast_);
+    if (key == colorSchemeKey)
+        isDark_ = value.toUInt() == prefersDark;
+    else if (key == contrastKey)
+        isHighContrast_ = value.toUInt() == prefersHighContrast;
+    const Appearance wanted = appearanceOf(isDark_, isHighContrast_);
+    if (wanted == shown)
         return;
     QGuiApplication::setPalette(paletteFor(wanted));
+    remember(wanted);
+}
+
+void DesktopAppearance::remember(Appearance appearance) const
+{
     if (!file_.isEmpty())
-        QSettings(file_, QSettings::IniFormat).setValue(rememberedKey, wanted == Appearance::Dark ? dark : light);
+        QSettings(file_, QSettings::IniFormat).setValue(rememberedKey, nameOf(appearance));
 }
 
 } // namespace sonavel

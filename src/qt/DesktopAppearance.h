@@ -1,4 +1,4 @@
-// Light or dark, as the user has set the desktop.
+// Light or dark and how much contrast, as the user has set the desktop.
 #pragma once
 
 #include "qt/Palettes.h"
@@ -10,8 +10,9 @@ class QDBusVariant;
 
 namespace sonavel {
 
-/// Follows the desktop's colour scheme with the program's own palettes. What the desktop said is remembered for the
-/// next start, so that asking it delays no window. A desktop that does not answer leaves everything as it is.
+/// Follows the desktop's colour scheme and contrast with the program's own palettes. What the desktop said is
+/// remembered for the next start, so that asking it delays no window. A desktop that does not answer leaves everything
+/// as it is.
 class DesktopAppearance : public QObject {
     Q_OBJECT
 
@@ -28,10 +29,14 @@ private slots:
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
-    void receive(QDBusPendingCallWatcher& answer);
-    void takeOver(const QVariant& colorScheme);
+    void ask(const QString& key);
+    void receive(const QString& key, QDBusPendingCallWatcher& answer);
+    void takeOver(const QString& key, const QVariant& value);
+    void remember(Appearance appearance) const;
 
     QString file_;
+    bool isDark_ = false;
+    bool isHighContrast_ = false;
 };
 
 } // namespace sonavel

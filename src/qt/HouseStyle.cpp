@@ -1,6 +1,7 @@
 #include "qt/HouseStyle.h"
 
 #include "qt/Images.h"
+#include "qt/Palettes.h"
 
 #include <QHeaderView>
 #include <QStyleFactory>
@@ -8,6 +9,18 @@
 #include <QTableView>
 
 namespace sonavel {
+
+namespace {
+
+/// The toolkit makes outlines of the window's colour, a little darker, which is hardly seen on a light window and not
+/// at all on a dark one.
+template <class Option> Option outlined(Option option)
+{
+    option.palette.setColor(QPalette::Window, option.palette.color(QPalette::PlaceholderText));
+    return option;
+}
+
+} // namespace
 
 HouseStyle::HouseStyle(const QString& base)
     : QProxyStyle(base.isEmpty() ? nullptr : QStyleFactory::create(base))
@@ -28,16 +41,30 @@ int HouseStyle::styleHint(
     }
 }
 
-/// The outline is made of the window's colour, a little darker, which is not seen where that is dark already.
 void HouseStyle::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
-    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (element != PE_IndicatorCheckBox || button == nullptr)
-        return QProxyStyle::drawPrimitive(element, option, painter, widget);
-    QStyleOptionButton outlined = *button;
-    outlined.palette.setColor(QPalette::Window, button->palette.color(QPalette::PlaceholderText));
-    QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+    const bool isMoreSeen = option != nullptr && isHighContrast(option->palette);
+    const auto draw = [&](const QStyleOption& copy) { QProxyStyle::drawPrimitive(element, &copy, painter, widget); };
+    if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        button != nullptr && (element == PE_IndicatorCheckBox || isMoreSeen))
+        draw(outlined(*button));
+    else if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame != nullptr && isMoreSeen)
+        draw(outlined(*frame));
+    else if (const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option); menu != nullptr && isMoreSeen)
+        draw(outlined(*menu));
+    else
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void HouseStyle::drawComplexControl(
+    ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
+{
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_Slider || slider == nullptr || !isHighContrast(option->palette))
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const QStyleOptionSlider copy = outlined(*slider);
+    QProxyStyle::drawComplexControl(control, &copy, painter, widget);
 }
 
 /// Every menu bar asks for the picture of the button that shows what has no room, as good as never to be seen. The

@@ -7,7 +7,8 @@ namespace sonavel {
 
 /// Pop-ups open as scrollable lists, which stays quick with very many items; a click into a slider's groove takes the
 /// knob there; the texts of tables have room beside them; the outline of
-/// a check box is seen on dark palettes too. `base` is the key of a style, or empty for the desktop's.
+/// a check box is seen on dark palettes too, and on palettes of high contrast that of every control. `base` is the key
+/// of a style, or empty for the desktop's.
 class HouseStyle : public QProxyStyle {
 public:
     explicit HouseStyle(const QString& base = {});
@@ -16,6 +17,8 @@ public:
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
     void drawPrimitive(
         PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+        const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };

@@ -1,17 +1,25 @@
-// The program's own light and dark colours.
+// The program's own colours.
 #pragma once
 
 #include <QColor>
 #include <QPalette>
+#include <QStringList>
+
+#include <optional>
 
 namespace sonavel {
 
-enum class Appearance { Light, Dark };
+enum class Appearance { Light, Dark, HighContrastLight, HighContrastDark };
+
+/// "light", "dark", "high-contrast-light" or "high-contrast-dark".
+[[nodiscard]] QString nameOf(Appearance appearance);
+[[nodiscard]] std::optional<Appearance> appearanceNamed(const QString& name);
+[[nodiscard]] QStringList appearanceNames();
 
 [[nodiscard]] QPalette paletteFor(Appearance appearance);
 
-/// Which of the two the application's present palette is.
-[[nodiscard]] Appearance presentAppearance();
+/// Whether texts are as dark and their ground as light as can be, or the other way round.
+[[nodiscard]] bool isHighContrast(const QPalette& palette);
 
 /// A red for texts that can be read on the present palette's windows and buttons (contrast 4.5 to 1 or better).
 [[nodiscard]] QColor readableRed();

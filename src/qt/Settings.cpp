@@ -34,7 +34,7 @@ constexpr std::array options = {
     Option{"demo", nullptr, nullptr, "try the player: own server, own streams, nothing kept"},
     Option{"demo-update", nullptr, nullptr, "with --demo: have a newer version offered"},
     Option{"language", "CODE", nullptr, "language of the windows, such as en"},
-    Option{"appearance", "light|dark", nullptr, "colours of the windows"},
+    Option{"appearance", "NAME", nullptr, "colours: light, dark, high-contrast-light or high-contrast-dark"},
     Option{"version", nullptr, nullptr, "print the version"},
     Option{"help", nullptr, nullptr, "print this"},
 };
@@ -139,11 +139,10 @@ QString baseAddress(const Found& found)
 
 Appearance appearance(const Found& found)
 {
-    if (found.value == u"light")
-        return Appearance::Light;
-    if (found.value == u"dark")
-        return Appearance::Dark;
-    throw UsageError{QStringLiteral("%1: \"%2\" is neither light nor dark.").arg(found.source, found.value)};
+    if (const auto appearance = appearanceNamed(found.value))
+        return *appearance;
+    throw UsageError{QStringLiteral("%1: \"%2\" is none of %3.")
+                         .arg(found.source, found.value, appearanceNames().join(QStringLiteral(", ")))};
 }
 
 QString homeFolder(const Lookup& lookup, const QMap<QString, QString>& environment)

@@ -16,6 +16,9 @@ from small_server import SmallServer
 
 BUILD = Path(sys.argv.pop(1))
 
+MOCK = "org.freedesktop.DBus.Mock"
+PORTAL = ("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings")
+
 
 class DesktopServicesTest(unittest.TestCase):
     @classmethod
@@ -141,6 +144,24 @@ class DesktopServicesTest(unittest.TestCase):
         self.media("play")
         self.expect("Playing", "status")
 
+    def test_the_windows_take_the_colours_and_the_contrast_that_the_desktop_asks_for(self):
+        portal = self.mock_service(self.desk.environment["DBUS_SESSION_BUS_ADDRESS"], *PORTAL)
+        portal.AddMethod(PORTAL[2], "Read", "ss", "v", "ret = dbus.UInt32(args[1] == 'color-scheme')",
+                         dbus_interface=MOCK)
+        self.start("--demo")
+        wait_until(lambda: self.ground_of_window() == "#23262B", "the dark window")
+        for key, value, ground in (("contrast", 1, "#000000"), ("color-scheme", 2, "#FFFFFF"), ("contrast", 0, "#F3F4F6")):
+            portal.EmitSignal("", "SettingChanged", "ssv", ["org.freedesktop.appearance", key, dbus.UInt32(value)],
+                              dbus_interface=MOCK)
+            wait_until(lambda: self.ground_of_window() == ground, f"{key} {value}")
+
+    def ground_of_window(self):
+        """The colour of the main window's lower left corner."""
+        picture = ["import", "-window", str(self.desk.window("Sonavel")), "-gravity", "SouthWest", "-crop", "1x1+2+2",
+                   "-depth", "8", "txt:-"]
+        return subprocess.run(picture, env=self.desk.environment, capture_output=True, text=True,
+                              check=True).stdout.split()[-2]
+
     def test_a_stream_is_asked_for_again_at_once_after_sleep_and_when_the_network_is_back(self):
         server = self.small_server()
         database = Path(self.home, "Library/Preferences/radiolist.csv")
@@ -164,7 +185,7 @@ class DesktopServicesTest(unittest.TestCase):
             wait_until(lambda: server.attempts >= attempts + 4, "attempts at growing distances", 40)
             attempts = server.attempts
             for service, name, signature, values in signals:
-                service.EmitSignal("", name, signature, values, dbus_interface="org.freedesktop.DBus.Mock")
+                service.EmitSignal("", name, signature, values, dbus_interface=MOCK)
             wait_until(lambda: server.attempts > attempts, "an attempt ahead of its time", 4)
 
     def mock_service(self, bus_address, name, path, interface):

@@ -1,0 +1,43 @@
+#include "qt/Palettes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace sonavel {
+namespace {
+
+double luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+TEST(Palettes, TextsCanBeReadOnTheirGround)
+{
+    using Role = QPalette::ColorRole;
+    const std::pair<Role, Role> pairs[] = {{Role::WindowText, Role::Window}, {Role::Text, Role::Base},
+        {Role::ButtonText, Role::Button}, {Role::HighlightedText, Role::Highlight}, {Role::PlaceholderText, Role::Base},
+        {Role::PlaceholderText, Role::Window}, {Role::Link, Role::Base}, {Role::ToolTipText, Role::ToolTipBase}};
+    for (const QString& name : appearanceNames()) {
+        const QPalette palette = paletteFor(appearanceNamed(name).value());
+        const double least = name.startsWith(QStringLiteral("high-contrast")) ? 7.0 : 4.5;
+        for (const auto& [text, ground] : pairs)
+            EXPECT_GE(contrast(palette.color(text), palette.color(ground)), least) << name.toStdString() << " " << text;
+        EXPECT_GE(
+            contrast(palette.color(QPalette::Disabled, Role::ButtonText), palette.color(Role::Button)), least / 2);
+        EXPECT_EQ(isHighContrast(palette), least == 7.0) << name.toStdString();
+    }
+}
+
+} // namespace
+} // namespace sonavel
