@@ -433,11 +433,11 @@
     </message>
     <message id="FAILURE_UNKNOWN">
         <source>it does not say why</source>
-        <translation>ohne Angabe eines Grundes</translation>
+        <translation>Grund unbekannt</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
         <source>no such host</source>
-        <translation>diesen Server gibt es nicht</translation>
+        <translation>kein solcher Server</translation>
     </message>
     <message id="FAILURE_REFUSED">
         <source>connection refused</source>
@@ -445,27 +445,27 @@
     </message>
     <message id="FAILURE_UNREACHABLE">
         <source>the host cannot be reached</source>
-        <translation>der Server ist nicht erreichbar</translation>
+        <translation>Server nicht erreichbar</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
         <source>no answer in time</source>
-        <translation>keine rechtzeitige Antwort</translation>
+        <translation>keine Antwort</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
         <source>the server’s certificate is not trusted</source>
-        <translation>dem Zertifikat des Servers wird nicht vertraut</translation>
+        <translation>kein gültiges Zertifikat</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
         <source>no stream at this address</source>
-        <translation>kein Stream unter dieser Adresse</translation>
+        <translation>dort ist kein Stream</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
         <source>the server does not allow it</source>
-        <translation>der Server erlaubt es nicht</translation>
+        <translation>vom Server nicht erlaubt</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
         <source>the server has a fault</source>
-        <translation>der Server hat einen Fehler</translation>
+        <translation>Fehler beim Server</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
         <source>not a stream</source>
@@ -473,7 +473,7 @@
     </message>
     <message id="FAILURE_NOT_USABLE">
         <source>not an address that can be played</source>
-        <translation>keine abspielbare Adresse</translation>
+        <translation>keine nutzbare Adresse</translation>
     </message>
     <message id="FAILURE_ENDED">
         <source>the stream has ended</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="FAILURE_SILENT">
         <source>the stream fell silent</source>
-        <translation>der Stream ist verstummt</translation>
+        <translation>der Stream verstummte</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
         <source>no sound output</source>
@@ -489,7 +489,7 @@
     </message>
     <message id="FAILURE_ENGINE_FAILED">
         <source>the sound engine does not run</source>
-        <translation>das Abspielprogramm läuft nicht</translation>
+        <translation>Tonprogramm läuft nicht</translation>
     </message>
 </context>
 </TS>

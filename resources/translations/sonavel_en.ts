@@ -444,24 +444,24 @@
         <translation>connection refused</translation>
     </message>
     <message id="FAILURE_UNREACHABLE">
-        <source>the host cannot be reached</source>
-        <translation>the host cannot be reached</translation>
+        <source>host unreachable</source>
+        <translation>host unreachable</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
         <source>no answer in time</source>
         <translation>no answer in time</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
-        <source>the server’s certificate is not trusted</source>
-        <translation>the server’s certificate is not trusted</translation>
+        <source>no valid certificate</source>
+        <translation>no valid certificate</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
-        <source>no stream at this address</source>
-        <translation>no stream at this address</translation>
+        <source>no stream there</source>
+        <translation>no stream there</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
-        <source>the server does not allow it</source>
-        <translation>the server does not allow it</translation>
+        <source>the server forbids it</source>
+        <translation>the server forbids it</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
         <source>the server has a fault</source>
@@ -472,8 +472,8 @@
         <translation>not a stream</translation>
     </message>
     <message id="FAILURE_NOT_USABLE">
-        <source>not an address that can be played</source>
-        <translation>not an address that can be played</translation>
+        <source>no usable address</source>
+        <translation>no usable address</translation>
     </message>
     <message id="FAILURE_ENDED">
         <source>the stream has ended</source>
@@ -488,8 +488,8 @@
         <translation>no sound output</translation>
     </message>
     <message id="FAILURE_ENGINE_FAILED">
-        <source>the sound engine does not run</source>
-        <translation>the sound engine does not run</translation>
+        <source>no sound engine</source>
+        <translation>no sound engine</translation>
     </message>
 </context>
 </TS>

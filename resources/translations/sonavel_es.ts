@@ -433,11 +433,11 @@
     </message>
     <message id="FAILURE_UNKNOWN">
         <source>it does not say why</source>
-        <translation>sin indicar el motivo</translation>
+        <translation>motivo desconocido</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
         <source>no such host</source>
-        <translation>ese servidor no existe</translation>
+        <translation>servidor inexistente</translation>
     </message>
     <message id="FAILURE_REFUSED">
         <source>connection refused</source>
@@ -445,27 +445,27 @@
     </message>
     <message id="FAILURE_UNREACHABLE">
         <source>the host cannot be reached</source>
-        <translation>no se llega al servidor</translation>
+        <translation>servidor inaccesible</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
         <source>no answer in time</source>
-        <translation>sin respuesta a tiempo</translation>
+        <translation>sin respuesta</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
         <source>the server’s certificate is not trusted</source>
-        <translation>el certificado del servidor no es de confianza</translation>
+        <translation>certificado no válido</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
         <source>no stream at this address</source>
-        <translation>no hay ninguna emisión en esta dirección</translation>
+        <translation>allí no hay emisión</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
         <source>the server does not allow it</source>
-        <translation>el servidor no lo permite</translation>
+        <translation>lo niega el servidor</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
         <source>the server has a fault</source>
-        <translation>el servidor tiene un fallo</translation>
+        <translation>fallo del servidor</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
         <source>not a stream</source>
@@ -473,23 +473,23 @@
     </message>
     <message id="FAILURE_NOT_USABLE">
         <source>not an address that can be played</source>
-        <translation>no es una dirección que se pueda reproducir</translation>
+        <translation>dirección no válida</translation>
     </message>
     <message id="FAILURE_ENDED">
         <source>the stream has ended</source>
-        <translation>la emisión ha terminado</translation>
+        <translation>emisión terminada</translation>
     </message>
     <message id="FAILURE_SILENT">
         <source>the stream fell silent</source>
-        <translation>la emisión se ha quedado en silencio</translation>
+        <translation>emisión en silencio</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
         <source>no sound output</source>
-        <translation>no hay salida de sonido</translation>
+        <translation>sin salida de sonido</translation>
     </message>
     <message id="FAILURE_ENGINE_FAILED">
         <source>the sound engine does not run</source>
-        <translation>el motor de sonido no funciona</translation>
+        <translation>sin motor de sonido</translation>
     </message>
 </context>
 </TS>

@@ -433,11 +433,11 @@
     </message>
     <message id="FAILURE_UNKNOWN">
         <source>it does not say why</source>
-        <translation>sans raison indiquée</translation>
+        <translation>raison inconnue</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
         <source>no such host</source>
-        <translation>ce serveur n’existe pas</translation>
+        <translation>serveur inconnu</translation>
     </message>
     <message id="FAILURE_REFUSED">
         <source>connection refused</source>
@@ -445,27 +445,27 @@
     </message>
     <message id="FAILURE_UNREACHABLE">
         <source>the host cannot be reached</source>
-        <translation>le serveur est injoignable</translation>
+        <translation>serveur injoignable</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
         <source>no answer in time</source>
-        <translation>pas de réponse à temps</translation>
+        <translation>pas de réponse</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
         <source>the server’s certificate is not trusted</source>
-        <translation>le certificat du serveur n’est pas fiable</translation>
+        <translation>certificat non valable</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
         <source>no stream at this address</source>
-        <translation>aucun flux à cette adresse</translation>
+        <translation>aucun flux là-bas</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
         <source>the server does not allow it</source>
-        <translation>le serveur ne l’autorise pas</translation>
+        <translation>refusé par le serveur</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
         <source>the server has a fault</source>
-        <translation>le serveur est en panne</translation>
+        <translation>panne du serveur</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
         <source>not a stream</source>
@@ -473,7 +473,7 @@
     </message>
     <message id="FAILURE_NOT_USABLE">
         <source>not an address that can be played</source>
-        <translation>cette adresse ne peut pas être lue</translation>
+        <translation>adresse inutilisable</translation>
     </message>
     <message id="FAILURE_ENDED">
         <source>the stream has ended</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="FAILURE_SILENT">
         <source>the stream fell silent</source>
-        <translation>le flux est devenu muet</translation>
+        <translation>flux devenu muet</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
         <source>no sound output</source>
@@ -489,7 +489,7 @@
     </message>
     <message id="FAILURE_ENGINE_FAILED">
         <source>the sound engine does not run</source>
-        <translation>le lecteur audio ne fonctionne pas</translation>
+        <translation>moteur audio en panne</translation>
     </message>
 </context>
 </TS>

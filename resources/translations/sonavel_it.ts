@@ -433,11 +433,11 @@
     </message>
     <message id="FAILURE_UNKNOWN">
         <source>it does not say why</source>
-        <translation>senza indicare il motivo</translation>
+        <translation>motivo sconosciuto</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
         <source>no such host</source>
-        <translation>questo server non esiste</translation>
+        <translation>server inesistente</translation>
     </message>
     <message id="FAILURE_REFUSED">
         <source>connection refused</source>
@@ -445,27 +445,27 @@
     </message>
     <message id="FAILURE_UNREACHABLE">
         <source>the host cannot be reached</source>
-        <translation>il server non è raggiungibile</translation>
+        <translation>server irraggiungibile</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
         <source>no answer in time</source>
-        <translation>nessuna risposta in tempo</translation>
+        <translation>nessuna risposta</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
         <source>the server’s certificate is not trusted</source>
-        <translation>il certificato del server non è affidabile</translation>
+        <translation>certificato non valido</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
         <source>no stream at this address</source>
-        <translation>nessun flusso a questo indirizzo</translation>
+        <translation>nessun flusso lì</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
         <source>the server does not allow it</source>
-        <translation>il server non lo permette</translation>
+        <translation>vietato dal server</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
         <source>the server has a fault</source>
-        <translation>il server ha un guasto</translation>
+        <translation>guasto del server</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
         <source>not a stream</source>
@@ -473,7 +473,7 @@
     </message>
     <message id="FAILURE_NOT_USABLE">
         <source>not an address that can be played</source>
-        <translation>non è un indirizzo riproducibile</translation>
+        <translation>indirizzo inutilizzabile</translation>
     </message>
     <message id="FAILURE_ENDED">
         <source>the stream has ended</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="FAILURE_SILENT">
         <source>the stream fell silent</source>
-        <translation>il flusso si è ammutolito</translation>
+        <translation>flusso diventato muto</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
         <source>no sound output</source>
@@ -489,7 +489,7 @@
     </message>
     <message id="FAILURE_ENGINE_FAILED">
         <source>the sound engine does not run</source>
-        <translation>il motore audio non funziona</translation>
+        <translation>motore audio guasto</translation>
     </message>
 </context>
 </TS>

@@ -1,7 +1,9 @@
 // Whether every text has room in its control, in every language.
+#include "adapters/NowPlaying.h"
 #include "qt/EditSheetDialog.h"
 #include "qt/ElidedLabel.h"
 #include "qt/MainWindow.h"
+#include "qt/NowPlayingText.h"
 #include "qt/ProgramDialog.h"
 #include "qt/ProgramMenus.h"
 #include "qt/StationComboBox.h"
@@ -93,6 +95,21 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
              ProgramDialog::from<Ui::UpdateNotice>(), ProgramDialog::from<Ui::UpdateWindow>()}) {
         dialog->resize(dialog->minimumSize());
         expectRoomIn(*dialog);
+    }
+}
+
+TEST_P(RoomForTextsTest, IsThereForWhyAStreamCannotBePlayed)
+{
+    const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
+    ProgramMenus menus([] {});
+    MainWindow main(&menus);
+    main.show();
+    const auto* line = main.findChild<ElidedLabel*>(QStringLiteral("labelNowPlaying"));
+    for (int failure = 0; failure <= static_cast<int>(PlaybackFailure::EngineFailed); ++failure) {
+        const QString text = nowPlayingText(
+            {NowPlaying::State::Reconnecting, Text(), static_cast<PlaybackFailure>(failure), std::chrono::seconds(1)});
+        EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->contentsRect().width())
+            << GetParam() << ": " << text.toStdString();
     }
 }
 
