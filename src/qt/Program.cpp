@@ -82,6 +82,7 @@ struct Program::Parts {
         : instance(std::move(claim))
         , throwAwayHome(std::move(temporaryHome))
         , dataServer(std::move(server))
+        , filePanels(throwAwayHome ? throwAwayHome->path() : QString())
         , strings(localeOf(settings))
         , files(toText(settings.home))
         , preferenceDomains(files)

@@ -7,6 +7,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace sonavel {
 
 namespace {
@@ -20,8 +22,9 @@ Text chosenIn(QFileDialog& dialog)
 
 } // namespace
 
-QtFilePanels::QtFilePanels()
+QtFilePanels::QtFilePanels(QString passingFolder)
     : folder_(QDir::homePath())
+    , passingFolder_(std::move(passingFolder))
 {
 }
 
@@ -44,7 +47,8 @@ Text QtFilePanels::runModal(const SavePanel& panel)
     QFileDialog dialog(QApplication::activeWindow(), qtTrId("PANEL_EXPORT"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDirectory(toQString(panel.directory));
+    const QString directory = toQString(panel.directory);
+    dialog.setDirectory(directory == passingFolder_ ? folder_ : directory);
     dialog.selectFile(toQString(panel.nameFieldStringValue));
     return chosenIn(dialog);
 }

@@ -8,16 +8,18 @@
 namespace sonavel {
 
 /// Over the active window. A folder cannot be chosen, whatever its name; it is entered. The open panel begins where the
-/// last file was chosen, at first in the user's home folder.
+/// last file was chosen, at first in the user's home folder. So does the save panel where it is asked to begin in a
+/// folder that goes away with the program.
 class QtFilePanels : public FilePanels {
 public:
-    QtFilePanels();
+    explicit QtFilePanels(QString passingFolder = {});
 
     [[nodiscard]] Text runModal(const OpenPanel& panel) override;
     [[nodiscard]] Text runModal(const SavePanel& panel) override;
 
 private:
     QString folder_;
+    QString passingFolder_;
 };
 
 } // namespace sonavel

@@ -61,10 +61,16 @@ void StationTable::selectAndShow(int row)
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
-/// Return in an open cell reaches the table too, and so does Escape: neither is meant for it.
+/// Return in an open cell reaches the table too, and so does Escape: neither is meant for it. Where no row is selected
+/// an arrow selects the one that has the keyboard, instead of going past it.
 void StationTable::keyPressEvent(QKeyEvent* event)
 {
-    if (cells_->openField() == nullptr)
+    if (cells_->openField() != nullptr)
+        return;
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (isArrow && currentIndex().isValid() && !selectionModel()->hasSelection())
+        selectAndShow(currentIndex().row());
+    else
         QTableView::keyPressEvent(event);
 }
 

@@ -94,6 +94,17 @@ TEST(FilePanels, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileW
     EXPECT_TRUE(panels.runModal(OpenPanel{"csv"}).isAbsent());
 }
 
+TEST(FilePanels, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
+{
+    const QTemporaryDir folder;
+    QtFilePanels panels(folder.path());
+    whenPanelIsOpen({}, [](QFileDialog& panel) {
+        EXPECT_EQ(panel.directory(), QDir::home());
+        panel.reject();
+    });
+    EXPECT_TRUE(panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())}).isAbsent());
+}
+
 TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestion)
 {
     const QTemporaryDir folder;

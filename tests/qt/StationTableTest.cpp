@@ -90,6 +90,14 @@ TEST_F(StationTableTest, TheRowTouchedLastIsTheSelectedOne)
     EXPECT_EQ(table.numberOfSelectedRows(), 2);
 }
 
+TEST_F(StationTableTest, TheFirstArrowSelectsTheFirstRow)
+{
+    QTest::keyClick(&widget, Qt::Key_Down);
+    EXPECT_EQ(table.selectedRow(), 0);
+    QTest::keyClick(&widget, Qt::Key_Down);
+    EXPECT_EQ(table.selectedRow(), 1);
+}
+
 TEST_F(StationTableTest, AHundredThousandRowsAreSelectedAtOneStroke)
 {
     fill(100'000);
