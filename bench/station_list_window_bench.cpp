@@ -2,11 +2,11 @@
 // apart, a key typed in Find, all rows selected, all rows shown anew.
 
 #include "Ratio.h"
-#include "qt/FindField.h"
-#include "qt/HouseStyle.h"
-#include "qt/OutletConnector.h"
-#include "qt/StationListWindow.h"
-#include "qt/StationTable.h"
+#include "qt/binders/OutletConnector.h"
+#include "qt/kit/HouseStyle.h"
+#include "qt/windows/FindField.h"
+#include "qt/windows/StationListWindow.h"
+#include "qt/windows/StationTable.h"
 
 #include <QApplication>
 #include <QScrollBar>

@@ -1,7 +1,7 @@
 // All windows of the program, with their menus.
 #pragma once
 
-#include "qt/WindowMemory.h"
+#include "qt/windows/WindowMemory.h"
 
 #include <memory>
 #include <vector>

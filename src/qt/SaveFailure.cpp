@@ -1,6 +1,6 @@
 #include "qt/SaveFailure.h"
 
-#include "qt/TextConversion.h"
+#include "qt/kit/TextConversion.h"
 
 namespace sonavel {
 

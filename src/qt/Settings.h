@@ -1,7 +1,7 @@
 // What the player was started with: options, environment and configuration file.
 #pragma once
 
-#include "qt/Palettes.h"
+#include "qt/kit/Palettes.h"
 
 #include <QMap>
 #include <QString>

@@ -1,11 +1,11 @@
 // The player.
 #include "adapters/CurlHttpClient.h"
 #include "adapters/OneInstance.h"
-#include "qt/DesktopAppearance.h"
-#include "qt/HouseStyle.h"
-#include "qt/Images.h"
 #include "qt/Program.h"
-#include "qt/WindowMemory.h"
+#include "qt/desktop/DesktopAppearance.h"
+#include "qt/kit/HouseStyle.h"
+#include "qt/kit/Images.h"
+#include "qt/windows/WindowMemory.h"
 
 #include <QApplication>
 

@@ -1,5 +1,5 @@
 // A window stays alive while a server is slow.
-#include "qt/AwaitingHttpClient.h"
+#include "qt/ports/AwaitingHttpClient.h"
 
 #include "UserInput.h"
 

@@ -1,11 +1,11 @@
 // What the core says reaches the widgets and nothing comes back; what the user does reaches the core once.
 #include "UserInput.h"
-#include "qt/ButtonBinder.h"
-#include "qt/HouseStyle.h"
-#include "qt/OutletConnector.h"
-#include "qt/PopUpBinder.h"
-#include "qt/SliderBinder.h"
-#include "qt/WindowBinder.h"
+#include "qt/binders/ButtonBinder.h"
+#include "qt/binders/OutletConnector.h"
+#include "qt/binders/PopUpBinder.h"
+#include "qt/binders/SliderBinder.h"
+#include "qt/binders/WindowBinder.h"
+#include "qt/kit/HouseStyle.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

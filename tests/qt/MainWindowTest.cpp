@@ -1,10 +1,10 @@
 // The main window keeps its shape and tells what it shows.
-#include "qt/MainWindow.h"
+#include "qt/windows/MainWindow.h"
 
 #include "UserInput.h"
-#include "qt/ElidedLabel.h"
-#include "qt/OutletConnector.h"
-#include "qt/WindowMemory.h"
+#include "qt/binders/OutletConnector.h"
+#include "qt/kit/ElidedLabel.h"
+#include "qt/windows/WindowMemory.h"
 
 #include <QAccessible>
 #include <QFile>

@@ -1,5 +1,5 @@
 // Runs the tests of the windows without a display.
-#include "qt/TranslatedStrings.h"
+#include "qt/ports/TranslatedStrings.h"
 
 #include <QApplication>
 #include <QStyleFactory>

@@ -1,4 +1,4 @@
-#include "qt/Palettes.h"
+#include "qt/kit/Palettes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // The ports of the core as Qt provides them.
 #include "UserInput.h"
-#include "qt/QtAlerts.h"
-#include "qt/QtEventLoop.h"
-#include "qt/QtFilePanels.h"
-#include "qt/QtRunLoop.h"
-#include "qt/TerminationSignals.h"
+#include "qt/desktop/TerminationSignals.h"
+#include "qt/ports/QtAlerts.h"
+#include "qt/ports/QtEventLoop.h"
+#include "qt/ports/QtFilePanels.h"
+#include "qt/ports/QtRunLoop.h"
 
 #include <QDir>
 #include <QFileDialog>

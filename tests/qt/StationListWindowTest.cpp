@@ -1,15 +1,15 @@
 // The station list window, its sheet and the menus, as a user works with them.
-#include "qt/StationListWindow.h"
+#include "qt/windows/StationListWindow.h"
 
 #include "StationRows.h"
 #include "UserInput.h"
-#include "qt/EditSheetDialog.h"
-#include "qt/FindField.h"
-#include "qt/OutletConnector.h"
-#include "qt/ProgramMenus.h"
-#include "qt/StationTable.h"
-#include "qt/StatusLine.h"
-#include "qt/WindowMemory.h"
+#include "qt/binders/OutletConnector.h"
+#include "qt/windows/EditSheetDialog.h"
+#include "qt/windows/FindField.h"
+#include "qt/windows/ProgramMenus.h"
+#include "qt/windows/StationTable.h"
+#include "qt/windows/StatusLine.h"
+#include "qt/windows/WindowMemory.h"
 
 #include <QDropEvent>
 #include <QFile>

@@ -1,8 +1,8 @@
 // The table of the station list: rows and selection of the program, selection and edits of the user.
 #include "StationRows.h"
 #include "UserInput.h"
-#include "qt/StationCellDelegate.h"
-#include "qt/TableBinder.h"
+#include "qt/binders/TableBinder.h"
+#include "qt/windows/StationCellDelegate.h"
 
 #include <QScrollBar>
 #include <QTest>

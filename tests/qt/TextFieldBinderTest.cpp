@@ -1,8 +1,8 @@
 // A field whose text the program corrects while the user types.
-#include "qt/TextFieldBinder.h"
+#include "qt/binders/TextFieldBinder.h"
 
 #include "UserInput.h"
-#include "qt/TextConversion.h"
+#include "qt/kit/TextConversion.h"
 
 #include <QInputMethodEvent>
 #include <QTest>

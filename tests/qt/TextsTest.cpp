@@ -1,9 +1,9 @@
 // What the windows say of streams, files and names from outside.
 #include "adapters/NowPlaying.h"
-#include "qt/NowPlayingText.h"
 #include "qt/SaveFailure.h"
-#include "qt/TextConversion.h"
-#include "qt/TranslatedStrings.h"
+#include "qt/kit/TextConversion.h"
+#include "qt/ports/TranslatedStrings.h"
+#include "qt/windows/NowPlayingText.h"
 
 #include <gtest/gtest.h>
 

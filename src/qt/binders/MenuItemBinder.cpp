@@ -1,0 +1,35 @@
+#include "qt/binders/MenuItemBinder.h"
+
+#include "qt/kit/TextConversion.h"
+
+#include <QVariant>
+
+namespace sonavel {
+
+MenuItemBinder::MenuItemBinder(MenuItem& item, QAction& action)
+    : QObject(&action)
+    , item_(item)
+    , action_(action)
+    , titleShown_(toText(action.text().remove(u'&')))
+{
+    item_.connect({titleShown_, action.property("tag").toInt(), action.isEnabled()},
+        [this](const MenuItemState& state) { render(state); });
+    // Queued: a screen reader that chooses it waits for an answer, and must not wait for that of a question.
+    connect(
+        &action, &QAction::triggered, this, [this] { item_.chosenByUser(); }, Qt::QueuedConnection);
+}
+
+MenuItemBinder::~MenuItemBinder()
+{
+    item_.disconnect();
+}
+
+void MenuItemBinder::render(const MenuItemState& state)
+{
+    if (state.title != titleShown_)
+        action_.setText(withoutMnemonics(toQString(state.title)));
+    titleShown_ = state.title;
+    action_.setEnabled(state.isEnabled);
+}
+
+} // namespace sonavel

@@ -1,0 +1,119 @@
+#include "qt/desktop/MediaPlayerBus.h"
+
+#include "qt/kit/TextConversion.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+namespace sonavel {
+
+namespace {
+
+const QString objectPath = QStringLiteral("/org/mpris/MediaPlayer2");
+const QString serviceName = QStringLiteral("org.mpris.MediaPlayer2.sonavel");
+const QString noTrack = QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrack");
+
+QString nameOf(MediaState::Status status)
+{
+    switch (status) {
+    case MediaState::Status::Playing:
+        return QStringLiteral("Playing");
+    case MediaState::Status::Paused:
+        return QStringLiteral("Paused");
+    case MediaState::Status::Stopped:
+        break;
+    }
+    return QStringLiteral("Stopped");
+}
+
+} // namespace
+
+MediaPlayerRoot::MediaPlayerRoot(MediaControls& controls, QObject& object)
+    : QDBusAbstractAdaptor(&object)
+    , controls_(controls)
+{
+}
+
+QString MediaPlayerRoot::identity()
+{
+    return QStringLiteral("Sonavel");
+}
+
+QString MediaPlayerRoot::desktopEntry()
+{
+    return QStringLiteral("sonavel");
+}
+
+MediaPlayerPlayer::MediaPlayerPlayer(MediaControls& controls, QObject& object)
+    : QDBusAbstractAdaptor(&object)
+    , controls_(controls)
+    , state_(controls.state())
+    , told_(changingProperties())
+{
+}
+
+void MediaPlayerPlayer::setTitle(const QString& title)
+{
+    title_ = title;
+    QMetaObject::invokeMethod(this, &MediaPlayerPlayer::update, Qt::QueuedConnection);
+}
+
+void MediaPlayerPlayer::update()
+{
+    state_ = controls_.state();
+    const QVariantMap present = changingProperties();
+    QVariantMap changes;
+    for (auto property = present.begin(); property != present.end(); ++property) {
+        if (told_.value(property.key()) != property.value())
+            changes.insert(property.key(), property.value());
+    }
+    if (changes.isEmpty())
+        return;
+    told_ = present;
+    QDBusMessage signal = QDBusMessage::createSignal(
+        objectPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
+    signal << QStringLiteral("org.mpris.MediaPlayer2.Player") << changes << QStringList();
+    QDBusConnection::sessionBus().send(signal);
+}
+
+QVariantMap MediaPlayerPlayer::changingProperties() const
+{
+    return {{QStringLiteral("PlaybackStatus"), playbackStatus()}, {QStringLiteral("Metadata"), metadata()},
+        {QStringLiteral("Volume"), volume()}, {QStringLiteral("CanGoNext"), canStep()},
+        {QStringLiteral("CanGoPrevious"), canStep()}, {QStringLiteral("CanPlay"), canPlay()},
+        {QStringLiteral("CanPause"), canPlay()}};
+}
+
+QString MediaPlayerPlayer::playbackStatus() const
+{
+    return nameOf(state_.status);
+}
+
+/// Panels show the title large; while the stream has none, the station stands there.
+QVariantMap MediaPlayerPlayer::metadata() const
+{
+    const QString trackKey = QStringLiteral("mpris:trackid");
+    if (state_.stream == 0)
+        return {{trackKey, QVariant::fromValue(QDBusObjectPath(noTrack))}};
+    const QString station = onOneLine(toQString(state_.station));
+    const QString track = QStringLiteral("/org/mpris/MediaPlayer2/stream/%1").arg(state_.stream);
+    QVariantMap metadata{{trackKey, QVariant::fromValue(QDBusObjectPath(track))},
+        {QStringLiteral("xesam:title"), title_.isEmpty() ? station : title_},
+        {QStringLiteral("xesam:url"), toQString(state_.address)}};
+    if (!title_.isEmpty())
+        metadata.insert(QStringLiteral("xesam:album"), station);
+    return metadata;
+}
+
+MediaPlayerBus::MediaPlayerBus(MediaControls& controls)
+    : player_(new MediaPlayerPlayer(controls, *this))
+{
+    new MediaPlayerRoot(controls, *this);
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.registerObject(objectPath, this);
+    if (!bus.registerService(serviceName))
+        bus.registerService(serviceName + QStringLiteral(".instance%1").arg(QCoreApplication::applicationPid()));
+}
+
+} // namespace sonavel

@@ -1,0 +1,52 @@
+#include "qt/kit/PrimaryButton.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+
+namespace sonavel {
+
+namespace {
+
+constexpr int paledByStyles = 160; // percent; styles lighten the colour of a button, and its words must stay readable
+
+} // namespace
+
+PrimaryButton::PrimaryButton(QWidget* parent)
+    : QPushButton(parent)
+{
+    takeHighlightColors();
+}
+
+void PrimaryButton::reserveRoomFor(const QStringList& words)
+{
+    const QString shown = text();
+    int width = 0;
+    for (const QString& word : words) {
+        setText(word);
+        width = qMax(width, sizeHint().width());
+    }
+    setText(shown);
+    setMinimumWidth(width);
+}
+
+void PrimaryButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange)
+        takeHighlightColors();
+    QPushButton::changeEvent(event);
+}
+
+/// A disabled button looks like any other.
+void PrimaryButton::takeHighlightColors()
+{
+    QPalette palette;
+    if (isEnabled()) {
+        const QPalette colors = QGuiApplication::palette();
+        const QColor highlight = colors.color(QPalette::Active, QPalette::Highlight);
+        palette.setColor(QPalette::Button, highlight.darker(paledByStyles));
+        palette.setColor(QPalette::ButtonText, colors.color(QPalette::Active, QPalette::HighlightedText));
+    }
+    setPalette(palette);
+}
+
+} // namespace sonavel

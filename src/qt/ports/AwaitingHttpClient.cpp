@@ -1,0 +1,46 @@
+#include "qt/ports/AwaitingHttpClient.h"
+
+#include <QEventLoop>
+#include <QMetaObject>
+#include <QTimer>
+
+#include <chrono>
+#include <thread>
+
+namespace sonavel {
+
+namespace {
+
+constexpr std::chrono::milliseconds slow{333};
+
+} // namespace
+
+AwaitingHttpClient::AwaitingHttpClient(HttpClient& client)
+    : client_(client)
+{
+}
+
+std::optional<std::string> AwaitingHttpClient::sendSynchronousRequest(const HttpRequest& request)
+{
+    std::optional<std::string> answer;
+    QEventLoop loop;
+    std::thread worker([&] {
+        answer = client_.sendSynchronousRequest(request);
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+
+    QTimer patience;
+    patience.setSingleShot(true);
+    QObject::connect(&patience, &QTimer::timeout, &loop, [&] {
+        if (slowRequestObserver_)
+            slowRequestObserver_(request);
+    });
+    patience.start(slow);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    worker.join();
+    if (!patience.isActive() && slowRequestEnded_)
+        slowRequestEnded_();
+    return answer;
+}
+
+} // namespace sonavel

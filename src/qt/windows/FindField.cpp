@@ -1,0 +1,88 @@
+#include "qt/windows/FindField.h"
+
+#include "qt/kit/Images.h"
+#include "qt/kit/Palettes.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+namespace sonavel {
+
+namespace {
+
+constexpr qreal strengthOfTint = 0.18;
+
+QColor mixed(const QColor& ground, const QColor& tint)
+{
+    const auto part = [](int one, int other) { return qRound(one + (other - one) * strengthOfTint); };
+    return {part(ground.red(), tint.red()), part(ground.green(), tint.green()), part(ground.blue(), tint.blue())};
+}
+
+} // namespace
+
+FindField::FindField(QWidget* parent)
+    : QLineEdit(parent)
+    , lens_(addAction(QIcon(), LeadingPosition))
+{
+    lens_->setEnabled(false);
+    setPlaceholderText(qtTrId("FIND_PLACEHOLDER"));
+    setAccessibleName(qtTrId("FIND"));
+    setClearButtonEnabled(true);
+    setAcceptDrops(false); // files are dropped on the window
+    takeColors();
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (requests_.search)
+            requests_.search();
+    });
+}
+
+QSize FindField::sizeHint() const
+{
+    const int aroundText = fontMetrics().height() * 4;
+    return {fontMetrics().horizontalAdvance(placeholderText()) + aroundText, QLineEdit::sizeHint().height()};
+}
+
+void FindField::showOutcome(Outcome outcome)
+{
+    if (outcome == outcome_)
+        return;
+    outcome_ = outcome;
+    takeColors();
+}
+
+void FindField::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        (event->modifiers() & Qt::ShiftModifier ? requests_.previous : requests_.next)();
+        break;
+    case Qt::Key_Escape:
+        clear();
+        requests_.leave();
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void FindField::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        takeColors();
+}
+
+void FindField::takeColors()
+{
+    const QPalette usual = QGuiApplication::palette();
+    QPalette colors;
+    if (outcome_ == Outcome::Nothing)
+        colors.setColor(QPalette::Base, mixed(usual.color(QPalette::Base), readableRed()));
+    setPalette(colors);
+    const QColor quiet = usual.color(QPalette::PlaceholderText);
+    lens_->setIcon(imageNamed("find.png", quiet, quiet));
+}
+
+} // namespace sonavel

@@ -1,0 +1,82 @@
+#include "qt/windows/NowPlayingText.h"
+
+#include "adapters/NowPlaying.h"
+#include "qt/kit/TextConversion.h"
+
+namespace sonavel {
+
+namespace {
+
+const char* keyOf(PlaybackFailure failure)
+{
+    switch (failure) {
+    case PlaybackFailure::NoSuchHost:
+        return "FAILURE_NO_SUCH_HOST";
+    case PlaybackFailure::Refused:
+        return "FAILURE_REFUSED";
+    case PlaybackFailure::Unreachable:
+        return "FAILURE_UNREACHABLE";
+    case PlaybackFailure::TimedOut:
+        return "FAILURE_TIMED_OUT";
+    case PlaybackFailure::Certificate:
+        return "FAILURE_CERTIFICATE";
+    case PlaybackFailure::NotFound:
+        return "FAILURE_NOT_FOUND";
+    case PlaybackFailure::NotAllowed:
+        return "FAILURE_NOT_ALLOWED";
+    case PlaybackFailure::ServerError:
+        return "FAILURE_SERVER_ERROR";
+    case PlaybackFailure::NotAStream:
+        return "FAILURE_NOT_A_STREAM";
+    case PlaybackFailure::NotUsable:
+        return "FAILURE_NOT_USABLE";
+    case PlaybackFailure::Ended:
+        return "FAILURE_ENDED";
+    case PlaybackFailure::Silent:
+        return "FAILURE_SILENT";
+    case PlaybackFailure::NoSoundOutput:
+        return "FAILURE_NO_SOUND_OUTPUT";
+    case PlaybackFailure::EngineFailed:
+        return "FAILURE_ENGINE_FAILED";
+    case PlaybackFailure::Unknown:
+        break;
+    }
+    return "FAILURE_UNKNOWN";
+}
+
+QString titleOr(const char* key, const Text& title)
+{
+    return title.isEmpty() ? qtTrId(key) : onOneLine(toQString(title));
+}
+
+/// A stream that sounded is only missed for a while; one that never did is told with its fault.
+QString brokenText(const NowPlaying& nowPlaying)
+{
+    if (nowPlaying.hasSounded)
+        return qtTrId("NOW_PLAYING_RECONNECTING")
+            .replace(QStringLiteral("%li"), QString::number(nowPlaying.reconnectIn.count()));
+    return qtTrId("NOW_PLAYING_FAILED").replace(QStringLiteral("%@"), qtTrId(keyOf(nowPlaying.failure)));
+}
+
+} // namespace
+
+QString nowPlayingText(const NowPlaying& nowPlaying)
+{
+    switch (nowPlaying.state) {
+    case NowPlaying::State::Connecting:
+        return qtTrId("NOW_PLAYING_CONNECTING");
+    case NowPlaying::State::Buffering:
+        return qtTrId("NOW_PLAYING_BUFFERING");
+    case NowPlaying::State::Playing:
+        return titleOr("NOW_PLAYING_UNTITLED", nowPlaying.title);
+    case NowPlaying::State::Held:
+        return titleOr("NOW_PLAYING_HELD", nowPlaying.title);
+    case NowPlaying::State::Reconnecting:
+        return brokenText(nowPlaying);
+    case NowPlaying::State::Nothing:
+        break;
+    }
+    return qtTrId("NOW_PLAYING_NOTHING");
+}
+
+} // namespace sonavel

@@ -1,0 +1,49 @@
+#include "qt/windows/ProgramDialog.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVariant>
+
+namespace sonavel {
+
+namespace {
+
+constexpr double headlineSize = 1.25; // times the usual size of the font
+
+} // namespace
+
+void ProgramDialog::reject()
+{
+    for (auto* button : findChildren<QAbstractButton*>()) {
+        if (button->property("endsDialog").toBool())
+            button->click();
+    }
+}
+
+void ProgramDialog::takeProportions()
+{
+    const int line = fontMetrics().height();
+    layout()->setContentsMargins(line, line, line, line);
+    layout()->setSpacing(line * 3 / 4);
+    for (auto* fields : findChildren<QFormLayout*>()) {
+        fields->setHorizontalSpacing(line * 3 / 4);
+        fields->setVerticalSpacing(line * 5 / 8);
+    }
+    for (auto* field : findChildren<QLineEdit*>()) {
+        field->setMinimumHeight(line * 7 / 4);
+        field->setTextMargins(line / 4, 0, line / 4, 0);
+    }
+    for (auto* label : findChildren<QLabel*>()) {
+        QFont font = label->font();
+        font.setPointSizeF(font.pointSizeF() * headlineSize);
+        if (label->property("headline").toBool())
+            label->setFont(font);
+    }
+    for (auto* button : findChildren<QPushButton*>())
+        button->setMinimumHeight(line * 2);
+    setMinimumSize(minimumSizeHint());
+}
+
+} // namespace sonavel

@@ -1,0 +1,98 @@
+#include "qt/windows/SearchFolding.h"
+
+#include <QList>
+#include <QString>
+
+#include <utility>
+
+namespace sonavel {
+
+namespace {
+
+constexpr char32_t replacementCharacter = 0xFFFD;
+
+char smallLetter(char byte)
+{
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+}
+
+/// Letters whose stroke or ligature is no accent to Unicode, but to those who search.
+QString withoutStrokes(const QString& character)
+{
+    constexpr std::array<std::pair<char16_t, const char*>, 8> pairs{
+        {{u'ø', "o"}, {u'đ', "d"}, {u'ł', "l"}, {u'ħ', "h"}, {u'ŧ', "t"}, {u'ı', "i"}, {u'æ', "ae"}, {u'œ', "oe"}}};
+    for (const auto& [letter, plain] : pairs) {
+        if (character == letter)
+            return QString::fromLatin1(plain);
+    }
+    return character;
+}
+
+std::string fold(char32_t character)
+{
+    const QString decomposed = QString::fromUcs4(&character, 1).normalized(QString::NormalizationForm_KD);
+    QString kept;
+    for (const char32_t part : decomposed.toUcs4()) {
+        if (!QChar::isMark(part))
+            kept += QChar::fromUcs4(part);
+    }
+    return withoutStrokes(kept.toCaseFolded()).toStdString();
+}
+
+/// Takes one character off the front; bytes that are no UTF-8 are replacement characters.
+char32_t takeCharacter(std::string_view& bytes)
+{
+    const auto first = static_cast<unsigned char>(bytes.front());
+    bytes.remove_prefix(1);
+    if (first < 0x80)
+        return first;
+    const std::size_t following = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
+    if (first < 0xC2 || first > 0xF4 || bytes.size() < following)
+        return replacementCharacter;
+    char32_t character = first & (0x3FU >> following);
+    for (std::size_t index = 0; index < following; ++index) {
+        const auto next = static_cast<unsigned char>(bytes[index]);
+        if ((next & 0xC0U) != 0x80)
+            return replacementCharacter;
+        character = character << 6U | (next & 0x3FU);
+    }
+    bytes.remove_prefix(following);
+    return character > 0x10FFFF ? replacementCharacter : character;
+}
+
+} // namespace
+
+std::string_view SearchFolding::folded(std::string_view utf8)
+{
+    folded_.resize(utf8.size());
+    unsigned char bits = 0;
+    for (std::size_t index = 0; index < utf8.size(); ++index) {
+        bits = static_cast<unsigned char>(bits | static_cast<unsigned char>(utf8[index]));
+        folded_[index] = smallLetter(utf8[index]);
+    }
+    if (bits < 0x80)
+        return folded_;
+    folded_.clear();
+    while (!utf8.empty()) {
+        if (static_cast<unsigned char>(utf8.front()) < 0x80) {
+            folded_ += smallLetter(utf8.front());
+            utf8.remove_prefix(1);
+        } else {
+            folded_ += foldedCharacter(takeCharacter(utf8));
+        }
+    }
+    return folded_;
+}
+
+const std::string& SearchFolding::foldedCharacter(char32_t character)
+{
+    std::unique_ptr<Page>& page = pages_.at(character >> 8U);
+    if (!page)
+        page = std::make_unique<Page>();
+    std::optional<std::string>& folded = page->at(character & 0xFFU);
+    if (!folded)
+        folded = fold(character);
+    return *folded;
+}
+
+} // namespace sonavel

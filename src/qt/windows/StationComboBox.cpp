@@ -1,0 +1,105 @@
+#include "qt/windows/StationComboBox.h"
+
+#include "qt/kit/TextConversion.h"
+
+#include <QCoreApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QListView>
+#include <QStyleOption>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+namespace sonavel {
+
+namespace {
+
+constexpr int shortestContents = 24; // characters
+constexpr int visibleItems = 16;
+
+/// Rows with room to aim at.
+class AiryItemDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
+    {
+        const int line = option.fontMetrics.height();
+        return {line * shortestContents / 2, line * 3 / 2};
+    }
+};
+
+bool movesThroughItems(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isTyping(const QKeyEvent& event)
+{
+    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint() && event.key() != Qt::Key_Space;
+}
+
+} // namespace
+
+StationComboBox::StationComboBox(QWidget* parent)
+    : QComboBox(parent)
+{
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(shortestContents);
+    auto* list = new QListView(this);
+    list->setUniformItemSizes(true);
+    list->setTextElideMode(Qt::ElideRight);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setView(list);
+    setItemDelegate(new AiryItemDelegate(this));
+    setMaxVisibleItems(visibleItems);
+}
+
+/// Left to whatever lies behind the box.
+void StationComboBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+void StationComboBox::keyPressEvent(QKeyEvent* event)
+{
+    if ((movesThroughItems(*event) || isTyping(*event)) && !(event->modifiers() & Qt::AltModifier))
+        openListAndPass(*event);
+    else
+        QComboBox::keyPressEvent(event);
+}
+
+void StationComboBox::openListAndPass(QKeyEvent& event)
+{
+    showPopup();
+    if (view()->isVisible())
+        QCoreApplication::sendEvent(view(), &event);
+    event.accept();
+}
+
+/// A name that does not fit is told whole by the tool tip.
+bool StationComboBox::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QComboBox::event(event);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const bool fits = fontMetrics().horizontalAdvance(currentText()) <= field.width() - 2;
+    const QString tip = fits ? toolTip() : currentText();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), asPlainToolTip(tip), this);
+    return true;
+}
+
+} // namespace sonavel
