@@ -185,13 +185,13 @@ TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)
 
 TEST(ButtonBinding, AButtonThatIsDisabledForAMomentKeepsTheKeyboard)
 {
+    Button button;
     QWidget window;
     QHBoxLayout layout(&window);
     QPushButton play("Play");
     QPushButton stop("Stop");
     layout.addWidget(&play);
     layout.addWidget(&stop);
-    Button button;
     new ButtonBinder(button, play);
     window.show();
     window.activateWindow();
