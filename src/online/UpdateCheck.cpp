@@ -50,7 +50,7 @@ void UpdateCheck::showNotification()
 {
     outlets_.labelUpdateNotification.setStringValue(ports_.localizedStrings.localizedStringForKey(
         updaterApp->hasUsableAnswer() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER"));
-    outlets_.winUpdateNotification.setIsVisible(true);
+    outlets_.winUpdateNotification.makeKeyAndOrderFront();
 }
 
 } // namespace sonavel
