@@ -34,6 +34,7 @@ Text QtFilePanels::runModal(const OpenPanel& panel)
     QFileDialog dialog(QApplication::activeWindow(), qtTrId("PANEL_IMPORT"));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::ReadOnly);
     dialog.setNameFilter(qtTrId("PANEL_STATION_LISTS") + QStringLiteral(" (*.%1)").arg(type));
     dialog.setDirectory(folder_);
     Text chosen = chosenIn(dialog);

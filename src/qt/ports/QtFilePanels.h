@@ -7,9 +7,9 @@
 
 namespace sonavel {
 
-/// Over the active window. A folder cannot be chosen, whatever its name; it is entered. The open panel begins where the
-/// last file was chosen, at first in the user's home folder. So does the save panel where it is asked to begin in a
-/// folder that goes away with the program.
+/// Over the active window. A folder cannot be chosen, whatever its name; it is entered. The open panel removes and
+/// renames nothing. It begins where the last file was chosen, at first in the user's home folder. So does the save
+/// panel where it is asked to begin in a folder that goes away with the program.
 class QtFilePanels : public FilePanels {
 public:
     explicit QtFilePanels(QString passingFolder = {});
