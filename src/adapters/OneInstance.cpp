@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -20,6 +21,9 @@ namespace sonavel {
 namespace {
 
 constexpr std::chrono::seconds longestPatience{5};
+
+/// The name of a socket has little room, and below the folder there are "/sonavel/", twenty digits and the ending.
+constexpr std::size_t longestGiven = sizeof(sockaddr_un::sun_path) - 40;
 constexpr std::chrono::milliseconds pause{20};
 
 /// The same for every way to write the path of one folder.
@@ -91,8 +95,8 @@ bool call(const std::string& path)
 std::string OneInstance::usersRunTimeFolder()
 {
     const char* given = std::getenv("XDG_RUNTIME_DIR");
-    std::string folder = given != nullptr && *given == '/' ? std::string(given) + "/sonavel"
-                                                           : "/tmp/sonavel-" + std::to_string(::getuid());
+    const bool isUsable = given != nullptr && *given == '/' && std::strlen(given) <= longestGiven;
+    std::string folder = isUsable ? std::string(given) + "/sonavel" : "/tmp/sonavel-" + std::to_string(::getuid());
     ::mkdir(folder.c_str(), S_IRWXU);
     return isOwnFolder(folder) ? folder : std::string();
 }

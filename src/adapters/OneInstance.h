@@ -13,11 +13,12 @@ namespace sonavel {
 /// that ends. Lock and socket lie in a folder for things of the run time, never beside the user's files.
 class OneInstance {
 public:
-    /// The user's folder for such things: $XDG_RUNTIME_DIR, else one of his own under /tmp. Empty when there is none
-    /// that is his alone.
+    /// The user's folder for such things: $XDG_RUNTIME_DIR unless its path is too long for a socket, else one of his
+    /// own under /tmp. Empty when there is none that is his alone.
     [[nodiscard]] static std::string usersRunTimeFolder();
 
-    /// Claims the home directory. Null when another process has it; that one has then been called. Without a usable
+    /// Claims the home directory. Null when another process has it; that one has then been called, if it
+    /// listened within five seconds. Without a usable
     /// folder every claim succeeds.
     [[nodiscard]] static std::unique_ptr<OneInstance> claim(
         const std::string& runTimeFolder, const std::string& homeDirectory);

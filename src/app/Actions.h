@@ -8,6 +8,7 @@ namespace sonavel {
 
 class Action;
 class Gate;
+class MenuItem;
 class WinSonavelController;
 struct Outlets;
 
@@ -35,6 +36,7 @@ private:
     /// What becomes of a cell that is being edited. What works on the list as it is shown finds the edit made.
     enum class OpenCell { Stays, IsEnded };
 
+    [[nodiscard]] OpenCell openCellUnder(const MenuItem& item) const;
     void wire(Action& action, OpenCell openCell, std::function<void(WinSonavelController&)> operation);
     void wireMainWindow();
     void wireEditor();

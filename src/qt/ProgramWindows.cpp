@@ -71,7 +71,7 @@ void ProgramWindows::buildStationListWindow()
 void ProgramWindows::buildPreferences()
 {
     ProgramDialog* sheet = ProgramDialog::from<Ui::PreferencesSheet>(mainWindow_.get()).release();
-    menus_->addKeysTo(*sheet);
+    menus_->addTo(*sheet);
     connectPreferences(outlets_, *sheet);
 }
 

@@ -60,6 +60,35 @@ TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)
     EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
 }
 
+TEST_F(MenusTest, ItemsDoWhatTheirTagsSay)
+{
+    startWithStations("A;http://a/\rB;http://b/\rC;http://c/\r");
+    outlets.menuPreviousStation.chosenByUser();
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 3);
+    outlets.menuNextStation.chosenByUser();
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+
+    showEditor(true);
+    outlets.tableViewListRadio.selectedByUser({1}, 1);
+    actions.validateItems();
+    outlets.menuRadioEdit.chosenByUser();
+    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "B");
+    outlets.buttonCancel.pressedByUser();
+    platform.alerts.expect("<REMOVE_RADIO>", secondButtonAnswer);
+    outlets.menuRadioRemove.chosenByUser();
+}
+
+TEST_F(MenusTest, APlaybackItemLeavesAnOpenCellAlone)
+{
+    startWithStations("A;http://a/\r");
+    const unsigned before = outlets.tableViewListRadio.state().endsOfEditing;
+    for (MenuItem* item : {&outlets.menuMute, &outlets.menuNextStation, &outlets.menuPlayPause, &outlets.menuStop})
+        item->chosenByUser();
+    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before);
+    outlets.menuRadioShowEditRadio.chosenByUser();
+    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before + 1);
+}
+
 TEST_F(MenusTest, TheListItemTogglesItsWindowAndWaitsForThePreferences)
 {
     start();

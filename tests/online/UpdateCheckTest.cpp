@@ -195,16 +195,20 @@ TEST_F(UpdateCheckTest, PlayPressedWhileTheServerIsAskedIsDoneOnceAfterwards)
 {
     startOnTheNextDay();
     outlets.popupbuttonRadioList.chosenByUser(1);
-    platform.httpClient.whileAsking = [this] {
-        for (int press = 0; press < 3; ++press) {
+    int presses = 0;
+    platform.httpClient.whileAsking = [this, &presses] {
+        for (int press = 0; press < presses; ++press) {
             outlets.buttonPlayPause.setEnabled(true);
             outlets.buttonPlayPause.pressedByUser();
         }
-        EXPECT_TRUE(platform.streamPlayers.players.empty());
+        EXPECT_FALSE(controller.player.isPlay);
     };
-    checkOnDemand();
-    EXPECT_EQ(platform.streamPlayers.players.size(), 1U);
-    EXPECT_TRUE(controller.player.isPlay);
+    for (presses = 2; presses <= 3; ++presses) {
+        checkOnDemand();
+        EXPECT_TRUE(controller.player.isPlay) << presses;
+        outlets.buttonStop.pressedByUser();
+    }
+    EXPECT_EQ(platform.streamPlayers.players.size(), 2U);
 }
 
 } // namespace

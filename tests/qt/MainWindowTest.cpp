@@ -81,10 +81,16 @@ TEST(WindowMemory, AWindowComesBackWhereItWasAndRubbishIsForgotten)
     QWidget window;
     window.setObjectName("winAny");
     memory.restore(window);
-    window.setGeometry(40, 50, 330, 170);
     memory.keep(window);
     QWidget again;
     again.setObjectName("winAny");
+    const QRect asNew = again.geometry();
+    memory.restore(again);
+    EXPECT_EQ(again.geometry(), asNew) << "a window that was never shown has no place";
+
+    window.show();
+    window.setGeometry(40, 50, 330, 170);
+    memory.keep(window);
     memory.restore(again);
     EXPECT_EQ(again.geometry(), window.geometry());
 

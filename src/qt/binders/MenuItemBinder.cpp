@@ -6,13 +6,20 @@
 
 namespace sonavel {
 
+namespace {
+
+constexpr int noTag = -1;
+
+} // namespace
+
 MenuItemBinder::MenuItemBinder(MenuItem& item, QAction& action)
     : QObject(&action)
     , item_(item)
     , action_(action)
     , titleShown_(toText(action.text().remove(u'&')))
 {
-    item_.connect({titleShown_, action.property("tag").toInt(), action.isEnabled()},
+    const QVariant tag = action.property("tag");
+    item_.connect({titleShown_, tag.isValid() ? tag.toInt() : noTag, action.isEnabled()},
         [this](const MenuItemState& state) { render(state); });
     // Queued: a screen reader that chooses it waits for an answer, and must not wait for that of a question.
     connect(

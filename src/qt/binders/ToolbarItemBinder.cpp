@@ -4,11 +4,18 @@
 
 namespace sonavel {
 
+namespace {
+
+constexpr int noTag = -1;
+
+} // namespace
+
 ToolbarItemBinder::ToolbarItemBinder(ToolbarItem& item, QAction& action)
     : QObject(&action)
     , item_(item)
 {
-    item_.connect({action.property("tag").toInt(), action.isEnabled()},
+    const QVariant tag = action.property("tag");
+    item_.connect({tag.isValid() ? tag.toInt() : noTag, action.isEnabled()},
         [&action](const ToolbarItemState& state) { action.setEnabled(state.isEnabled); });
     // Queued: a screen reader that presses it waits for an answer, and must not wait for that of a question.
     connect(

@@ -45,6 +45,13 @@ QString MediaPlayerRoot::desktopEntry()
     return QStringLiteral("sonavel");
 }
 
+/// Whoever calls it waits for an answer, and must not wait for that of the question.
+void MediaPlayerRoot::Quit()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { controls_.quit(); }, Qt::QueuedConnection);
+}
+
 MediaPlayerPlayer::MediaPlayerPlayer(MediaControls& controls, QObject& object)
     : QDBusAbstractAdaptor(&object)
     , controls_(controls)

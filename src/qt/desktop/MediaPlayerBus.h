@@ -35,7 +35,7 @@ public:
 
 public slots:
     void Raise() { controls_.raise(); }
-    void Quit() { controls_.quit(); }
+    void Quit();
 
 private:
     MediaControls& controls_;

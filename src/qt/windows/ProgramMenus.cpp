@@ -4,8 +4,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 
 namespace sonavel {
 
@@ -16,7 +19,7 @@ constexpr int noTag = -1;
 struct Item {
     const char* name; ///< null for a line between items
     const char* title = nullptr;
-    int tag = 0;
+    int tag = noTag;
     QList<QKeySequence> keys = {};
 };
 
@@ -61,12 +64,13 @@ void addItem(QMenu& menu, const Item& item)
     action->setAutoRepeat(false);
 }
 
-bool pressesOrTypesWithSpace(const QWidget& widget)
+/// A field in which the user types keeps the key for itself.
+bool takesSpace(const QWidget& widget)
 {
     return qobject_cast<const QAbstractButton*>(&widget) != nullptr
         || qobject_cast<const QComboBox*>(&widget) != nullptr
         || qobject_cast<const QAbstractItemView*>(&widget) != nullptr
-        || qobject_cast<const QMenuBar*>(&widget) != nullptr;
+        || qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const QMenuBar*>(&widget) != nullptr;
 }
 
 bool isPlainSpace(const QKeyEvent& event)
@@ -92,8 +96,21 @@ ProgramMenus::ProgramMenus(std::function<void()> validate)
 
 void ProgramMenus::addTo(QMainWindow& window)
 {
+    addTo(*window.menuBar());
+}
+
+void ProgramMenus::addTo(QDialog& sheet)
+{
+    auto* bar = new QMenuBar(&sheet);
+    addTo(*bar);
+    sheet.layout()->setMenuBar(bar);
+    sheet.setMinimumSize(sheet.minimumSizeHint());
+}
+
+void ProgramMenus::addTo(QMenuBar& bar)
+{
     for (QMenu& menu : menus_)
-        window.menuBar()->addMenu(&menu);
+        bar.addMenu(&menu);
 }
 
 void ProgramMenus::addKeysTo(QWidget& sheet)
@@ -122,7 +139,7 @@ bool ProgramMenus::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::ShortcutOverride)
         return false;
     validate_();
-    if (!isPlainSpace(*static_cast<QKeyEvent*>(event)) || !pressesOrTypesWithSpace(widget))
+    if (!isPlainSpace(*static_cast<QKeyEvent*>(event)) || !takesSpace(widget))
         return false;
     event->accept();
     return true;

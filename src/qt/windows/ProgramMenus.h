@@ -8,6 +8,9 @@
 #include <array>
 #include <functional>
 
+class QDialog;
+class QMenuBar;
+
 namespace sonavel {
 
 /// One action per item, shared by all menu bars, so that its key is known once to the whole application. Actions go by
@@ -20,7 +23,9 @@ public:
     explicit ProgramMenus(std::function<void()> validate);
 
     void addTo(QMainWindow& window);
-    /// The keys alone, for a sheet: it blocks the window whose menu bar has them.
+    /// For a sheet that leaves the menus usable, though it blocks the window that has them otherwise.
+    void addTo(QDialog& sheet);
+    /// The keys alone, for a sheet beside which another window has the menus.
     void addKeysTo(QWidget& sheet);
 
     [[nodiscard]] QAction& item(const QString& name) const;
@@ -28,6 +33,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void addTo(QMenuBar& bar);
+
     std::function<void()> validate_;
     std::array<QMenu, 3> menus_;
 };

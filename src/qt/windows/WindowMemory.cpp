@@ -54,6 +54,8 @@ void WindowMemory::restore(QWidget& window) const
 
 void WindowMemory::keep(const QWidget& window) const
 {
+    if (window.windowHandle() == nullptr)
+        return;
     QSettings settings(file_, QSettings::IniFormat);
     settings.setValue(geometryKey(window), window.saveGeometry());
     if (const QTableView* table = tableIn(window))

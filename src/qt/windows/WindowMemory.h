@@ -19,6 +19,7 @@ public:
     /// Puts a window that is not shown yet where it was, if that is still on a screen. Windows go by their object
     /// names. A table in it gets its columns afterwards.
     void restore(QWidget& window) const;
+    /// Nothing for a window that was never shown.
     void keep(const QWidget& window) const;
 
 private:
