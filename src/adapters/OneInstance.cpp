@@ -101,21 +101,21 @@ std::string OneInstance::usersRunTimeFolder()
     return isOwnFolder(folder) ? folder : std::string();
 }
 
-std::unique_ptr<OneInstance> OneInstance::claim(const std::string& runTimeFolder, const std::string& homeDirectory)
+OneInstance::Claim OneInstance::claim(const std::string& runTimeFolder, const std::string& homeDirectory)
 {
     if (runTimeFolder.empty())
-        return std::unique_ptr<OneInstance>(new OneInstance(-1, -1));
+        return {std::unique_ptr<OneInstance>(new OneInstance(-1, -1))};
     const std::string path = runTimeFolder + "/" + nameOf(homeDirectory);
     const auto end = std::chrono::steady_clock::now() + longestPatience;
     do {
         if (const auto lock = lockedFile(path + ".lock"))
-            return std::unique_ptr<OneInstance>(new OneInstance(*lock, listeningSocket(path + ".socket")));
+            return {std::unique_ptr<OneInstance>(new OneInstance(*lock, listeningSocket(path + ".socket")))};
         // Between its lock and its socket the other one cannot be called yet.
         if (call(path + ".socket"))
-            return nullptr;
+            return {nullptr, true};
         std::this_thread::sleep_for(pause);
     } while (std::chrono::steady_clock::now() < end);
-    return nullptr;
+    return {nullptr, false};
 }
 
 OneInstance::OneInstance(int lock, int socket)

@@ -17,11 +17,10 @@ public:
     /// own under /tmp. Empty when there is none that is his alone.
     [[nodiscard]] static std::string usersRunTimeFolder();
 
-    /// Claims the home directory. Null when another process has it; that one has then been called, if it
-    /// listened within five seconds. Without a usable
-    /// folder every claim succeeds.
-    [[nodiscard]] static std::unique_ptr<OneInstance> claim(
-        const std::string& runTimeFolder, const std::string& homeDirectory);
+    struct Claim;
+    /// Claims the home directory. While another process has it, that one is called, for up to five seconds until it
+    /// listens. Without a usable folder every claim succeeds.
+    [[nodiscard]] static Claim claim(const std::string& runTimeFolder, const std::string& homeDirectory);
 
     OneInstance(const OneInstance&) = delete;
     OneInstance& operator=(const OneInstance&) = delete;
@@ -36,6 +35,12 @@ private:
     int lock_;
     int socket_;
     std::unique_ptr<EventLoop::Registration> calls_;
+};
+
+/// What came of a claim.
+struct OneInstance::Claim {
+    std::unique_ptr<OneInstance> instance; ///< null when another process has the home directory
+    bool isOtherCalled = false; ///< whether that process has heard of this start
 };
 
 } // namespace sonavel

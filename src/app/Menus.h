@@ -21,7 +21,7 @@ public:
     /// Does what belongs to the item's tag; nothing for a tag that no item has.
     void menuView(const MenuItem& sender);
 
-    /// Whether the item is to be enabled now. Names the item of the station list window after what choosing it does.
+    /// Whether the item is to be enabled now. That of the station list window is named after what choosing it does.
     [[nodiscard]] bool validateMenuItem(const MenuItem& item);
 
     /// Enables every item as it is to be now: before a menu is shown, and before a key is matched.

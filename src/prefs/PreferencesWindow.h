@@ -25,7 +25,8 @@ public:
     void setAutoPlayAtStart();
     /// Inverts whether choosing a station plays it.
     void setAutoPlay();
-    /// Takes the station that is selected, by its name, for the default one; the placeholder is none.
+    /// Takes the station that is selected, by its name, for the default one. The placeholder's title is kept like a
+    /// name, and selects no station at the next start.
     void setRadioDefault();
     /// Takes the slider's value for the volume at the start; what is heard now stays.
     void changeVolumeDefault();

@@ -22,6 +22,11 @@ int print(const sonavel::EndAtOnce& end)
     return end.status;
 }
 
+sonavel::EndAtOnce noAnswer()
+{
+    return {1, QStringLiteral("sonavel: another player has this home directory and does not answer")};
+}
+
 QStringList withoutName(int argumentCount, char** arguments)
 {
     QStringList list;
@@ -74,9 +79,11 @@ int main(int argumentCount, char** arguments)
 
     std::unique_ptr<sonavel::OneInstance> instance;
     if (!settings.home.isEmpty()) {
-        instance = sonavel::OneInstance::claim(sonavel::OneInstance::usersRunTimeFolder(), settings.home.toStdString());
-        if (!instance)
-            return 0;
+        auto claim =
+            sonavel::OneInstance::claim(sonavel::OneInstance::usersRunTimeFolder(), settings.home.toStdString());
+        if (!claim.instance)
+            return claim.isOtherCalled ? 0 : print(noAnswer());
+        instance = std::move(claim.instance);
     }
 
     // Reading the settings of the fonts takes a fifth of a start; it is done while Qt finds the display.

@@ -17,7 +17,7 @@ class OneInstanceTest : public testing::Test {
 protected:
     std::unique_ptr<OneInstance> claim(const std::string& home = "/home/listener")
     {
-        return OneInstance::claim(folder.path(), home);
+        return OneInstance::claim(folder.path(), home).instance;
     }
 
     test::TemporaryFolder folder;
@@ -38,6 +38,19 @@ TEST_F(OneInstanceTest, ASecondStartCallsTheFirstAlsoWhileThatIsStillStarting)
     EXPECT_TRUE(claim("/home/other")) << "another home directory";
     first.reset();
     EXPECT_TRUE(claim());
+}
+
+TEST_F(OneInstanceTest, APlayerThatCannotBeCalledIsTold)
+{
+    const auto first = claim();
+    ASSERT_TRUE(OneInstance::claim(folder.path(), "/home/listener").isOtherCalled);
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+        if (entry.path().extension() == ".socket")
+            std::filesystem::remove(entry.path());
+    }
+    const auto second = OneInstance::claim(folder.path(), "/home/listener");
+    EXPECT_FALSE(second.instance);
+    EXPECT_FALSE(second.isOtherCalled);
 }
 
 TEST_F(OneInstanceTest, WhatAKilledPlayerLeftBehindIsNoObstacle)
@@ -64,8 +77,8 @@ TEST_F(OneInstanceTest, WithoutAFolderOfTheUsersOwnEveryStartIsTheFirst)
     std::filesystem::permissions(shared + "/sonavel", std::filesystem::perms::owner_all);
     EXPECT_EQ(OneInstance::usersRunTimeFolder(), shared + "/sonavel");
     ::unsetenv("XDG_RUNTIME_DIR");
-    EXPECT_TRUE(OneInstance::claim("", "/home/listener"));
-    EXPECT_TRUE(OneInstance::claim("", "/home/listener"));
+    EXPECT_TRUE(OneInstance::claim("", "/home/listener").instance);
+    EXPECT_TRUE(OneInstance::claim("", "/home/listener").instance);
 }
 
 } // namespace

@@ -17,7 +17,7 @@ public:
     [[nodiscard]] static QString usersStateFolder();
 
     /// Puts a window that is not shown yet where it was, if that is still on a screen. Windows go by their object
-    /// names. A table in it gets its columns afterwards.
+    /// names. The first column of a table in it gets its width, up to the window's.
     void restore(QWidget& window) const;
     /// Nothing for a window that was never shown.
     void keep(const QWidget& window) const;
