@@ -78,6 +78,16 @@ QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption* optio
         palette.color(QPalette::Disabled, QPalette::ButtonText));
 }
 
+QSize HouseStyle::sizeFromContents(
+    ContentsType type, const QStyleOption* option, const QSize& contents, const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type != CT_PushButton || option == nullptr)
+        return size;
+    const int besideText = option->fontMetrics.height() * 3 / 4;
+    return size.expandedTo({contents.width() + 2 * besideText, 0});
+}
+
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const bool isBesideText = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;

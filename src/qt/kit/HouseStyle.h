@@ -6,9 +6,9 @@
 namespace sonavel {
 
 /// Pop-ups open as scrollable lists, which stays quick with very many items; a click into a slider's groove takes the
-/// knob there; the texts of tables have room beside them; the outline of
-/// a check box is seen on dark palettes too, and on palettes of high contrast that of every control. `base` is the key
-/// of a style, or empty for the desktop's.
+/// knob there; the texts of tables and buttons have room beside them; the outline of a check box is seen on dark
+/// palettes too, and on palettes of high contrast that of every control. `base` is the key of a style, or empty for the
+/// desktop's.
 class HouseStyle : public QProxyStyle {
 public:
     explicit HouseStyle(const QString& base = {});
@@ -20,6 +20,8 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
         const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(
+        ContentsType type, const QStyleOption* option, const QSize& contents, const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };
 

@@ -50,8 +50,6 @@ void MainWindow::setUpProportions()
     for (QPushButton* button : {static_cast<QPushButton*>(description_->buttonPlayPause), description_->buttonStop,
              description_->buttonMute, description_->buttonEditRadioList})
         button->setMinimumHeight(line * 2);
-    QPushButton* longest = description_->buttonEditRadioList;
-    longest->setMinimumWidth(longest->sizeHint().width() + line);
     description_->popupbuttonRadioList->setMinimumHeight(line * 2 - line / 4);
 }
 
