@@ -9,10 +9,8 @@ EditSheetDialog::EditSheetDialog(QWidget& editor)
 {
     Ui::EditSheet description;
     description.setupUi(this);
-    description.buttons->addButton(description.buttonAction, QDialogButtonBox::AcceptRole);
-    description.buttons->addButton(description.buttonCancel, QDialogButtonBox::RejectRole);
     description.buttonAction->reserveRoomFor({qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")});
-    takeProportions();
+    takeShape();
     resize(fontMetrics().height() * 30, minimumHeight());
 }
 

@@ -1,5 +1,6 @@
 #include "qt/windows/ProgramDialog.h"
 
+#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,6 +23,24 @@ void ProgramDialog::reject()
     }
 }
 
+void ProgramDialog::takeShape()
+{
+    arrangeButtons();
+    takeProportions();
+}
+
+/// Each desktop has an order of its own in which its users look for buttons.
+void ProgramDialog::arrangeButtons()
+{
+    auto* box = findChild<QDialogButtonBox*>();
+    if (box == nullptr)
+        return;
+    for (auto* button : findChildren<QPushButton*>())
+        box->addButton(button,
+            button->property("endsDialog").toBool() ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole);
+}
+
+/// All distances follow the font.
 void ProgramDialog::takeProportions()
 {
     const int line = fontMetrics().height();

@@ -9,7 +9,7 @@ namespace sonavel {
 
 /// Built from its description, whose object names are the names of the outlets. Shown and hidden by the program: Return
 /// presses its default button, Escape and the title bar the button whose property `endsDialog` is set, and nothing else
-/// ends it.
+/// ends it. Buttons beside a button box are put into it.
 class ProgramDialog : public QDialog {
 public:
     explicit ProgramDialog(QWidget* owner = nullptr)
@@ -22,14 +22,18 @@ public:
     {
         auto dialog = std::make_unique<ProgramDialog>(owner);
         Description().setupUi(dialog.get());
-        dialog->takeProportions();
+        dialog->takeShape();
         return dialog;
     }
 
     void reject() override;
 
 protected:
-    /// All distances follow the font.
+    /// To be called once the description was set up, before the dialog is resized.
+    void takeShape();
+
+private:
+    void arrangeButtons();
     void takeProportions();
 };
 
