@@ -1,5 +1,8 @@
 #include "qt/kit/Palettes.h"
 
+#include "UserInput.h"
+#include "qt/kit/PrimaryButton.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -37,6 +40,33 @@ TEST(Palettes, TextsCanBeReadOnTheirGround)
             contrast(palette.color(QPalette::Disabled, Role::ButtonText), palette.color(Role::Button)), least / 2);
         EXPECT_EQ(isHighContrast(palette), least == 7.0) << name.toStdString();
     }
+}
+
+TEST(Palettes, TheKeyboardsPlaceIsSeenOnTheButtonThatMattersMost)
+{
+    const QPalette usual = QApplication::palette();
+    for (const QString& name : appearanceNames()) {
+        QApplication::setPalette(paletteFor(appearanceNamed(name).value()));
+        QWidget window;
+        QPushButton before(&window);
+        PrimaryButton button(&window);
+        button.resize(100, 32);
+        before.setFocus();
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(handleEventsUntil([&] { return before.hasFocus(); }));
+        const QImage usualLooks = button.grab().toImage();
+        pressKey(before, Qt::Key_Tab);
+        ASSERT_TRUE(button.hasFocus());
+        const QImage looks = button.grab().toImage();
+        double greatest = 1;
+        for (int x = 0; x < looks.width() / 2; ++x) {
+            const QPoint point(x, looks.height() / 2);
+            greatest = std::max(greatest, contrast(looks.pixelColor(point), usualLooks.pixelColor(point)));
+        }
+        EXPECT_GE(greatest, 3.0) << name.toStdString();
+    }
+    QApplication::setPalette(usual);
 }
 
 } // namespace

@@ -2,12 +2,15 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QPainter>
+#include <QStyleOptionButton>
 
 namespace sonavel {
 
 namespace {
 
 constexpr int paledByStyles = 160; // percent; styles lighten the colour of a button, and its words must stay readable
+constexpr int insideEdge = 3; // pixels
 
 } // namespace
 
@@ -34,6 +37,19 @@ void PrimaryButton::changeEvent(QEvent* event)
     if (event->type() == QEvent::EnabledChange)
         takeHighlightColors();
     QPushButton::changeEvent(event);
+}
+
+/// The outline by which styles show the keyboard's place is of this button's own colour.
+void PrimaryButton::paintEvent(QPaintEvent* event)
+{
+    QPushButton::paintEvent(event);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    if (!hasFocus() || !option.state.testFlag(QStyle::State_KeyboardFocusChange))
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawRect(rect().adjusted(insideEdge, insideEdge, -insideEdge - 1, -insideEdge - 1));
 }
 
 /// A disabled button looks like any other.
