@@ -98,6 +98,17 @@ TEST_F(StationTableTest, TheFirstArrowSelectsTheFirstRow)
     EXPECT_EQ(table.selectedRow(), 1);
 }
 
+TEST_F(StationTableTest, HomeAndEndSelectTheFirstAndTheLastRow)
+{
+    QTest::keyClick(&widget, Qt::Key_End);
+    EXPECT_EQ(table.selectedRow(), 4);
+    QTest::keyClick(&widget, Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_EQ(table.numberOfSelectedRows(), 5);
+    QTest::keyClick(&widget, Qt::Key_Home);
+    EXPECT_EQ(table.selectedRow(), 0);
+    EXPECT_EQ(table.numberOfSelectedRows(), 1) << "the keyboard was there before";
+}
+
 TEST_F(StationTableTest, AHundredThousandRowsAreSelectedAtOneStroke)
 {
     fill(100'000);

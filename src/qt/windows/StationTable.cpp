@@ -8,6 +8,21 @@
 
 namespace sonavel {
 
+namespace {
+
+bool isArrow(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+bool goesToARow(int key)
+{
+    return isArrow(key) || key == Qt::Key_Home || key == Qt::Key_End || key == Qt::Key_PageUp
+        || key == Qt::Key_PageDown;
+}
+
+} // namespace
+
 StationTable::StationTable(QWidget* parent)
     : QTableView(parent)
     , cells_(new StationCellDelegate(this))
@@ -62,16 +77,32 @@ void StationTable::selectAndShow(int row)
 }
 
 /// Return in an open cell reaches the table too, and so does Escape: neither is meant for it. Where no row is selected
-/// an arrow selects the one that has the keyboard, instead of going past it.
+/// an arrow selects the one that has the keyboard, instead of going past it. A key that finds the keyboard where it
+/// goes selects that row alone all the same.
 void StationTable::keyPressEvent(QKeyEvent* event)
 {
     if (cells_->openField() != nullptr)
         return;
-    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
-    if (isArrow && currentIndex().isValid() && !selectionModel()->hasSelection())
-        selectAndShow(currentIndex().row());
-    else
+    const QModelIndex before = currentIndex();
+    const bool isPlainMove = before.isValid() && event->modifiers() == Qt::NoModifier && goesToARow(event->key());
+    const bool staysForNow = isPlainMove && isArrow(event->key()) && !selectionModel()->hasSelection();
+    if (!staysForNow)
         QTableView::keyPressEvent(event);
+    if (isPlainMove && currentIndex() == before)
+        selectAndShow(before.row());
+}
+
+QModelIndex StationTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int column = qMax(0, currentIndex().column());
+    switch (action) {
+    case MoveHome:
+        return model()->index(0, column);
+    case MoveEnd:
+        return model()->index(model()->rowCount() - 1, column);
+    default:
+        return QTableView::moveCursor(action, modifiers);
+    }
 }
 
 void StationTable::changeEvent(QEvent* event)

@@ -7,8 +7,8 @@ namespace sonavel {
 
 class StationCellDelegate;
 
-/// Selects whole rows. A cell is opened by F2 or a slow second click, never by a double click. Draws a hint in place of
-/// rows while there are none. Shows 100,000 rows as quickly as ten.
+/// Selects whole rows; Home and End go to the first and the last one. A cell is opened by F2 or a slow second click,
+/// never by a double click. Draws a hint in place of rows while there are none. Shows 100,000 rows as quickly as ten.
 class StationTable : public QTableView {
 public:
     explicit StationTable(QWidget* parent = nullptr);
@@ -23,6 +23,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
