@@ -1,5 +1,6 @@
 #include "qt/ports/QtAlerts.h"
 
+#include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ void addButtons(QMessageBox& box, const std::vector<Text>& titles)
 {
     for (std::size_t index = 0; index < titles.size(); ++index) {
         QPushButton* button = box.addButton(withoutMnemonics(toQString(titles[index])), roleOf(index, titles.size()));
+        button->setMinimumHeight(box.fontMetrics().height() * 2);
         button->setProperty("answer", firstButtonAnswer + static_cast<int>(index));
         if (index == 0)
             box.setDefaultButton(button);
@@ -34,9 +36,8 @@ void addButtons(QMessageBox& box, const std::vector<Text>& titles)
 int QtAlerts::runModal(const Alert& alert)
 {
     QMessageBox box(QApplication::activeWindow());
-    const bool isQuestion = alert.buttonTitles.size() > 1;
     box.setWindowTitle(qtTrId("WIN_SONAVEL"));
-    box.setIcon(isQuestion ? QMessageBox::Question : QMessageBox::Warning);
+    box.setIconPixmap(programIcon().pixmap(box.fontMetrics().height() * 3));
     box.setTextFormat(Qt::PlainText);
     box.setText(toQString(alert.messageText));
     box.setWindowModality(Qt::ApplicationModal);
