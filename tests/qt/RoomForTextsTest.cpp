@@ -1,5 +1,6 @@
 // Whether every text has room in its control, in every language.
 #include "adapters/NowPlaying.h"
+#include "qt/binders/OutletConnector.h"
 #include "qt/kit/ElidedLabel.h"
 #include "qt/ports/TranslatedStrings.h"
 #include "qt/windows/EditSheetDialog.h"
@@ -10,6 +11,7 @@
 #include "qt/windows/StationComboBox.h"
 #include "qt/windows/StationListWindow.h"
 #include "qt/windows/StatusLine.h"
+#include "ui/Outlets.h"
 #include "ui/TableView.h"
 #include "ui_AboutWindow.h"
 #include "ui_PreferencesSheet.h"
@@ -76,7 +78,10 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
 {
     const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
     ProgramMenus menus([] {});
+    Outlets outlets;
     MainWindow main(&menus);
+    connectMainWindow(outlets, main);
+    outlets.buttonPlayPause.setImage("play.png");
     main.resize(main.minimumSize());
     expectRoomIn(main);
     expectAllShown(main);

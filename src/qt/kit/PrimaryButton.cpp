@@ -20,15 +20,18 @@ PrimaryButton::PrimaryButton(QWidget* parent)
     takeHighlightColors();
 }
 
-void PrimaryButton::reserveRoomFor(const QStringList& words)
+void PrimaryButton::reserveRoomFor(const QStringList& words, Picture picture)
 {
     const QString shown = text();
+    const QIcon shownPicture = icon();
+    setIcon(picture == Picture::BesideWords ? QIcon(QPixmap(iconSize())) : QIcon());
     int width = 0;
     for (const QString& word : words) {
         setText(word);
         width = qMax(width, sizeHint().width());
     }
     setText(shown);
+    setIcon(shownPicture);
     setMinimumWidth(width);
 }
 

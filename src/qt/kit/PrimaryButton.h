@@ -10,8 +10,9 @@ class PrimaryButton : public QPushButton {
 public:
     explicit PrimaryButton(QWidget* parent = nullptr);
 
-    /// Makes it wide enough for each of these.
-    void reserveRoomFor(const QStringList& words);
+    enum class Picture { None, BesideWords };
+    /// Makes it wide enough for each of these words.
+    void reserveRoomFor(const QStringList& words, Picture picture);
 
 protected:
     void changeEvent(QEvent* event) override;

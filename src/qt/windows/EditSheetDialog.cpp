@@ -9,7 +9,8 @@ EditSheetDialog::EditSheetDialog(QWidget& editor)
 {
     Ui::EditSheet description;
     description.setupUi(this);
-    description.buttonAction->reserveRoomFor({qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")});
+    description.buttonAction->reserveRoomFor(
+        {qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")}, PrimaryButton::Picture::None);
     takeShape();
     resize(fontMetrics().height() * 30, minimumHeight());
 }

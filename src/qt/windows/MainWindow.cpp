@@ -46,7 +46,8 @@ void MainWindow::setUpProportions()
     description_->displayRows->setContentsMargins(line * 3 / 4, line * 5 / 8, line * 3 / 4, line * 5 / 8);
 
     description_->labelNowPlaying->setFont(scaled(font(), headlineSize));
-    description_->buttonPlayPause->reserveRoomFor({qtTrId("BUTTON_PLAY"), qtTrId("BUTTON_PAUSE")});
+    description_->buttonPlayPause->reserveRoomFor(
+        {qtTrId("BUTTON_PLAY"), qtTrId("BUTTON_PAUSE")}, PrimaryButton::Picture::BesideWords);
     for (QPushButton* button : {static_cast<QPushButton*>(description_->buttonPlayPause), description_->buttonStop,
              description_->buttonMute, description_->buttonEditRadioList})
         button->setMinimumHeight(line * 2);
