@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace sonavel {
@@ -28,9 +29,10 @@ double contrast(const QColor& one, const QColor& other)
 TEST(Palettes, TextsCanBeReadOnTheirGround)
 {
     using Role = QPalette::ColorRole;
-    const std::pair<Role, Role> pairs[] = {{Role::WindowText, Role::Window}, {Role::Text, Role::Base},
-        {Role::ButtonText, Role::Button}, {Role::HighlightedText, Role::Highlight}, {Role::PlaceholderText, Role::Base},
-        {Role::PlaceholderText, Role::Window}, {Role::Link, Role::Base}, {Role::ToolTipText, Role::ToolTipBase}};
+    const std::array pairs{std::pair{Role::WindowText, Role::Window}, std::pair{Role::Text, Role::Base},
+        std::pair{Role::ButtonText, Role::Button}, std::pair{Role::HighlightedText, Role::Highlight},
+        std::pair{Role::PlaceholderText, Role::Base}, std::pair{Role::PlaceholderText, Role::Window},
+        std::pair{Role::Link, Role::Base}, std::pair{Role::ToolTipText, Role::ToolTipBase}};
     for (const QString& name : appearanceNames()) {
         const QPalette palette = paletteFor(appearanceNamed(name).value());
         const double least = name.startsWith(QStringLiteral("high-contrast")) ? 7.0 : 4.5;
