@@ -89,7 +89,8 @@ void ProgramWindows::buildAboutWindow()
 void ProgramWindows::buildUpdateNotice()
 {
     ProgramDialog& window = *dialogs_.emplace_back(ProgramDialog::from<Ui::UpdateNotice>());
-    window.setMinimumWidth(window.fontMetrics().height() * noticeWidth);
+    auto* label = window.findChild<QLabel*>(QStringLiteral("labelUpdateNotification"));
+    label->setMinimumWidth(window.fontMetrics().height() * noticeWidth);
     connectUpdateNotice(outlets_, window);
 }
 

@@ -42,11 +42,18 @@ protected:
     static void expectRoomIn(QWidget& window)
     {
         window.show();
+        QApplication::processEvents();
+        window.resize(window.minimumSize());
         for (auto* widget : window.findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
             const bool hasText = qobject_cast<QLabel*>(widget) || (button != nullptr && !button->text().isEmpty());
             if (!hasText || mayElide(*widget) || !widget->isVisible())
                 continue;
+            if (widget->hasHeightForWidth()) {
+                EXPECT_GE(widget->height(), widget->heightForWidth(widget->width()))
+                    << GetParam() << ", " << widget->objectName().toStdString();
+                continue;
+            }
             EXPECT_GE(widget->width(), widget->sizeHint().width())
                 << GetParam() << ", " << widget->objectName().toStdString();
             EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
@@ -82,24 +89,46 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
     MainWindow main(&menus);
     connectMainWindow(outlets, main);
     outlets.buttonPlayPause.setImage("play.png");
-    main.resize(main.minimumSize());
     expectRoomIn(main);
     expectAllShown(main);
 
     TableView table;
     StationListWindow list(table);
     menus.addTo(list);
-    list.resize(list.minimumSize());
     expectRoomIn(list);
     expectAllShown(list);
 
     EditSheetDialog sheet(list);
-    sheet.resize(sheet.minimumSize());
-    expectRoomIn(sheet);
-    for (const auto& dialog : {ProgramDialog::from<Ui::PreferencesSheet>(), ProgramDialog::from<Ui::AboutWindow>(),
-             ProgramDialog::from<Ui::UpdateNotice>(), ProgramDialog::from<Ui::UpdateWindow>()}) {
-        dialog->resize(dialog->minimumSize());
-        expectRoomIn(*dialog);
+    for (const char* word : {"BUTTON_ADD", "BUTTON_EDIT"}) {
+        sheet.findChild<QPushButton*>(QStringLiteral("buttonAction"))->setText(qtTrId(word));
+        expectRoomIn(sheet);
+    }
+    const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
+    menus.addTo(*preferences);
+    expectRoomIn(*preferences);
+}
+
+TEST_P(RoomForTextsTest, IsThereForWhatIsFilledInLater)
+{
+    const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
+    const auto say = [](ProgramDialog& dialog, const char* label, const QString& text) {
+        dialog.findChild<QLabel*>(QString::fromLatin1(label))->setText(text);
+    };
+    const auto about = ProgramDialog::from<Ui::AboutWindow>();
+    say(*about, "labelAppVersion", qtTrId("ABOUT_VERSION") + QStringLiteral("1.0.0"));
+    expectRoomIn(*about);
+
+    const auto update = ProgramDialog::from<Ui::UpdateWindow>();
+    say(*update, "textFieldLabelUpdateNameApp", QStringLiteral("Sonavel ") + qtTrId("UPD_NEW_UPDATE_AVIABLE"));
+    say(*update, "textFieldLabelUpdateVersionNote",
+        QStringLiteral("Sonavel 10.11.12 (1314) ") + qtTrId("UPD_INFO") + QStringLiteral(" 10.11.11 (1313)"));
+    expectRoomIn(*update);
+
+    const auto notice = ProgramDialog::from<Ui::UpdateNotice>();
+    for (const char* text : {"UPDATE_NONE", "UPDATE_NO_ANSWER"}) {
+        say(*notice, "labelUpdateNotification", qtTrId(text));
+        expectRoomIn(*notice);
+        notice->show(); // the next one comes while it is open
     }
 }
 

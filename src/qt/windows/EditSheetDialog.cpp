@@ -12,7 +12,7 @@ EditSheetDialog::EditSheetDialog(QWidget& editor)
     description.buttonAction->reserveRoomFor(
         {qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")}, PrimaryButton::Picture::None);
     takeShape();
-    resize(fontMetrics().height() * 30, minimumHeight());
+    resize(fontMetrics().height() * 30, sizeHint().height());
 }
 
 } // namespace sonavel

@@ -62,7 +62,6 @@ void ProgramDialog::takeProportions()
     }
     for (auto* button : findChildren<QPushButton*>())
         button->setMinimumHeight(line * 2);
-    setMinimumSize(minimumSizeHint());
 }
 
 } // namespace sonavel

@@ -104,7 +104,6 @@ void ProgramMenus::addTo(QDialog& sheet)
     auto* bar = new QMenuBar(&sheet);
     addTo(*bar);
     sheet.layout()->setMenuBar(bar);
-    sheet.setMinimumSize(sheet.minimumSizeHint());
 }
 
 void ProgramMenus::addTo(QMenuBar& bar)
