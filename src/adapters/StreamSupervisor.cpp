@@ -14,6 +14,7 @@ void StreamSupervisor::opened(Time now)
 {
     phase_ = Phase::Opening;
     since_ = now;
+    isInDoubt_ = false;
 }
 
 void StreamSupervisor::sounds(Time now)
@@ -28,8 +29,10 @@ void StreamSupervisor::isSilent(Time now)
 {
     if (phase_ != Phase::Sounding)
         return;
-    if (now - since_ >= limits_.proven)
+    if (now - since_ >= limits_.proven) {
         delay_ = limits_.shortestDelay;
+        isInDoubt_ = false;
+    }
     phase_ = Phase::Silent;
     since_ = now;
 }
@@ -65,9 +68,10 @@ StreamSupervisor::Advice StreamSupervisor::continued(Time now)
 StreamSupervisor::Advice StreamSupervisor::renew(Time now)
 {
     delay_ = limits_.shortestDelay;
-    if (phase_ != Phase::Broken)
-        return Advice::Nothing;
     nextAttempt_ = now;
+    isInDoubt_ = true;
+    if (phase_ == Phase::Sounding)
+        since_ = now;
     return advice(now);
 }
 
@@ -88,7 +92,9 @@ std::optional<StreamSupervisor::Time> StreamSupervisor::deadline() const
         return std::nullopt;
     if (phase_ == Phase::Broken)
         return nextAttempt_;
-    return since_ + (phase_ == Phase::Opening ? limits_.opening : limits_.silence);
+    if (phase_ == Phase::Opening)
+        return since_ + limits_.opening;
+    return since_ + (isInDoubt_ ? limits_.silenceInDoubt : limits_.silence);
 }
 
 std::optional<StreamSupervisor::Time> StreamSupervisor::nextAttempt() const

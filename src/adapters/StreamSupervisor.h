@@ -19,7 +19,9 @@ public:
         /// From the request to the first sound.
         Time opening = std::chrono::seconds(20);
         Time silence = std::chrono::seconds(10);
-        /// A stream that sounded for so long starts with the shortest delay again.
+        /// The same for a stream that was open before the machine slept, and may sound from what is left of it.
+        Time silenceInDoubt = std::chrono::seconds(2);
+        /// A stream that sounded for so long starts with the shortest delay again, and is in doubt no more.
         Time proven = std::chrono::seconds(10);
         /// What was held for longer is too old to go on with.
         Time hold = std::chrono::seconds(20);
@@ -45,7 +47,8 @@ public:
     void held(Time now);
     [[nodiscard]] Advice continued(Time now);
 
-    /// The next attempt is made at once, and those after it wait shortly again; as when the network has come back.
+    /// The next attempt is made at once, and those after it wait shortly again; a stream that is open is in doubt. As
+    /// when the machine has woken, or the network has come back.
     [[nodiscard]] Advice renew(Time now);
 
     /// To be asked at `deadline`.
@@ -65,6 +68,7 @@ private:
     Time nextAttempt_{0};
     Time delay_;
     std::optional<Time> heldSince_;
+    bool isInDoubt_ = false;
 };
 
 } // namespace sonavel

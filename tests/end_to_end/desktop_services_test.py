@@ -180,14 +180,16 @@ class DesktopServicesTest(unittest.TestCase):
 
         self.media("next")
         self.media("play")
-        for signals in ([(sleep, "PrepareForSleep", "b", [True]), (sleep, "PrepareForSleep", "b", [False])],
-                        [(network, "StateChanged", "u", [20]), (network, "StateChanged", "u", [70])]):
+        for service, name, signature, before, after in ((sleep, "PrepareForSleep", "b", True, False),
+                                                        (network, "StateChanged", "u", 20, 70)):
             attempts = server.attempts
             # The fourth attempt fails; the fifth would follow 8 s later.
             wait_until(lambda: server.attempts >= attempts + 4, "attempts at growing distances", 40)
             attempts = server.attempts
-            for service, name, signature, values in signals:
-                service.EmitSignal("", name, signature, values, dbus_interface=MOCK)
+            service.EmitSignal("", name, signature, [before], dbus_interface=MOCK)
+            time.sleep(1)
+            self.assertEqual(server.attempts, attempts)
+            service.EmitSignal("", name, signature, [after], dbus_interface=MOCK)
             wait_until(lambda: server.attempts > attempts, "an attempt ahead of its time", 4)
 
     def mock_service(self, bus_address, name, path, interface):

@@ -127,5 +127,30 @@ TEST(StreamSupervisor, AStreamThatBrokeIsOpenedAtOnceWhenItIsContinuedOrTheNetwo
     EXPECT_EQ(offline.adviceAfter(1s), Advice::Open);
 }
 
+TEST(StreamSupervisor, AStreamThatSoundsWhenTheMachineWakesHasToProveItselfAgain)
+{
+    Stream stream;
+    stream.playFor(60s);
+    EXPECT_EQ(stream.supervisor.renew(stream.now), Advice::Nothing);
+    EXPECT_EQ(stream.supervisor.deadline(), std::nullopt) << "it may be sound";
+    stream.playFor(9s);
+    stream.supervisor.isSilent(stream.now);
+    EXPECT_EQ(stream.adviceAfter(2s), Advice::GiveUp);
+    EXPECT_EQ(stream.adviceAfter(1s), Advice::Open);
+
+    Stream silent;
+    silent.playFor(60s);
+    silent.supervisor.isSilent(silent.now);
+    silent.now += 3s;
+    EXPECT_EQ(silent.supervisor.renew(silent.now), Advice::GiveUp);
+
+    Stream proven;
+    proven.playFor(60s);
+    EXPECT_EQ(proven.supervisor.renew(proven.now), Advice::Nothing);
+    proven.playFor(10s);
+    proven.supervisor.isSilent(proven.now);
+    EXPECT_EQ(proven.adviceAfter(10s), Advice::GiveUp);
+}
+
 } // namespace
 } // namespace sonavel
