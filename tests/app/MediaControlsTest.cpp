@@ -23,7 +23,7 @@ protected:
 
 TEST_F(MediaControlsTest, FollowTheButtonsOfTheMainWindow)
 {
-    startWithStations("A;http://a/\rB; http://b/ \r");
+    startWithStations("A;http://a/\rB;http://b/\rC; http://c/ \r");
     media.play();
     media.playPause();
     media.stop();
@@ -48,7 +48,7 @@ TEST_F(MediaControlsTest, FollowTheButtonsOfTheMainWindow)
     EXPECT_EQ(media.state().stream, 0U);
     media.previous();
     media.play();
-    EXPECT_EQ(media.state().station, "B") << "blanks around an address are no part of it";
+    EXPECT_EQ(media.state().station, "C") << "blanks around an address are no part of it";
     EXPECT_EQ(media.state().stream, 2U);
 }
 
@@ -103,8 +103,13 @@ TEST_F(MediaControlsTest, WithoutStationsNothingSteps)
     start();
     media.next();
     media.previous();
+    media.play();
+    media.playPause();
+    media.stop();
     EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 0);
+    EXPECT_EQ(media.state().status, Status::Stopped);
     EXPECT_FALSE(media.state().canStep);
+    EXPECT_TRUE(platform.streamPlayers.players.empty());
 }
 
 } // namespace

@@ -136,6 +136,11 @@ TEST_F(UpdateCheckTest, AFurtherCheckTakesTheFormerWindowAway)
     EXPECT_EQ(platform.interfaces.built, 3);
     EXPECT_EQ(platform.interfaces.present, 1);
     EXPECT_TRUE(updater().windowUpdater.isVisible());
+
+    platform.httpClient.whileAsking = [this] { updater().buttonUpdate.pressedByUser(); };
+    checkOnDemand();
+    EXPECT_TRUE(updater().windowUpdater.isVisible());
+    EXPECT_TRUE(platform.webBrowser.opened.empty()) << "that button went with its window";
 }
 
 TEST_F(UpdateCheckTest, OnlyWebAddressesReachTheBrowser)
@@ -171,6 +176,7 @@ TEST_F(UpdateCheckTest, ACheckThatBringsStationsShowsThemWhileOnePlaysOn)
     EXPECT_EQ(outlets.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (3)");
     EXPECT_TRUE(controller.player.isPlay);
     EXPECT_EQ(controller.player.playRadioLink, "http://a/");
+    EXPECT_EQ(platform.streamPlayers.players.size(), 1U) << "the stream goes on";
 
     outlets.popupbuttonRadioList.chosenByUser(2);
     checkOnDemand();

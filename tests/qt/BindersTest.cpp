@@ -1,6 +1,7 @@
 // What the core says reaches the widgets and nothing comes back; what the user does reaches the core once.
 #include "UserInput.h"
 #include "qt/binders/ButtonBinder.h"
+#include "qt/binders/LabelBinder.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/binders/PopUpBinder.h"
 #include "qt/binders/SliderBinder.h"
@@ -167,6 +168,16 @@ TEST(ButtonBinding, LooksFollowTheProgramWithoutAClick)
     button.setEnabled(true);
     widget.click();
     EXPECT_EQ(presses, 1);
+}
+
+TEST(LabelBinding, WhatAServerSaysIsNoMarkup)
+{
+    TextField field;
+    QLabel widget;
+    new LabelBinder(field, widget);
+    field.setStringValue("<b>1</b>");
+    EXPECT_EQ(widget.text(), "<b>1</b>");
+    EXPECT_EQ(widget.textFormat(), Qt::PlainText);
 }
 
 TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)

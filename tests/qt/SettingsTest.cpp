@@ -36,6 +36,7 @@ TEST(Settings, OptionsWinOverTheEnvironmentWhichWinsOverTheFile)
     EXPECT_TRUE(accepted({}).probe.startsWith("https://"));
     EXPECT_EQ(accepted({"--appearance=light"}, {}, file).appearance, Appearance::Light);
     EXPECT_EQ(accepted({}, {}, file).appearance, Appearance::Dark);
+    EXPECT_EQ(accepted({"--language", "it"}).language, "it");
     EXPECT_EQ(accepted({}).home, QDir::cleanPath(existing));
 }
 

@@ -324,12 +324,41 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
     main.activateWindow();
     ASSERT_TRUE(handleEventsUntil([&] { return main.isActiveWindow(); }));
     menus.item("menuMute").setShortcuts({});
+    QApplication::processEvents();
+    others.menuMute.setEnabled(false);
     QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
     QApplication::processEvents();
     EXPECT_TRUE(isChosen);
     const int before = validations;
     emit window.menuBar()->actions().at(1)->menu()->aboutToShow();
     EXPECT_EQ(validations, before + 1);
+}
+
+TEST_F(StationListWindowTest, EveryItemHasTheTagOfWhatItSaysAndItsKeys)
+{
+    struct Row {
+        const MenuItem& item;
+        const char* name;
+        int tag;
+        const char* keys;
+    };
+    const std::array items{Row{outlets.menuQuit, "menuQuit", 0, "Ctrl+Q"},
+        Row{outlets.menuRadioAdd, "menuRadioAdd", 1000, "Ctrl+N"},
+        Row{outlets.menuRadioEdit, "menuRadioEdit", 1001, ""},
+        Row{outlets.menuRadioRemove, "menuRadioRemove", 1002, ""},
+        Row{outlets.menuRadioShowEditRadio, "menuRadioShowEditRadio", 1003, "Ctrl+E"},
+        Row{outlets.menuPlayPause, "menuPlayPause", 2000, "Ctrl+P; Space"},
+        Row{outlets.menuStop, "menuStop", 2001, "Ctrl+."}, Row{outlets.menuMute, "menuMute", 2002, "Ctrl+M"},
+        Row{outlets.menuPreviousStation, "menuPreviousStation", 2003, "Ctrl+Left"},
+        Row{outlets.menuNextStation, "menuNextStation", 2004, "Ctrl+Right"},
+        Row{outlets.menuRadioImport, "menuRadioImport", 3000, "Ctrl+I"},
+        Row{outlets.menuRadioExport, "menuRadioExport", 3001, "Ctrl+Shift+E"},
+        Row{outlets.menuPreferences, "menuPreferences", 4000, "Ctrl+,"},
+        Row{outlets.menuCheckUpdates, "menuCheckUpdates", 4001, ""}, Row{outlets.menuAbout, "menuAbout", -1, ""}};
+    for (const auto& [item, name, tag, keys] : items) {
+        EXPECT_EQ(item.tag(), tag) << name;
+        EXPECT_EQ(QKeySequence::listToString(menus.item(name).shortcuts()), keys) << name;
+    }
 }
 
 TEST_F(StationListWindowTest, AMenuTitleFromTheProgramIsShownAsItIs)

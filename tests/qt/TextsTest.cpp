@@ -74,5 +74,14 @@ TEST(Strings, UnknownLanguagesReadEnglishAndUnknownKeysThemselves)
     EXPECT_EQ(strings.localizedStringForKey("NO_SUCH_KEY"), Text("NO_SUCH_KEY"));
 }
 
+TEST(Strings, EveryLanguageIsSpoken)
+{
+    for (const auto& [language, yes] :
+        {std::pair("en_GB", "Yes"), {"de_AT", "Ja"}, {"fr", "Oui"}, {"it", "Sì"}, {"es_MX", "Sí"}}) {
+        const TranslatedStrings strings{QLocale(QString::fromLatin1(language))};
+        EXPECT_EQ(strings.localizedStringForKey("BUTTON_YES"), Text(yes)) << language;
+    }
+}
+
 } // namespace
 } // namespace sonavel
