@@ -6,6 +6,7 @@ import plistlib
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
@@ -51,54 +52,66 @@ class DesktopServicesTest(unittest.TestCase):
         return subprocess.run(["playerctl", "--player=sonavel", *command], env=self.desk.environment,
                               capture_output=True, text=True, check=False).stdout.strip()
 
+    def follow(self, *what):
+        """What a media key's program hears of it, line by line."""
+        process = self.desk.start(["playerctl", "--player=sonavel", "--follow", *what], stdout=subprocess.PIPE, text=True)
+        self.addCleanup(process.stdout.close)
+        return process.stdout
+
     def expect(self, answer, *command):
         wait_until(lambda: self.media(*command) == answer, f"{answer!r} of {command}")
 
     def test_media_keys_do_what_the_buttons_do_and_hear_what_changes(self):
         self.start("--demo")
-        changes = self.desk.start(["playerctl", "--player=sonavel", "--follow", "status"], stdout=subprocess.PIPE,
-                                  text=True)
-        self.addCleanup(changes.stdout.close)
+        status, volume, title = (self.follow(*what) for what in (("status",), ("volume",), ("metadata", "xesam:title")))
+        self.assertEqual(status.readline().strip(), "Stopped")
+        self.assertEqual(float(volume.readline()), float(self.media("volume")))
         self.media("play")
         self.expect("Stopped", "status")
         self.media("next")
         self.media("play")
         self.expect("Playing", "status")
-        wait_until(lambda: " - " in self.media("metadata", "xesam:title"), "the stream's title")
+        self.assertTrue(any(" - " in line for line in title))
         station = self.media("metadata", "xesam:album")
         self.assertIn("/demo/", self.media("metadata", "xesam:url"))
         self.media("play-pause")
         self.expect("Paused", "status")
         self.media("volume", "0.25")
         self.expect("0.250000", "volume")
+        self.assertEqual(float(volume.readline()), 0.25)
         self.media("volume", "2")
         self.expect("1.000000", "volume")
         self.media("previous")
         self.expect("Stopped", "status")
         self.media("play")
         self.expect("Playing", "status")
-        self.assertNotEqual(self.media("metadata", "xesam:album") or self.media("metadata", "xesam:title"), station)
+        last = self.media("metadata", "xesam:url")
         self.media("stop")
         self.expect("Stopped", "status")
-        heard = [changes.stdout.readline().strip() for _ in range(3)]
-        self.assertEqual(heard, ["Stopped", "Playing", "Paused"])
+        for step in ("previous", "next"):
+            self.media(step)
+        self.media("play")
+        self.expect("Playing", "status")
+        self.assertEqual(self.media("metadata", "xesam:url"), last)
+        self.media("next")
+        self.media("play")
+        wait_until(lambda: self.media("metadata", "xesam:album") == station, "the first station after the last")
+        self.assertEqual([status.readline().strip() for _ in range(2)], ["Playing", "Paused"])
 
     def test_a_step_from_one_playing_station_to_the_next_is_no_stop(self):
         preferences = Path(self.home, "Library/Preferences/Mertzan-Software.Sonavel.plist")
         preferences.parent.mkdir(parents=True)
         preferences.write_bytes(plistlib.dumps({"isAutoPlay": "YES"}))
         self.start("--demo")
-        changes = self.desk.start(["playerctl", "--player=sonavel", "--follow", "status"], stdout=subprocess.PIPE,
-                                  text=True)
-        self.addCleanup(changes.stdout.close)
-        self.assertEqual(changes.stdout.readline().strip(), "Stopped")
+        status = self.follow("status")
+        self.assertEqual(status.readline().strip(), "Stopped")
         for _ in range(3):
             address = self.media("metadata", "xesam:url")
             self.media("next")
             wait_until(lambda: self.media("metadata", "xesam:url") != address, "the next station")
             wait_until(lambda: " - " in self.media("metadata", "xesam:title"), "the stream's title")
         self.media("stop")
-        self.assertEqual([changes.stdout.readline().strip() for _ in range(2)], ["Playing", "Stopped"])
+        self.assertEqual([status.readline().strip() for _ in range(2)], ["Playing", "Stopped"])
 
     def test_a_second_start_shows_the_window_of_the_first_and_ends(self):
         self.start("--demo")
@@ -121,6 +134,20 @@ class DesktopServicesTest(unittest.TestCase):
         self.desk.window("Sonavel")
         wait_until(lambda: self.media("status") == "Stopped", "the player on the message bus")
         self.end(first)
+
+    def test_a_session_that_ends_during_the_start_leaves_the_preferences_alone(self):
+        preferences = Path(self.home, "Library/Preferences/Mertzan-Software.Sonavel.plist")
+        preferences.parent.mkdir(parents=True)
+        before = plistlib.dumps({"isAutoPlay": "YES", "defaultVolume": "0.250000"})
+        preferences.write_bytes(before)
+        server = self.small_server()
+        server.answering.clear()
+        player = self.desk.start([BUILD / "sonavel", "--home", self.home, "--data-server", server.address, "--probe",
+                                  server.address])
+        wait_until(lambda: server.requests, "the start's request")
+        player.terminate()
+        self.assertEqual(player.wait(10), 0)
+        self.assertEqual(preferences.read_bytes(), before)
 
     def test_media_keys_wait_for_the_answer_to_a_question_and_work_beside_a_sheet(self):
         self.start("--demo")

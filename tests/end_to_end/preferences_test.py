@@ -35,11 +35,21 @@ class PreferencesTest(unittest.TestCase):
         self.addCleanup(self.server.stdout.close)
         self.address = self.server.stdout.readline().split()[-1]
 
-    def start(self):
-        process = self.desk.start([BUILD / "sonavel", "--home", self.home, "--data-server", self.address, "--probe",
-                                   self.address], stderr=None, extra={"SONAVEL_AUDIO_OUTPUT": "null"})
+    def start(self, *options, **extra):
+        """With a web browser that writes down what it is to open."""
+        browser = self.home / "bin/xdg-open"
+        browser.parent.mkdir(exist_ok=True)
+        browser.write_text(f"#!/bin/sh\necho \"$@\" >>'{self.home}/opened'\n")
+        browser.chmod(0o755)
+        options = options or ("--data-server", self.address, "--probe", self.address)
+        process = self.desk.start([BUILD / "sonavel", "--home", self.home, *options], stderr=None, extra={
+            "SONAVEL_AUDIO_OUTPUT": "null", "PATH": f"{browser.parent}:{os.environ['PATH']}", **extra})
         self.desk.activate("Sonavel")
         return self.accessibility.Program(process)
+
+    def geometry(self):
+        return subprocess.run(["xdotool", "getwindowgeometry", str(self.desk.window("Sonavel"))],
+                              env=self.desk.environment, capture_output=True, text=True, check=True).stdout
 
     def quit(self, program):
         self.desk.activate("Sonavel")
@@ -93,42 +103,92 @@ class PreferencesTest(unittest.TestCase):
         again.find(self.Role.PUSH_BUTTON, "Pause")
         self.assertEqual(again.find(self.Role.COMBO_BOX).name, station)
         self.assertEqual(again.find(self.Role.SLIDER, "Volume").value, 25)
+        self.desk.keys("ctrl+comma")
+        self.toggle(again, "Play a station as soon as it is chosen")
         again.process.terminate()
-        again.process.wait(10)
+        self.assertEqual(again.process.wait(10), 0)
+        self.assertEqual(self.stored()["isAutoPlay"], "NO")
 
-    def choose(self, program, item):
+    def test_the_main_window_comes_back_where_it_was(self):
+        program = self.start()
+        window = str(self.desk.window("Sonavel"))
+        subprocess.run(["xdotool", "windowsize", "--sync", window, "520", "200", "windowmove", "--sync", window, "230",
+                        "170"], env=self.desk.environment, check=True)
+        place = self.geometry()
+        self.quit(program)
+        program = self.start()
+        wait_until(lambda: self.geometry().splitlines()[1:] == place.splitlines()[1:], "the window in its place")
+        self.quit(program)
+
+    def test_a_mirrored_and_enlarged_window_begins_at_the_right(self):
+        program = self.start("--demo", "-reverse", QT_SCALE_FACTOR="2")
+        x = [program.find(self.Role.PUSH_BUTTON, name).center[0] for name in ("Play", "Stop", "Mute")]
+        self.assertEqual(x, sorted(x, reverse=True))
+        program.process.terminate()
+        self.assertEqual(program.process.wait(10), 0)
+
+    def test_the_demo_offers_a_version_whose_page_opens_in_the_browser(self):
+        program = self.start("--demo", "--demo-update")
+        program.find(self.Role.LABEL, "Sonavel has a new version")
+        program.find(self.Role.PUSH_BUTTON, "Download").press()
+        opened = self.home / "opened"
+        wait_until(lambda: opened.exists() and opened.read_text().endswith("\n"), "the browser")
+        self.assertRegex(opened.read_text(), "^https?://[^ ]+\n$")
+        program.process.terminate()
+        self.assertEqual(program.process.wait(10), 0)
+
+    def test_items_of_the_menus_follow_the_window(self):
+        program = self.start()
+        self.desk.keys("ctrl+e")
+        self.desk.activate("Station List.*")
+        names = ["Add…", "Edit…", "Remove…", "Import…", "Export…"]
+        for key, enabled in ((None, [True, False, False, True, True]), ("ctrl+a", [True, False, True, True, True])):
+            self.desk.keys(*filter(None, [key, "alt+t"]))
+            self.assertEqual([program.find(self.Role.MENU_ITEM, name).enabled for name in names], enabled)
+            self.desk.keys("Escape", "Escape")
+        self.desk.activate("Sonavel")
+        self.desk.keys("alt+t")
+        self.assertEqual([program.find(self.Role.MENU_ITEM, name).enabled for name in names], [False] * 5)
+        self.desk.keys("Escape", "Escape", "alt+s")
+        names = ["About Sonavel", "Check for Updates…", "Preferences…", "Quit"]
+        self.assertEqual([program.find(self.Role.MENU_ITEM, name).enabled for name in names], [True, False, False, True])
+        self.desk.keys("Escape", "Escape")
+        self.quit(program)
+
+    def check_for_updates(self, program):
         """From the first menu, with the keyboard."""
         self.desk.activate("Sonavel")
         self.desk.keys("alt+s")
-        entry = program.find(self.Role.MENU_ITEM, item)
-        wait_until(lambda: self.desk.keys("Down") or entry.has(self.State.FOCUSED), item)
-        self.desk.keys("Return")
+        program.find(self.Role.MENU_ITEM, "Check for Updates…")
+        self.desk.keys("c")
 
     def test_a_check_on_demand_tells_what_it_found(self):
         program = self.start()
-        self.choose(program, "Check for Updates…")
+        self.check_for_updates(program)
         program.find(self.Role.LABEL, "You have the newest version.")
         self.desk.keys("Escape")
         self.wait_gone(program, self.Role.LABEL, "You have the newest version.")
 
         (self.home / "sonavel.ini").write_text(
             "n;Sonavel\rv;9.8.7\rb;6\ra;\rp;file:///etc/passwd\rn;<b>First</b>\\nSecond\rr;\rl;\r")
-        self.choose(program, "Check for Updates…")
+        self.check_for_updates(program)
         program.find(self.Role.LABEL, "Sonavel has a new version")
         line = program.find(self.Role.LABEL, "Sonavel 9.8.7 (6) is available. You have 0.1.0 (1)")
         notes = program.find(self.Role.TEXT, "What is new")
         self.assertEqual(notes.text, "- <b>First</b>\n- Second\n")
         program.find(self.Role.PUSH_BUTTON, "Download").press()
         self.wait_gone(program, self.Role.LABEL, line.name)
+        self.assertFalse((self.home / "opened").exists())
 
         self.server.kill()
-        self.choose(program, "Check for Updates…")
+        self.check_for_updates(program)
         program.find(self.Role.LABEL, "The server gave no usable answer. Try again later.")
         self.desk.keys("Return")
 
         self.desk.activate("Sonavel")
         self.desk.keys("alt+s", "Return")
-        program.find(self.Role.LABEL, "Version 0.1.0")
+        for line in ("Sonavel", "Version 0.1.0", "Free software under the MIT license", "© 2026 The Sonavel developers"):
+            program.find(self.Role.LABEL, line)
         self.desk.keys("Escape")
         self.wait_gone(program, self.Role.LABEL, "Version 0.1.0")
         self.quit(program)
@@ -140,7 +200,7 @@ class PreferencesTest(unittest.TestCase):
         volume.focus()
         before = volume.value
         self.server.send_signal(signal.SIGSTOP)
-        self.choose(program, "Check for Updates…")
+        self.check_for_updates(program)
         self.wait_gone(program, self.Role.MENU_ITEM, "Check for Updates…")
         self.desk.keys("Left")
         subprocess.run(["playerctl", "--player=sonavel", "next"], env=self.desk.environment, check=True, timeout=10)

@@ -79,7 +79,7 @@ TEST(AwaitingHttp, AQuickAnswerTellsNobodyOfWaiting)
 {
     HeldHttpClient server;
     server.release();
-    AwaitingHttpClient client(server);
+    AwaitingHttpClient client(server, std::chrono::hours(1));
     client.setSlowRequestObserver([](const HttpRequest&) { FAIL(); }, [] { FAIL(); });
     for (int request = 0; request < 20; ++request)
         EXPECT_TRUE(client.sendSynchronousRequest({}).has_value());

@@ -3,15 +3,18 @@
 #include "model/StationListText.h"
 #include "storage/StationDatabase.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
+#include <utility>
 
 namespace sonavel {
 namespace {
@@ -25,7 +28,8 @@ Text listText(char name, int stations)
     return text;
 }
 
-[[noreturn]] void writeInTurn(Files& files, const Text& first, const Text& second)
+/// Closes `isWriting` after the first write.
+[[noreturn]] void writeInTurn(Files& files, const Text& first, const Text& second, int isWriting)
 {
     StationList list;
     StationDatabase database(files, list);
@@ -33,6 +37,7 @@ Text listText(char name, int stations)
     for (bool turn = false;; turn = !turn) {
         list.listRadio = std::make_shared<StationRecords>(recordsFromListText(turn ? first : second));
         database.fileRadioDBupdate();
+        close(std::exchange(isWriting, -1));
     }
 }
 
@@ -48,12 +53,18 @@ TEST(StationDatabaseOnDisk, AKilledWriterLeavesOneOfItsListsAndNoGrowingPileOfFi
     StationDatabase(files, list).fileRadioDBupdate();
 
     for (int kills = 0; kills < 200; ++kills) {
+        std::array<int, 2> ends{};
+        ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
         const pid_t writer = fork();
         ASSERT_GE(writer, 0);
         if (writer == 0)
-            writeInTurn(files, first, second);
+            writeInTurn(files, first, second, ends[1]);
+        close(ends[1]);
+        char nothing = 0;
+        ASSERT_EQ(read(ends[0], &nothing, 1), 0) << "it writes";
+        close(ends[0]);
         // A step that is no divisor of a write's time meets all its moments.
-        std::this_thread::sleep_for(std::chrono::microseconds(500 + kills * 37 % 3000));
+        std::this_thread::sleep_for(std::chrono::microseconds(kills * 37 % 3000));
         kill(writer, SIGKILL);
         waitpid(writer, nullptr, 0);
         const Text found = StationDatabase(files, list).fileRadioDBreadCypted(true);

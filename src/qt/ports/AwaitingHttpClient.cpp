@@ -4,19 +4,13 @@
 #include <QMetaObject>
 #include <QTimer>
 
-#include <chrono>
 #include <thread>
 
 namespace sonavel {
 
-namespace {
-
-constexpr std::chrono::milliseconds slow{333};
-
-} // namespace
-
-AwaitingHttpClient::AwaitingHttpClient(HttpClient& client)
+AwaitingHttpClient::AwaitingHttpClient(HttpClient& client, std::chrono::milliseconds patience)
     : client_(client)
+    , patience_(patience)
 {
 }
 
@@ -35,7 +29,7 @@ std::optional<std::string> AwaitingHttpClient::sendSynchronousRequest(const Http
         if (slowRequestObserver_)
             slowRequestObserver_(request);
     });
-    patience.start(slow);
+    patience.start(patience_);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     worker.join();
     if (!patience.isActive() && slowRequestEnded_)

@@ -3,6 +3,7 @@
 
 #include "platform/HttpClient.h"
 
+#include <chrono>
 #include <functional>
 
 namespace sonavel {
@@ -11,11 +12,13 @@ namespace sonavel {
 /// clicks and keys until the answer is there.
 class AwaitingHttpClient : public HttpClient {
 public:
-    /// Told of the request once it takes longer than a third of a second, on the main thread.
+    /// Told of the request once it is slow, on the main thread.
     using SlowRequestObserver = std::function<void(const HttpRequest&)>;
 
-    /// `client` does the work; it must bear being called on another thread, one request at a time.
-    explicit AwaitingHttpClient(HttpClient& client);
+    /// `client` does the work; it must bear being called on another thread, one request at a time. A request is slow
+    /// when it takes longer than `patience`.
+    explicit AwaitingHttpClient(
+        HttpClient& client, std::chrono::milliseconds patience = std::chrono::milliseconds(333));
 
     /// `ended` is called when a request that was told of has its answer, or has failed.
     void setSlowRequestObserver(SlowRequestObserver observer, std::function<void()> ended = {})
@@ -28,6 +31,7 @@ public:
 
 private:
     HttpClient& client_;
+    std::chrono::milliseconds patience_;
     SlowRequestObserver slowRequestObserver_;
     std::function<void()> slowRequestEnded_;
 };
