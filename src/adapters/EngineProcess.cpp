@@ -62,7 +62,6 @@ EngineProcess::EngineProcess(EventLoop& eventLoop, NotificationCenter& notificat
     , notificationCenter_(notificationCenter)
     , program_(std::move(program))
     , limits_(limits)
-    , supervisor_(limits)
 {
 }
 
@@ -89,28 +88,23 @@ void EngineProcess::setNowPlayingObserver(Observer observer)
 
 void EngineProcess::renewAtOnce()
 {
-    if (player_)
-        follow(supervisor_.renew(now()));
+    if (stream_)
+        follow(stream_->supervisor.renew(now()));
 }
 
-void EngineProcess::take(Player& player)
+void EngineProcess::take(const Player& player)
 {
-    if (player_ == &player)
+    if (isTaken(player))
         return;
-    player_ = &player;
-    isHeld_ = false;
-    hasSounded_ = false;
-    supervisor_ = StreamSupervisor(limits_);
+    stream_.emplace(Stream{player, StreamSupervisor(limits_)});
     open();
 }
 
 void EngineProcess::release(const Player& player)
 {
-    if (player_ != &player)
+    if (!isTaken(player))
         return;
-    player_ = nullptr;
-    timer_.reset();
-    patience_.reset();
+    stream_.reset();
     if (engine_)
         engine_->send(StopCommand{});
     show();
@@ -118,45 +112,52 @@ void EngineProcess::release(const Player& player)
 
 void EngineProcess::setHeld(const Player& player, bool isHeld)
 {
-    if (player_ != &player || isHeld_ == isHeld)
+    if (!isTaken(player) || stream_->isHeld == isHeld)
         return;
-    isHeld_ = isHeld;
+    stream_->isHeld = isHeld;
+    auto& supervisor = stream_->supervisor;
     if (isHeld)
-        supervisor_.held(now());
-    const auto advice = isHeld ? StreamSupervisor::Advice::Nothing : supervisor_.continued(now());
+        supervisor.held(now());
+    const auto advice = isHeld ? StreamSupervisor::Advice::Nothing : supervisor.continued(now());
     if (advice == StreamSupervisor::Advice::Nothing && engine_)
         engine_->send(isHeld ? EngineCommand(HoldCommand{}) : EngineCommand(ContinueCommand{}));
     // A hold so short that the engine has nothing to tell of it.
-    if (!isHeld && state_ == StreamState::Playing)
-        supervisor_.sounds(now());
+    if (!isHeld && stream_->state == StreamState::Playing)
+        supervisor.sounds(now());
     follow(advice);
 }
 
 void EngineProcess::sendSound(const Player& player)
 {
-    if (player_ != &player || !engine_)
+    if (!isTaken(player) || !engine_)
         return;
     engine_->send(VolumeCommand{player.volume()});
     engine_->send(MutedCommand{player.isMuted()});
 }
 
-/// Loads the present player's stream afresh, in a new engine where there is none.
+/// All that an engine needs to know of the stream, whatever it played before.
+void EngineProcess::sendStream()
+{
+    sendSound(stream_->player);
+    engine_->send(LoadCommand{++load_, stream_->player.address()});
+    if (stream_->isHeld)
+        engine_->send(HoldCommand{});
+}
+
+/// Loads the stream afresh, in a new engine where there is none.
 void EngineProcess::open()
 {
     start();
-    state_ = StreamState::Connecting;
-    title_ = Text();
-    ++load_;
-    supervisor_.opened(now());
+    stream_->state = StreamState::Connecting;
+    stream_->title = Text();
+    stream_->supervisor.opened(now());
     if (!engine_) {
         breakDown(PlaybackFailure::EngineFailed);
         return;
     }
-    sendSound(*player_);
-    engine_->send(LoadCommand{load_, player_->address()});
+    sendStream();
     if (engineIsReady_)
-        patience_ = eventLoop_.after(longestChange, [this] { replaceStuckEngine(); });
-    watchTime();
+        stream_->patience = eventLoop_.after(longestChange, [this] { replaceStuckEngine(); });
     show();
 }
 
@@ -164,30 +165,27 @@ void EngineProcess::follow(StreamSupervisor::Advice advice)
 {
     if (advice == StreamSupervisor::Advice::Open) {
         open();
-        return;
-    }
-    if (advice == StreamSupervisor::Advice::GiveUp) {
+    } else if (advice == StreamSupervisor::Advice::GiveUp) {
         // A new process also gets rid of an attempt that hangs where it cannot be ended.
         engine_.reset();
-        breakDown(state_ == StreamState::Connecting ? PlaybackFailure::TimedOut : PlaybackFailure::Silent);
+        breakDown(stream_->state == StreamState::Connecting ? PlaybackFailure::TimedOut : PlaybackFailure::Silent);
         start();
-        return;
+    } else {
+        show();
     }
-    watchTime();
-    show();
 }
 
 void EngineProcess::receive(const EngineEvent& event)
 {
     const std::uint64_t load = std::visit([](const auto& about) { return about.load; }, event);
-    if (!player_ || load != load_)
+    if (!stream_ || load != load_)
         return;
     engineIsReady_ = true;
-    patience_.reset();
+    stream_->patience.reset();
     if (const auto* state = std::get_if<StateEvent>(&event)) {
         receiveState(state->state);
     } else if (const auto* title = std::get_if<TitleEvent>(&event)) {
-        title_ = title->title.isEmpty() ? Text() : title->title;
+        stream_->title = title->title.isEmpty() ? Text() : title->title;
         show();
     } else if (const auto* failed = std::get_if<FailedEvent>(&event)) {
         breakDown(failed->failure);
@@ -196,15 +194,14 @@ void EngineProcess::receive(const EngineEvent& event)
 
 void EngineProcess::receiveState(StreamState state)
 {
-    const bool ranDry = state_ == StreamState::Playing && state != StreamState::Playing && !isHeld_;
-    state_ = state;
-    if (state == StreamState::Playing) {
-        hasSounded_ = true;
-        supervisor_.sounds(now());
-    } else {
-        supervisor_.isSilent(now());
-    }
-    watchTime();
+    const bool sounds = state == StreamState::Playing;
+    const bool ranDry = stream_->state == StreamState::Playing && !sounds && !stream_->isHeld;
+    stream_->state = state;
+    stream_->hasSounded |= sounds;
+    if (sounds)
+        stream_->supervisor.sounds(now());
+    else
+        stream_->supervisor.isSilent(now());
     show();
     if (ranDry)
         post(playbackStalledNotification);
@@ -219,12 +216,11 @@ void EngineProcess::replaceStuckEngine()
 
 void EngineProcess::breakDown(PlaybackFailure failure)
 {
-    failure_ = failure;
+    stream_->failure = failure;
     // What the engine still says of this load is of no interest.
     ++load_;
-    patience_.reset();
-    supervisor_.broke(now());
-    watchTime();
+    stream_->patience.reset();
+    stream_->supervisor.broke(now());
     show();
     post(newErrorLogEntryNotification);
 }
@@ -232,36 +228,35 @@ void EngineProcess::breakDown(PlaybackFailure failure)
 void EngineProcess::loseEngine()
 {
     engine_.reset();
-    if (player_)
+    if (stream_)
         breakDown(PlaybackFailure::EngineFailed);
 }
 
 void EngineProcess::post(const char* notification) const
 {
-    notificationCenter_.postNotificationName(notification, static_cast<const StreamPlayer*>(player_));
+    notificationCenter_.postNotificationName(notification, static_cast<const StreamPlayer*>(&stream_->player));
 }
 
 /// Wakes up at the supervisor's deadline, and at every full second before the next attempt, which is shown.
 void EngineProcess::watchTime()
 {
-    timer_.reset();
-    const auto deadline = player_ ? supervisor_.deadline() : std::nullopt;
+    stream_->timer.reset();
+    const auto deadline = stream_->supervisor.deadline();
     if (!deadline)
         return;
     constexpr StreamSupervisor::Time second = std::chrono::seconds(1);
     const auto remaining = std::max(*deadline - now(), StreamSupervisor::Time(0));
-    const bool isCountedDown = supervisor_.nextAttempt() && remaining > second;
+    const bool isCountedDown = stream_->supervisor.nextAttempt() && remaining > second;
     const auto toFullSecond = (remaining - StreamSupervisor::Time(1)) % second + StreamSupervisor::Time(1);
-    timer_ = eventLoop_.after(isCountedDown ? toFullSecond : remaining, [this] { tick(); });
+    stream_->timer = eventLoop_.after(
+        isCountedDown ? toFullSecond : remaining, [this] { follow(stream_->supervisor.advice(now())); });
 }
 
-void EngineProcess::tick()
-{
-    follow(supervisor_.advice(now()));
-}
-
+/// To be called after every change of the stream.
 void EngineProcess::show()
 {
+    if (stream_)
+        watchTime();
     const NowPlaying present = nowPlaying();
     if (present == shown_)
         return;
@@ -273,21 +268,22 @@ void EngineProcess::show()
 NowPlaying EngineProcess::nowPlaying() const
 {
     NowPlaying result;
-    if (!player_)
+    if (!stream_)
         return result;
-    result.title = title_;
-    result.hasSounded = hasSounded_;
-    if (isHeld_) {
+    result.title = stream_->title;
+    result.hasSounded = stream_->hasSounded;
+    if (stream_->isHeld) {
         result.state = NowPlaying::State::Held;
-    } else if (const auto attempt = supervisor_.nextAttempt()) {
+    } else if (const auto attempt = stream_->supervisor.nextAttempt()) {
         result.state = NowPlaying::State::Reconnecting;
-        result.failure = failure_;
+        result.failure = stream_->failure;
         result.reconnectIn =
             std::chrono::ceil<std::chrono::seconds>(std::max(*attempt - now(), StreamSupervisor::Time(0)));
-    } else if (state_ == StreamState::Playing) {
+    } else if (stream_->state == StreamState::Playing) {
         result.state = NowPlaying::State::Playing;
     } else {
-        result.state = state_ == StreamState::Buffering ? NowPlaying::State::Buffering : NowPlaying::State::Connecting;
+        const bool isBuffering = stream_->state == StreamState::Buffering;
+        result.state = isBuffering ? NowPlaying::State::Buffering : NowPlaying::State::Connecting;
     }
     return result;
 }

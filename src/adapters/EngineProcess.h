@@ -48,10 +48,25 @@ public:
 private:
     class Player;
 
-    void take(Player& player);
+    /// The stream of the player that has the engine.
+    struct Stream {
+        const Player& player;
+        StreamSupervisor supervisor;
+        bool isHeld = false;
+        bool hasSounded = false;
+        StreamState state = StreamState::Connecting;
+        Text title = {};
+        PlaybackFailure failure = PlaybackFailure::Unknown;
+        std::unique_ptr<EventLoop::Registration> timer = nullptr;
+        std::unique_ptr<EventLoop::Registration> patience = nullptr;
+    };
+
+    void take(const Player& player);
     void release(const Player& player);
     void setHeld(const Player& player, bool isHeld);
     void sendSound(const Player& player);
+    void sendStream();
+    [[nodiscard]] bool isTaken(const Player& player) const { return stream_ && &stream_->player == &player; }
 
     void open();
     void follow(StreamSupervisor::Advice advice);
@@ -63,7 +78,6 @@ private:
     void post(const char* notification) const;
 
     void watchTime();
-    void tick();
     void show();
     [[nodiscard]] NowPlaying nowPlaying() const;
     [[nodiscard]] static StreamSupervisor::Time now();
@@ -77,18 +91,9 @@ private:
     /// The engine has begun with a load before, so that it is not busy with its own start.
     bool engineIsReady_ = false;
 
-    /// The player that has the engine; null when none has.
-    Player* player_ = nullptr;
+    /// Nothing when no player has the engine.
+    std::optional<Stream> stream_;
     std::uint64_t load_ = 0;
-    bool isHeld_ = false;
-    StreamSupervisor supervisor_;
-    StreamState state_ = StreamState::Connecting;
-    bool hasSounded_ = false;
-    Text title_;
-    PlaybackFailure failure_ = PlaybackFailure::Unknown;
-
-    std::unique_ptr<EventLoop::Registration> timer_;
-    std::unique_ptr<EventLoop::Registration> patience_;
     NowPlaying shown_;
 };
 

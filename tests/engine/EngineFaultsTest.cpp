@@ -58,6 +58,44 @@ TEST_F(EngineFaults, AnEngineThatIsStuckIsReplacedWhenAnotherStationIsChosen)
     EXPECT_NE(children().back(), stuck);
 }
 
+TEST_F(EngineFaults, AnEngineThatReplacesAStuckOneIsHeldAsItsStreamIs)
+{
+    const ScriptedServer former(playTone);
+    const ScriptedServer next(titledTone("Song"));
+    play(former.address());
+    ASSERT_TRUE(comesTo(State::Playing));
+    ::kill(children().front(), SIGSTOP);
+    play(next.address());
+    player_->pause();
+    ASSERT_TRUE(loop_.runUntil([&] { return shown_.title == Text("Song"); }));
+    loop_.runFor(500ms);
+    EXPECT_EQ(shown_.state, State::Held);
+    player_->play();
+    EXPECT_EQ(shown_.state, State::Connecting) << "it sounded while it was held";
+    EXPECT_TRUE(comesTo(State::Playing));
+    EXPECT_EQ(next.connectionCount(), 1);
+}
+
+TEST_F(EngineFaults, TheTimersOfAPlayerThatIsGoneAreGoneWithIt)
+{
+    play("http://127.0.0.1:1/");
+    ASSERT_TRUE(failsWith(PlaybackFailure::Refused));
+    player_.reset();
+    loop_.runFor(300ms);
+    EXPECT_EQ(shown_.state, State::Nothing) << "the next attempt was made";
+
+    const ScriptedServer server(playTone);
+    play(server.address());
+    ASSERT_TRUE(comesTo(State::Playing));
+    const int stuck = children().back();
+    ::kill(stuck, SIGSTOP);
+    play(server.address());
+    player_.reset();
+    loop_.runFor(1s);
+    EXPECT_EQ(shown_.state, State::Nothing);
+    EXPECT_EQ(children().back(), stuck) << "an engine that nobody needs was replaced";
+}
+
 TEST_F(EngineFaults, AnEngineThatCannotBeStartedOrEndsAtOnceIsAFailureAndNothingWorse)
 {
     for (const char* program : {"/nowhere/sonavel-engine", "/", "/bin/true", "/bin/cat"}) {
@@ -114,6 +152,34 @@ TEST_F(EngineFaults, AHundredQuickChangesLeaveNoThreadSocketOrMemoryBehind)
 #endif
     EXPECT_LE(residentMemory(engine), memory + allowed);
     EXPECT_LE(entriesIn("/proc/self/fd"), ownDescriptors);
+}
+
+TEST_F(EngineFaults, NoDescriptorGoesToTheEngineOrIsLeftByOne)
+{
+    constexpr int inheritable = 200;
+    ASSERT_EQ(::dup2(STDERR_FILENO, inheritable), inheritable);
+    const std::size_t before = entriesIn("/proc/self/fd");
+    for (const char* program : {SONAVEL_ENGINE, "/nowhere/sonavel-engine"}) {
+        use(shortDelays, program);
+        engine_->start();
+        for (const int engine : children())
+            EXPECT_FALSE(std::filesystem::is_symlink(folderOf(engine) + "/fd/" + std::to_string(inheritable)));
+    }
+    use(shortDelays);
+    EXPECT_EQ(entriesIn("/proc/self/fd"), before);
+    ::close(inheritable);
+}
+
+TEST_F(EngineFaults, TheEngineRunsNoScripts)
+{
+    const ScriptedServer server(playTone);
+    play(server.address());
+    ASSERT_TRUE(comesTo(State::Playing));
+    for (const auto& thread : std::filesystem::directory_iterator(folderOf(children().back()) + "/task")) {
+        std::string name;
+        std::getline(std::ifstream(thread.path() / "comm"), name);
+        EXPECT_EQ(name.find("script"), std::string::npos) << name;
+    }
 }
 
 TEST_F(EngineFaults, AnEngineWhosePlayerCrashedEnds)

@@ -1,4 +1,5 @@
 #include "engine/EngineProcessFixture.h"
+#include "support/TemporaryFolder.h"
 
 namespace sonavel::test {
 namespace {
@@ -73,6 +74,38 @@ TEST_F(EngineProcessTest, AHeldStreamThatBreaksStaysHeldUntilItIsContinued)
     EXPECT_EQ(server.connectionCount(), 1);
     player_->play();
     EXPECT_TRUE(comesTo(State::Playing));
+}
+
+TEST_F(EngineProcessTest, ATitleGoesWithItsStream)
+{
+    const ScriptedServer titled(titledTone("Song"));
+    const ScriptedServer silent([](ScriptedServer::Connection& connection) { connection.waitUntilClosed(); });
+    play(titled.address());
+    ASSERT_TRUE(loop_.runUntil([&] { return shown_.title == Text("Song"); }));
+    play(silent.address());
+    EXPECT_TRUE(shown_.title.isAbsent());
+    ASSERT_TRUE(loop_.runUntil([&] { return silent.connectionCount() == 1; }));
+    EXPECT_TRUE(shown_.title.isAbsent());
+}
+
+TEST_F(EngineProcessTest, TheEngineIsGivenOnlyVolumesThatThereAre)
+{
+    const TemporaryFolder folder;
+    const std::string heard = folder.path("heard");
+    folder.put("engine", "#!/bin/sh\nexec cat >" + heard + "\n");
+    std::filesystem::permissions(folder.path("engine"), std::filesystem::perms::owner_all);
+    use(shortDelays, folder.path("engine"));
+    play("http://radio.example/");
+    for (const float volume : {7.0F, -1.0F, 1.0F})
+        player_->setVolume(volume);
+    std::string volumes;
+    EXPECT_TRUE(loop_.runUntil([&] {
+        volumes.clear();
+        std::ifstream lines(heard);
+        for (std::string line; std::getline(lines, line);)
+            volumes += line.starts_with("volume ") ? line.substr(7) + ' ' : "";
+        return volumes == "0.500000 1.000000 0.000000 1.000000 ";
+    })) << volumes;
 }
 
 TEST_F(EngineProcessTest, APlayerThatIsGoneLeavesNoConnection)

@@ -139,19 +139,7 @@ TEST_F(HostileStreams, ATitleInAnyEncodingIsShown)
         {"It's a \x01\n'title'", "It's a   'title'"},
     };
     for (const auto& [sent, shown] : rows) {
-        const std::string about = "StreamTitle='" + sent + "';";
-        std::string block(1, static_cast<char>((about.size() + 15) / 16));
-        block += about + std::string((16 - about.size() % 16) % 16, '\0');
-        const ScriptedServer server([&](ScriptedServer::Connection& connection) {
-            connection.readRequestHead();
-            connection.send("ICY 200 OK\r\nContent-Type: audio/wav\r\nicy-metaint: 8000\r\n\r\n");
-            const std::string sound = toneHead() + tone(toneBeginning);
-            for (std::size_t begin = 0; begin < sound.size(); begin += 8000) {
-                connection.send(sound.substr(begin, 8000));
-                connection.send(begin == 0 ? block : std::string(1, '\0'));
-            }
-            connection.waitUntilClosed();
-        });
+        const ScriptedServer server(titledTone(sent));
         play(server.address());
         EXPECT_TRUE(loop_.runUntil([&] { return shown_.title == Text(shown); })) << shown;
         player_.reset();

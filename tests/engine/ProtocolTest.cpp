@@ -25,6 +25,15 @@ TEST(Protocol, NoTextCanSayMoreThanItself)
     }
 }
 
+TEST(Protocol, EveryVolumeComesBackFromSilenceToFull)
+{
+    for (const float volume : {0.0F, 0.5F, 1.0F}) {
+        std::string line = lineFromCommand(VolumeCommand{volume});
+        line.pop_back();
+        EXPECT_EQ(commandFromLine(line), EngineCommand(VolumeCommand{volume})) << line;
+    }
+}
+
 TEST(Protocol, LinesThatAreNotOfTheProtocolAreIgnored)
 {
     for (const char* line : {"", " ", "load", "loud 1 http://a/", "load -1 http://a/", "load 1x http://a/",

@@ -59,4 +59,22 @@ inline void playTone(ScriptedServer::Connection& connection)
     while (connection.wait(100ms) && connection.send(more)) { }
 }
 
+/// A handler that answers the request with the beginning of a tone that bears a title, and keeps the connection open.
+inline ScriptedServer::Handler titledTone(const std::string& title)
+{
+    const std::string about = "StreamTitle='" + title + "';";
+    const std::string block =
+        static_cast<char>((about.size() + 15) / 16) + about + std::string((16 - about.size() % 16) % 16, '\0');
+    return [block](ScriptedServer::Connection& connection) {
+        connection.readRequestHead();
+        connection.send("ICY 200 OK\r\nContent-Type: audio/wav\r\nicy-metaint: 8000\r\n\r\n");
+        const std::string sound = toneHead() + tone(toneBeginning);
+        for (std::size_t begin = 0; begin < sound.size(); begin += 8000) {
+            connection.send(sound.substr(begin, 8000));
+            connection.send(begin == 0 ? block : std::string(1, '\0'));
+        }
+        connection.waitUntilClosed();
+    };
+}
+
 } // namespace sonavel::test
