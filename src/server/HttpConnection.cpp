@@ -1,6 +1,8 @@
 #include "server/HttpConnection.h"
 
 #include <fcntl.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -29,6 +31,9 @@ HttpConnection::HttpConnection(socket_t socket)
     : socket_(socket)
 {
     fcntl(socket_, F_SETFD, FD_CLOEXEC);
+    // Head and content of an answer are written apart; the content must not wait for the client's acknowledgement.
+    const int yes = 1;
+    setsockopt(socket_, IPPROTO_TCP, TCP_NODELAY, &yes, sizeof yes);
 }
 
 HttpConnection::~HttpConnection()

@@ -1,14 +1,18 @@
 #include "server/HttpServer.h"
 
 #include "server/DataServer.h"
+#include "server/HttpConnection.h"
 #include "server/RawClient.h"
 #include "support/ServerHost.h"
 
 #include <gtest/gtest.h>
+#include <netinet/tcp.h>
 
+#include <array>
 #include <chrono>
 #include <deque>
 #include <stdexcept>
+#include <thread>
 
 namespace sonavel {
 namespace {
@@ -59,6 +63,58 @@ TEST(HttpServer, AFormThatIsTooBigIsRefusedInWords)
                 "Content-Length: 300000\r\n\r\n"
         + std::string(300'000, 'a'));
     EXPECT_EQ(client.read(13), "HTTP/1.1 413 ");
+}
+
+TEST(HttpServer, AConnectionServesAsManyRequestsAsItSays)
+{
+    const auto server = startedServer();
+    const RawClient client(*server);
+    for (int request = 0; request < 30; ++request)
+        client.send("GET / HTTP/1.1\r\n\r\n");
+    const std::string answers = client.read(1 << 20);
+    EXPECT_NE(answers.find("max=20"), std::string::npos) << answers.substr(0, 300);
+    int count = 0;
+    for (std::size_t found = 0; (found = answers.find(granted, found)) != std::string::npos; ++found)
+        ++count;
+    EXPECT_EQ(count, 20);
+}
+
+TEST(HttpConnection, SendsEachPieceOfAnAnswerAtOnce)
+{
+    const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const HttpConnection connection(socket);
+    int isWithoutDelay = 0;
+    socklen_t size = sizeof isWithoutDelay;
+    ASSERT_EQ(::getsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &isWithoutDelay, &size), 0);
+    EXPECT_NE(isWithoutDelay, 0);
+}
+
+TEST(HttpConnection, AClientWhoseRequestIsCutShortLearnsThatTheAnswerIsOverWhileTheRestIsTaken)
+{
+    const std::string tooMuch(1 << 15, 'a');
+    const auto isTakenAfterTheEnd = [&] {
+        std::array<int, 2> sockets{};
+        EXPECT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets.data()), 0);
+        std::thread server([&] {
+            HttpConnection connection(sockets[0]);
+            EXPECT_TRUE(connection.awaitRequest());
+            std::array<char, 4096> piece{};
+            while (connection.read(piece.data(), piece.size()) > 0) { }
+            EXPECT_TRUE(connection.isCutShort());
+        });
+        for (int piece = 0; piece < 5; ++piece)
+            EXPECT_EQ(::send(sockets[1], tooMuch.data(), tooMuch.size(), MSG_NOSIGNAL), std::ssize(tooMuch));
+        char byte = 0;
+        EXPECT_EQ(::recv(sockets[1], &byte, 1, 0), 0);
+        const bool isTaken = ::send(sockets[1], "a", 1, MSG_NOSIGNAL) == 1;
+        ::close(sockets[1]);
+        server.join();
+        return isTaken;
+    };
+    bool isTaken = false;
+    for (int attempt = 0; attempt < 5 && !isTaken; ++attempt) // The rest is taken for half a second.
+        isTaken = isTakenAfterTheEnd();
+    EXPECT_TRUE(isTaken);
 }
 
 TEST(HttpServer, ListenersWithoutEndLeaveRoomForRequests)
