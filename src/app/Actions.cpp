@@ -4,8 +4,6 @@
 #include "app/WinSonavelController.h"
 #include "ui/Outlets.h"
 
-#include <algorithm>
-#include <array>
 #include <memory>
 
 namespace sonavel {
@@ -91,22 +89,15 @@ void Actions::wireItems()
     for (ToolbarItem* item :
         {&outlets_.radioAdd, &outlets_.radioEdit, &outlets_.radioRemove, &outlets_.radioImport, &outlets_.radioExport})
         wire(item->action, OpenCell::IsEnded, [item](Controller& c) { c.editorToolbar.toolbar(*item); });
-    for (MenuItem* item : controller_.menus.items())
-        wire(item->action, openCellUnder(*item), [item](Controller& c) { c.menus.menuView(*item); });
+    for (const TaggedItem& row : taggedItems()) {
+        MenuItem& item = outlets_.*row.item;
+        wire(item.action, row.openCell, [&item](Controller& c) { c.menus.menuView(item); });
+    }
     wire(
         outlets_.menuPreferences.action, OpenCell::Stays, [](Controller& c) { c.preferencesWindow.showPreferences(); });
     wire(outlets_.menuAbout.action, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.makeKeyAndOrderFront(); });
     for (Action* closing : {&outlets_.buttonCloseAbout.action, &outlets_.winAbout.action})
         wire(*closing, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.setIsVisible(false); });
-}
-
-/// Whoever types goes on typing when he pauses the sound.
-Actions::OpenCell Actions::openCellUnder(const MenuItem& item) const
-{
-    const std::array ofPlayback{&outlets_.menuPlayPause, &outlets_.menuStop, &outlets_.menuMute,
-        &outlets_.menuPreviousStation, &outlets_.menuNextStation};
-    const bool leavesTheList = std::find(ofPlayback.begin(), ofPlayback.end(), &item) != ofPlayback.end();
-    return leavesTheList ? OpenCell::Stays : OpenCell::IsEnded;
 }
 
 void Actions::wire(Action& action, OpenCell openCell, std::function<void(Controller&)> operation)

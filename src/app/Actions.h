@@ -8,9 +8,9 @@ namespace sonavel {
 
 class Action;
 class Gate;
-class MenuItem;
 class WinSonavelController;
 struct Outlets;
+enum class OpenCell;
 
 /// Sets the action of every control that the user acts on. Each goes through the gate, and after each, toolbar and menu
 /// items are enabled anew. Controller, outlets and gate have to outlive this object, and this object the outlets' use.
@@ -33,10 +33,6 @@ public:
     void perform(const void* source, std::function<void(WinSonavelController&)> operation);
 
 private:
-    /// What becomes of a cell that is being edited. What works on the list as it is shown finds the edit made.
-    enum class OpenCell { Stays, IsEnded };
-
-    [[nodiscard]] OpenCell openCellUnder(const MenuItem& item) const;
     void wire(Action& action, OpenCell openCell, std::function<void(WinSonavelController&)> operation);
     void wireMainWindow();
     void wireEditor();

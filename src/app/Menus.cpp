@@ -4,6 +4,9 @@
 #include "platform/LocalizedStrings.h"
 #include "ui/Outlets.h"
 
+#include <algorithm>
+#include <array>
+
 namespace sonavel {
 
 namespace {
@@ -25,55 +28,66 @@ bool whileEditorIsHidden(const Controller&, const Outlets& outlets)
     return !outlets.winWebRadioListEdit.isVisible();
 }
 
-struct Row {
-    int tag;
-    void (*perform)(Controller&);
-    bool (*isEnabled)(const Controller&, const Outlets&);
-};
-
 constexpr int showEditorTag = 1003;
+constexpr auto ends = OpenCell::IsEnded;
+constexpr auto stays = OpenCell::Stays; // whoever types goes on typing when he pauses the sound
 
-const std::array rows{
-    Row{0, [](Controller& c) { c.quitApp(); }, always},
-    Row{1000, [](Controller& c) { c.editSheet.radioAddToList(); }, whileEditorHasKeyboard},
-    Row{1001, [](Controller& c) { c.editSheet.radioEditToList(); },
+constexpr std::array rows{
+    TaggedItem{0, &Outlets::menuQuit, ends, [](Controller& c) { c.quitApp(); }, always},
+    TaggedItem{1000, &Outlets::menuRadioAdd, ends, [](Controller& c) { c.editSheet.radioAddToList(); },
+        whileEditorHasKeyboard},
+    TaggedItem{1001, &Outlets::menuRadioEdit, ends, [](Controller& c) { c.editSheet.radioEditToList(); },
         [](const Controller& c, const Outlets& o) {
             return whileEditorHasKeyboard(c, o) && o.tableViewListRadio.numberOfSelectedRows() == 1;
         }},
-    Row{1002, [](Controller& c) { c.stationRemoval.radioRemoveToList(); },
+    TaggedItem{1002, &Outlets::menuRadioRemove, ends, [](Controller& c) { c.stationRemoval.radioRemoveToList(); },
         [](const Controller& c, const Outlets& o) {
             return whileEditorHasKeyboard(c, o) && o.tableViewListRadio.selectedRow() >= 0;
         }},
-    Row{showEditorTag, [](Controller& c) { c.editorWindow.toggleVisibility(); },
+    TaggedItem{showEditorTag, &Outlets::menuRadioShowEditRadio, ends,
+        [](Controller& c) { c.editorWindow.toggleVisibility(); },
         [](const Controller&, const Outlets& o) {
             return o.winWebRadioListEdit.isVisible() || !o.winPreferences.isVisible();
         }},
-    Row{2000, [](Controller& c) { c.player.playPause(); },
+    TaggedItem{2000, &Outlets::menuPlayPause, stays, [](Controller& c) { c.player.playPause(); },
         [](const Controller&, const Outlets& o) { return o.popupbuttonRadioList.indexOfSelectedItem() > 0; }},
-    Row{2001, [](Controller& c) { c.player.stop(); },
+    TaggedItem{2001, &Outlets::menuStop, stays, [](Controller& c) { c.player.stop(); },
         [](const Controller& c, const Outlets&) { return !c.player.isStop || c.player.isPlay; }},
-    Row{2002, [](Controller& c) { c.player.buttonMute(); }, always},
-    Row{2003, [](Controller& c) { c.stationSelection.changeStation(true); }, always},
-    Row{2004, [](Controller& c) { c.stationSelection.changeStation(false); }, always},
-    Row{3000, [](Controller& c) { c.stationImport.importRadioListFromFile(); }, whileEditorHasKeyboard},
-    Row{3001, [](Controller& c) { c.stationExport.exportRadioListIntoFile(); },
+    TaggedItem{2002, &Outlets::menuMute, stays, [](Controller& c) { c.player.buttonMute(); }, always},
+    TaggedItem{2003, &Outlets::menuPreviousStation, stays,
+        [](Controller& c) { c.stationSelection.changeStation(true); }, always},
+    TaggedItem{
+        2004, &Outlets::menuNextStation, stays, [](Controller& c) { c.stationSelection.changeStation(false); }, always},
+    TaggedItem{3000, &Outlets::menuRadioImport, ends, [](Controller& c) { c.stationImport.importRadioListFromFile(); },
+        whileEditorHasKeyboard},
+    TaggedItem{3001, &Outlets::menuRadioExport, ends, [](Controller& c) { c.stationExport.exportRadioListIntoFile(); },
         [](const Controller& c, const Outlets& o) {
             return whileEditorHasKeyboard(c, o) && c.stationList.numberOfStations() > 0;
         }},
-    Row{4000, [](Controller&) {}, whileEditorIsHidden},
-    Row{4001, [](Controller& c) { c.checkUpdateOnDemand(); }, whileEditorIsHidden},
+    TaggedItem{4000, &Outlets::menuPreferences, stays, [](Controller&) {}, whileEditorIsHidden},
+    TaggedItem{
+        4001, &Outlets::menuCheckUpdates, ends, [](Controller& c) { c.checkUpdateOnDemand(); }, whileEditorIsHidden},
 };
 
-const Row* rowOf(int tag)
+const TaggedItem* rowOf(int tag)
 {
-    for (const Row& row : rows) {
-        if (row.tag == tag)
-            return &row;
-    }
-    return nullptr;
+    const auto* const row = std::find_if(rows.begin(), rows.end(), [tag](const auto& row) { return row.tag == tag; });
+    return row == rows.end() ? nullptr : row;
 }
 
 } // namespace
+
+std::span<const TaggedItem> taggedItems()
+{
+    return rows;
+}
+
+int tagOf(MenuItem Outlets::*item)
+{
+    const auto* const row =
+        std::find_if(rows.begin(), rows.end(), [item](const auto& row) { return row.item == item; });
+    return row == rows.end() ? -1 : row->tag;
+}
 
 Menus::Menus(WinSonavelController& controller, const LocalizedStrings& localizedStrings, Outlets& outlets)
     : controller_(controller)
@@ -84,7 +98,7 @@ Menus::Menus(WinSonavelController& controller, const LocalizedStrings& localized
 
 void Menus::menuView(const MenuItem& sender)
 {
-    if (const Row* row = rowOf(sender.tag()))
+    if (const TaggedItem* row = rowOf(sender.tag()))
         row->perform(controller_);
 }
 
@@ -93,22 +107,14 @@ bool Menus::validateMenuItem(const MenuItem& item)
     if (item.tag() == showEditorTag)
         outlets_.menuRadioShowEditRadio.setTitle(localizedStrings_.localizedStringForKey(
             outlets_.winWebRadioListEdit.isVisible() ? "CLOSE_EDIT_RADIO_LIST" : "SHOW_EDIT_RADIO_LIST"));
-    const Row* row = rowOf(item.tag());
+    const TaggedItem* row = rowOf(item.tag());
     return row != nullptr && row->isEnabled(controller_, outlets_);
 }
 
 void Menus::validateItems()
 {
-    for (MenuItem* item : items())
-        item->setEnabled(validateMenuItem(*item));
-}
-
-std::array<MenuItem*, 14> Menus::items() const
-{
-    return {&outlets_.menuRadioAdd, &outlets_.menuRadioEdit, &outlets_.menuRadioRemove, &outlets_.menuRadioImport,
-        &outlets_.menuRadioExport, &outlets_.menuRadioShowEditRadio, &outlets_.menuPlayPause, &outlets_.menuStop,
-        &outlets_.menuMute, &outlets_.menuPreviousStation, &outlets_.menuNextStation, &outlets_.menuCheckUpdates,
-        &outlets_.menuPreferences, &outlets_.menuQuit};
+    for (const TaggedItem& row : rows)
+        (outlets_.*row.item).setEnabled(validateMenuItem(outlets_.*row.item));
 }
 
 } // namespace sonavel

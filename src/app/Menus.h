@@ -1,7 +1,7 @@
 // The menus: from an item's tag to what it does and when it is enabled.
 #pragma once
 
-#include <array>
+#include <span>
 
 namespace sonavel {
 
@@ -9,6 +9,24 @@ class LocalizedStrings;
 class MenuItem;
 class WinSonavelController;
 struct Outlets;
+
+/// What becomes of a cell that is being edited. What works on the list as it is shown finds the edit made.
+enum class OpenCell { Stays, IsEnded };
+
+/// An item that has a tag.
+struct TaggedItem {
+    int tag;
+    MenuItem Outlets::*item;
+    OpenCell openCell;
+    void (*perform)(WinSonavelController&);
+    bool (*isEnabled)(const WinSonavelController&, const Outlets&);
+};
+
+/// All of them.
+[[nodiscard]] std::span<const TaggedItem> taggedItems();
+
+/// The item's tag; −1 when it has none.
+[[nodiscard]] int tagOf(MenuItem Outlets::*item);
 
 /// Main thread. Borrows everything it is given.
 class Menus {
@@ -26,9 +44,6 @@ public:
 
     /// Enables every item as it is to be now: before a menu is shown, and before a key is matched.
     void validateItems();
-
-    /// All items that have a tag.
-    [[nodiscard]] std::array<MenuItem*, 14> items() const;
 
 private:
     WinSonavelController& controller_;

@@ -10,8 +10,8 @@ protected:
     {
         actions.validateItems();
         std::string tags;
-        for (const MenuItem* item : controller.menus.items())
-            tags += item->state().isEnabled ? std::to_string(item->tag()) + " " : "";
+        for (const TaggedItem& row : taggedItems())
+            tags += (outlets.*row.item).state().isEnabled ? std::to_string(row.tag) + " " : "";
         return tags;
     }
 
@@ -25,32 +25,32 @@ protected:
 TEST_F(MenusTest, ItemsOfTheListNeedItsWindowWithTheKeyboard)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
-    EXPECT_EQ(enabled(), "1003 2002 2003 2004 4001 4000 0 ");
+    EXPECT_EQ(enabled(), "0 1003 2002 2003 2004 4000 4001 ");
     EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
     showEditor(false);
-    EXPECT_EQ(enabled(), "1003 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "0 1003 2002 2003 2004 ");
     EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<CLOSE_EDIT_RADIO_LIST>");
     showEditor(true);
-    EXPECT_EQ(enabled(), "1000 3000 3001 1003 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "0 1000 1003 2002 2003 2004 3000 3001 ");
     outlets.tableViewListRadio.selectedByUser({0}, 0);
-    EXPECT_EQ(enabled(), "1000 1001 1002 3000 3001 1003 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "0 1000 1001 1002 1003 2002 2003 2004 3000 3001 ");
     outlets.tableViewListRadio.selectedByUser({0, 1}, 1);
-    EXPECT_EQ(enabled(), "1000 1002 3000 3001 1003 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "0 1000 1002 1003 2002 2003 2004 3000 3001 ");
     controller.stationList.listRadio->clear();
-    EXPECT_EQ(enabled(), "1000 1002 3000 1003 2002 2003 2004 0 ");
+    EXPECT_EQ(enabled(), "0 1000 1002 1003 2002 2003 2004 3000 ");
 }
 
 TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)
 {
     startWithStations("A;http://a/\r");
     outlets.popupbuttonRadioList.chosenByUser(1);
-    EXPECT_EQ(enabled(), "1003 2000 2002 2003 2004 4001 4000 0 ");
+    EXPECT_EQ(enabled(), "0 1003 2000 2002 2003 2004 4000 4001 ");
     outlets.menuPlayPause.chosenByUser();
-    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 4001 4000 0 ");
+    EXPECT_EQ(enabled(), "0 1003 2000 2001 2002 2003 2004 4000 4001 ");
     outlets.menuPlayPause.chosenByUser();
-    EXPECT_EQ(enabled(), "1003 2000 2001 2002 2003 2004 4001 4000 0 ") << "paused";
+    EXPECT_EQ(enabled(), "0 1003 2000 2001 2002 2003 2004 4000 4001 ") << "paused";
     controller.stationSelection.updatePopupListRadioWithListStation();
-    EXPECT_EQ(enabled(), "1003 2001 2002 2003 2004 4001 4000 0 ")
+    EXPECT_EQ(enabled(), "0 1003 2001 2002 2003 2004 4000 4001 ")
         << "still held, while the pop-up shows its placeholder";
     outlets.menuMute.chosenByUser();
     EXPECT_TRUE(controller.player.isMute);
@@ -97,7 +97,7 @@ TEST_F(MenusTest, TheListItemTogglesItsWindowAndWaitsForThePreferences)
     outlets.menuRadioShowEditRadio.chosenByUser();
     EXPECT_FALSE(outlets.winWebRadioListEdit.isVisible());
     outlets.winPreferences.setIsVisible(true);
-    EXPECT_EQ(enabled(), "2002 2003 2004 4001 4000 0 ");
+    EXPECT_EQ(enabled(), "0 2002 2003 2004 4000 4001 ");
     EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
 }
 

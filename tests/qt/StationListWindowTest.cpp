@@ -24,6 +24,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace sonavel {
 namespace {
 
@@ -50,6 +52,10 @@ protected:
         return *parent.findChild<Widget*>(QString::fromLatin1(name));
     }
     StationTable& tableWidget() { return child<StationTable>(window, "tableViewListRadio"); }
+    QAction& action(MenuItem Outlets::*item)
+    {
+        return *std::ranges::find(menus.items(), item, &ProgramMenus::Item::first)->second;
+    }
     FindField& findField() { return *window.findChild<FindField*>(); }
     QString status() { return child<QLabel>(window, "labelListStatus").text(); }
     void openSheet()
@@ -323,7 +329,7 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
     main.show();
     main.activateWindow();
     ASSERT_TRUE(handleEventsUntil([&] { return main.isActiveWindow(); }));
-    menus.item("menuMute").setShortcuts({});
+    action(&Outlets::menuMute).setShortcuts({});
     QApplication::processEvents();
     others.menuMute.setEnabled(false);
     QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
@@ -337,27 +343,22 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
 TEST_F(StationListWindowTest, EveryItemHasTheTagOfWhatItSaysAndItsKeys)
 {
     struct Row {
-        const MenuItem& item;
-        const char* name;
+        MenuItem Outlets::*item;
         int tag;
         const char* keys;
     };
-    const std::array items{Row{outlets.menuQuit, "menuQuit", 0, "Ctrl+Q"},
-        Row{outlets.menuRadioAdd, "menuRadioAdd", 1000, "Ctrl+N"},
-        Row{outlets.menuRadioEdit, "menuRadioEdit", 1001, ""},
-        Row{outlets.menuRadioRemove, "menuRadioRemove", 1002, ""},
-        Row{outlets.menuRadioShowEditRadio, "menuRadioShowEditRadio", 1003, "Ctrl+E"},
-        Row{outlets.menuPlayPause, "menuPlayPause", 2000, "Ctrl+P; Space"},
-        Row{outlets.menuStop, "menuStop", 2001, "Ctrl+."}, Row{outlets.menuMute, "menuMute", 2002, "Ctrl+M"},
-        Row{outlets.menuPreviousStation, "menuPreviousStation", 2003, "Ctrl+Left"},
-        Row{outlets.menuNextStation, "menuNextStation", 2004, "Ctrl+Right"},
-        Row{outlets.menuRadioImport, "menuRadioImport", 3000, "Ctrl+I"},
-        Row{outlets.menuRadioExport, "menuRadioExport", 3001, "Ctrl+Shift+E"},
-        Row{outlets.menuPreferences, "menuPreferences", 4000, "Ctrl+,"},
-        Row{outlets.menuCheckUpdates, "menuCheckUpdates", 4001, ""}, Row{outlets.menuAbout, "menuAbout", -1, ""}};
-    for (const auto& [item, name, tag, keys] : items) {
-        EXPECT_EQ(item.tag(), tag) << name;
-        EXPECT_EQ(QKeySequence::listToString(menus.item(name).shortcuts()), keys) << name;
+    const std::array items{Row{&Outlets::menuQuit, 0, "Ctrl+Q"}, Row{&Outlets::menuRadioAdd, 1000, "Ctrl+N"},
+        Row{&Outlets::menuRadioEdit, 1001, ""}, Row{&Outlets::menuRadioRemove, 1002, ""},
+        Row{&Outlets::menuRadioShowEditRadio, 1003, "Ctrl+E"}, Row{&Outlets::menuPlayPause, 2000, "Ctrl+P; Space"},
+        Row{&Outlets::menuStop, 2001, "Ctrl+."}, Row{&Outlets::menuMute, 2002, "Ctrl+M"},
+        Row{&Outlets::menuPreviousStation, 2003, "Ctrl+Left"}, Row{&Outlets::menuNextStation, 2004, "Ctrl+Right"},
+        Row{&Outlets::menuRadioImport, 3000, "Ctrl+I"}, Row{&Outlets::menuRadioExport, 3001, "Ctrl+Shift+E"},
+        Row{&Outlets::menuPreferences, 4000, "Ctrl+,"}, Row{&Outlets::menuCheckUpdates, 4001, ""},
+        Row{&Outlets::menuAbout, -1, ""}};
+    for (const auto& [item, tag, keys] : items) {
+        const QAction& shown = action(item);
+        EXPECT_EQ((outlets.*item).tag(), tag) << shown.text().toStdString();
+        EXPECT_EQ(QKeySequence::listToString(shown.shortcuts()), keys) << shown.text().toStdString();
     }
 }
 
@@ -365,9 +366,9 @@ TEST_F(StationListWindowTest, AMenuTitleFromTheProgramIsShownAsItIs)
 {
     EXPECT_EQ(outlets.menuRadioAdd.state().title, Text("Add…"));
     outlets.menuRadioShowEditRadio.setTitle("Close R&B");
-    EXPECT_EQ(menus.item("menuRadioShowEditRadio").text(), "Close R&&B");
+    EXPECT_EQ(action(&Outlets::menuRadioShowEditRadio).text(), "Close R&&B");
     EXPECT_EQ(outlets.menuRadioShowEditRadio.tag(), 1003);
-    EXPECT_EQ(menus.item("menuRadioAdd").text(), "&Add…");
+    EXPECT_EQ(action(&Outlets::menuRadioAdd).text(), "&Add…");
 }
 
 TEST_F(StationListWindowTest, AnEmptyListSaysWhatToDo)

@@ -75,13 +75,8 @@ protected:
         for (ToolbarItem* item :
             {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
             item->connect({tag++, false});
-        const std::pair<MenuItem*, int> menuItems[] = {{&outlets.menuQuit, 0}, {&outlets.menuRadioAdd, 1000},
-            {&outlets.menuRadioEdit, 1001}, {&outlets.menuRadioRemove, 1002}, {&outlets.menuRadioShowEditRadio, 1003},
-            {&outlets.menuPlayPause, 2000}, {&outlets.menuStop, 2001}, {&outlets.menuMute, 2002},
-            {&outlets.menuPreviousStation, 2003}, {&outlets.menuNextStation, 2004}, {&outlets.menuRadioImport, 3000},
-            {&outlets.menuRadioExport, 3001}, {&outlets.menuPreferences, 4000}, {&outlets.menuCheckUpdates, 4001}};
-        for (const auto& [item, itemTag] : menuItems)
-            item->connect({{}, itemTag, false});
+        for (const TaggedItem& row : taggedItems())
+            (outlets.*row.item).connect({{}, row.tag, false});
     }
 
     void putDatabase(const Text& listText)

@@ -2,25 +2,15 @@
 
 #include "qt/kit/TextConversion.h"
 
-#include <QVariant>
-
 namespace sonavel {
 
-namespace {
-
-constexpr int noTag = -1;
-
-} // namespace
-
-MenuItemBinder::MenuItemBinder(MenuItem& item, QAction& action)
+MenuItemBinder::MenuItemBinder(MenuItem& item, int tag, QAction& action)
     : QObject(&action)
     , item_(item)
     , action_(action)
     , titleShown_(toText(action.text().remove(u'&')))
 {
-    const QVariant tag = action.property("tag");
-    item_.connect({titleShown_, tag.isValid() ? tag.toInt() : noTag, action.isEnabled()},
-        [this](const MenuItemState& state) { render(state); });
+    item_.connect({titleShown_, tag, action.isEnabled()}, [this](const MenuItemState& state) { render(state); });
     // Queued: a screen reader that chooses it waits for an answer, and must not wait for that of a question.
     connect(
         &action, &QAction::triggered, this, [this] { item_.chosenByUser(); }, Qt::QueuedConnection);

@@ -11,9 +11,8 @@ namespace sonavel {
 /// longer.
 class MenuItemBinder : public QObject {
 public:
-    /// The action's property "tag" is the item's tag. Its title keeps its mnemonic for as long as the program gives it
-    /// no other.
-    MenuItemBinder(MenuItem& item, QAction& action);
+    /// The title that the action has keeps its mnemonic for as long as the program gives it no other.
+    MenuItemBinder(MenuItem& item, int tag, QAction& action);
     ~MenuItemBinder() override;
 
 private:

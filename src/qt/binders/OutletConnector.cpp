@@ -1,5 +1,6 @@
 #include "qt/binders/OutletConnector.h"
 
+#include "app/Menus.h"
 #include "platform/Interfaces.h"
 #include "qt/binders/ButtonBinder.h"
 #include "qt/binders/LabelBinder.h"
@@ -207,16 +208,8 @@ void connectBeforehand(Outlets& outlets)
 
 void connectMenus(Outlets& outlets, const ProgramMenus& menus)
 {
-    const std::initializer_list<std::pair<MenuItem&, const char*>> items{{outlets.menuQuit, "menuQuit"},
-        {outlets.menuAbout, "menuAbout"}, {outlets.menuCheckUpdates, "menuCheckUpdates"},
-        {outlets.menuPreferences, "menuPreferences"}, {outlets.menuPlayPause, "menuPlayPause"},
-        {outlets.menuStop, "menuStop"}, {outlets.menuMute, "menuMute"},
-        {outlets.menuPreviousStation, "menuPreviousStation"}, {outlets.menuNextStation, "menuNextStation"},
-        {outlets.menuRadioShowEditRadio, "menuRadioShowEditRadio"}, {outlets.menuRadioAdd, "menuRadioAdd"},
-        {outlets.menuRadioEdit, "menuRadioEdit"}, {outlets.menuRadioRemove, "menuRadioRemove"},
-        {outlets.menuRadioImport, "menuRadioImport"}, {outlets.menuRadioExport, "menuRadioExport"}};
-    for (const auto& [item, name] : items)
-        new MenuItemBinder(item, menus.item(QString::fromLatin1(name)));
+    for (const auto& [item, action] : menus.items())
+        new MenuItemBinder(outlets.*item, tagOf(item), *action);
 }
 
 } // namespace sonavel

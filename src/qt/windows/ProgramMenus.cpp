@@ -1,5 +1,7 @@
 #include "qt/windows/ProgramMenus.h"
 
+#include "ui/Outlets.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
@@ -14,12 +16,9 @@ namespace sonavel {
 
 namespace {
 
-constexpr int noTag = -1;
-
 struct Item {
-    const char* name; ///< null for a line between items
+    MenuItem Outlets::*outlet; ///< null for a line between items
     const char* title = nullptr;
-    int tag = noTag;
     QList<QKeySequence> keys = {};
 };
 
@@ -32,36 +31,22 @@ std::array<Menu, 3> layout()
 {
     return {
         Menu{"MENU_SONAVEL",
-            {{"menuAbout", "MENU_ABOUT", noTag}, {"menuCheckUpdates", "MENU_CHECK_UPDATES", 4001}, {nullptr},
-                {"menuPreferences", "MENU_PREFERENCES", 4000, {Qt::CTRL | Qt::Key_Comma}}, {nullptr},
-                {"menuQuit", "MENU_QUIT", 0, {Qt::CTRL | Qt::Key_Q}}}},
+            {{&Outlets::menuAbout, "MENU_ABOUT"}, {&Outlets::menuCheckUpdates, "MENU_CHECK_UPDATES"}, {nullptr},
+                {&Outlets::menuPreferences, "MENU_PREFERENCES", {Qt::CTRL | Qt::Key_Comma}}, {nullptr},
+                {&Outlets::menuQuit, "MENU_QUIT", {Qt::CTRL | Qt::Key_Q}}}},
         {"MENU_PLAYBACK",
-            {{"menuPlayPause", "MENU_PLAY_PAUSE", 2000, {Qt::CTRL | Qt::Key_P, Qt::Key_Space}},
-                {"menuStop", "MENU_STOP", 2001, {Qt::CTRL | Qt::Key_Period}},
-                {"menuMute", "MENU_MUTE", 2002, {Qt::CTRL | Qt::Key_M}}, {nullptr},
-                {"menuPreviousStation", "MENU_PREVIOUS", 2003, {Qt::CTRL | Qt::Key_Left}},
-                {"menuNextStation", "MENU_NEXT", 2004, {Qt::CTRL | Qt::Key_Right}}}},
+            {{&Outlets::menuPlayPause, "MENU_PLAY_PAUSE", {Qt::CTRL | Qt::Key_P, Qt::Key_Space}},
+                {&Outlets::menuStop, "MENU_STOP", {Qt::CTRL | Qt::Key_Period}},
+                {&Outlets::menuMute, "MENU_MUTE", {Qt::CTRL | Qt::Key_M}}, {nullptr},
+                {&Outlets::menuPreviousStation, "MENU_PREVIOUS", {Qt::CTRL | Qt::Key_Left}},
+                {&Outlets::menuNextStation, "MENU_NEXT", {Qt::CTRL | Qt::Key_Right}}}},
         {"MENU_STATIONS",
-            {{"menuRadioShowEditRadio", "SHOW_EDIT_RADIO_LIST", 1003, {Qt::CTRL | Qt::Key_E}}, {nullptr},
-                {"menuRadioAdd", "MENU_ADD", 1000, {Qt::CTRL | Qt::Key_N}}, {"menuRadioEdit", "MENU_EDIT", 1001},
-                {"menuRadioRemove", "MENU_REMOVE", 1002}, {nullptr},
-                {"menuRadioImport", "MENU_IMPORT", 3000, {Qt::CTRL | Qt::Key_I}},
-                {"menuRadioExport", "MENU_EXPORT", 3001, {Qt::CTRL | Qt::SHIFT | Qt::Key_E}}}},
+            {{&Outlets::menuRadioShowEditRadio, "SHOW_EDIT_RADIO_LIST", {Qt::CTRL | Qt::Key_E}}, {nullptr},
+                {&Outlets::menuRadioAdd, "MENU_ADD", {Qt::CTRL | Qt::Key_N}}, {&Outlets::menuRadioEdit, "MENU_EDIT"},
+                {&Outlets::menuRadioRemove, "MENU_REMOVE"}, {nullptr},
+                {&Outlets::menuRadioImport, "MENU_IMPORT", {Qt::CTRL | Qt::Key_I}},
+                {&Outlets::menuRadioExport, "MENU_EXPORT", {Qt::CTRL | Qt::SHIFT | Qt::Key_E}}}},
     };
-}
-
-void addItem(QMenu& menu, const Item& item)
-{
-    if (item.name == nullptr) {
-        menu.addSeparator();
-        return;
-    }
-    QAction* action = menu.addAction(qtTrId(item.title));
-    action->setObjectName(QString::fromLatin1(item.name));
-    action->setProperty("tag", item.tag);
-    action->setShortcuts(item.keys);
-    action->setShortcutContext(Qt::ApplicationShortcut);
-    action->setAutoRepeat(false);
 }
 
 /// A field in which the user types keeps the key for itself.
@@ -87,11 +72,24 @@ ProgramMenus::ProgramMenus(std::function<void()> validate)
     for (std::size_t index = 0; index < menus_.size(); ++index) {
         QMenu& menu = menus_.at(index);
         menu.setTitle(qtTrId(contents.at(index).title));
-        for (const Item& item : contents.at(index).items)
-            addItem(menu, item);
+        for (const auto& item : contents.at(index).items)
+            addItem(menu, item.outlet, item.title, item.keys);
         connect(&menu, &QMenu::aboutToShow, this, [this] { validate_(); });
     }
     QApplication::instance()->installEventFilter(this);
+}
+
+void ProgramMenus::addItem(QMenu& menu, MenuItem Outlets::*outlet, const char* title, const QList<QKeySequence>& keys)
+{
+    if (outlet == nullptr) {
+        menu.addSeparator();
+        return;
+    }
+    QAction* action = menu.addAction(qtTrId(title));
+    action->setShortcuts(keys);
+    action->setShortcutContext(Qt::ApplicationShortcut);
+    action->setAutoRepeat(false);
+    items_.emplace_back(outlet, action);
 }
 
 void ProgramMenus::addTo(QMainWindow& window)
@@ -116,15 +114,6 @@ void ProgramMenus::addKeysTo(QWidget& sheet)
 {
     for (const QMenu& menu : menus_)
         sheet.addActions(menu.actions());
-}
-
-QAction& ProgramMenus::item(const QString& name) const
-{
-    for (const QMenu& menu : menus_) {
-        if (auto* action = menu.findChild<QAction*>(name))
-            return *action;
-    }
-    qFatal("No menu has the item %s", qPrintable(name));
 }
 
 /// A disabled action asks nobody before its key is matched, so the moment before is the time to enable it.
