@@ -88,6 +88,29 @@ TEST_F(StartTest, TheFirstStationOfTheDefaultsNameIsSelectedAndPlayedWhenAskedFo
     EXPECT_EQ(platform.streamPlayers.last().volume, 0.4F);
 }
 
+TEST_F(StartTest, TheDefaultStationIsReadyAndSilentUnlessItIsToPlayAtTheStart)
+{
+    putPreferences({{"defaultStation", "A"}, {"isAutoPlay", "YES"}, {"isAutoPlayOpenApp", "NO"}});
+    startWithStations("A;http://a/\r");
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(controller.player.playRadioLink, Text("http://a/"));
+    EXPECT_TRUE(outlets.buttonPlayPause.state().isEnabled);
+    EXPECT_TRUE(controller.player.isStop);
+    EXPECT_TRUE(platform.streamPlayers.players.empty());
+}
+
+TEST_F(StartTest, APlayerThatIsThereBeforeTheControlsGetsTheVolume)
+{
+    putDatabase("A;http://a/\r");
+    controller.init();
+    controller.player.playRadioLink = "http://a/";
+    controller.player.play();
+    connectOutlets();
+    controller.player.sliderValue = 0.25F;
+    controller.awakeFromNib();
+    EXPECT_EQ(platform.streamPlayers.last().volume, 0.25F);
+}
+
 TEST_F(StartTest, NoDefaultStationSelectsAndPlaysNothing)
 {
     for (const char* name : {"POP_UP_BUTTON_SELECT_RADIO", "POP_UP_BUTTON_SELECT_RADIO_NULL", "Gone", ""}) {
