@@ -53,11 +53,10 @@ VersionRecord AppUpdater::returnVersionUpdate()
     const auto body = ports_.httpClient.sendSynchronousRequest(requestTo(ports_.dataServer));
     const auto record = body ? serverVersionRecord(*body) : std::nullopt;
     hasUsableAnswer_ = record.has_value();
-    if (!record)
-        return {};
-    updateApp = momentFromInternationalForm(record->updateApp);
-    updateData = momentFromInternationalForm(record->updateData);
-    return *record;
+    VersionRecord found = record.value_or(VersionRecord());
+    updateApp = momentFromInternationalForm(found.updateApp);
+    updateData = momentFromInternationalForm(found.updateData);
+    return found;
 }
 
 bool AppUpdater::checkUpdate()

@@ -65,7 +65,8 @@ public:
     std::int64_t bytesReceived = 0;
 
     [[nodiscard]] VersionRecord returnVersionApp() const;
-    /// Asks the server and sets both dates.
+    /// Asks the server and sets both dates; without a usable answer they are absent, and the record is that of no
+    /// version.
     [[nodiscard]] VersionRecord returnVersionUpdate();
 
     /// Whether there is a newer version, or was at an earlier check of this run; then the window is filled and shown.

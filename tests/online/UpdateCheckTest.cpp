@@ -127,6 +127,16 @@ TEST_F(UpdateCheckTest, ServersWithoutAUsableAnswerAreToldAndTheirDatesForgotten
     EXPECT_TRUE(updater().windowUpdater.isVisible()) << "what was found once in a run stays found";
 }
 
+TEST_F(UpdateCheckTest, ACheckerThatIsAskedAgainInVainForgetsItsDates)
+{
+    publishVersion("1.3.0");
+    startOnTheNextDay();
+    EXPECT_TRUE(updater().updateApp && updater().updateData);
+    platform.httpClient.answers.erase(versionAddress);
+    EXPECT_TRUE(updater().returnVersionUpdate().updateApp.isAbsent());
+    EXPECT_FALSE(updater().updateApp || updater().updateData);
+}
+
 TEST_F(UpdateCheckTest, AFurtherCheckTakesTheFormerWindowAway)
 {
     publishVersion("1.3.0");
