@@ -121,6 +121,7 @@ void Actions::perform(const void* source, std::function<void(Controller&)> opera
 
 void Actions::validateItems()
 {
+    controller_.stationSelection.validateControls();
     controller_.editorToolbar.validateVisibleItems();
     controller_.menus.validateItems();
 }

@@ -25,8 +25,7 @@ void removeAtIndexes(StationRecords& stations, const IndexSet& indexes)
         const auto to = stations.begin() + static_cast<std::ptrdiff_t>(end);
         kept = kept == from ? to : std::move(from, to, kept);
     };
-    const IndexSet existing = indexes.below(stations.size());
-    for (const IndexRange& range : existing.ranges()) {
+    for (const IndexRange& range : indexes.ranges()) {
         keepUpTo(range.first);
         next = range.end;
     }
@@ -52,7 +51,7 @@ StationRemoval::StationRemoval(StationList& stationList, StationDatabase& statio
 
 void StationRemoval::radioRemoveToList()
 {
-    if (isSelectionPresent()) {
+    if (outlets_.tableViewListRadio.numberOfSelectedRows() > 0) {
         const bool isChosen = isSelectedStationChosen();
         const auto& strings = localizedStrings_;
         const Alert alert{question(isChosen),
@@ -63,17 +62,11 @@ void StationRemoval::radioRemoveToList()
     editorWindow_.updateTitleWebRadioListEdit();
 }
 
-/// Rows can be left over from a longer list.
-bool StationRemoval::isSelectionPresent() const
-{
-    return !outlets_.tableViewListRadio.selectedRowIndexes().below(stationList_.numberOfStations()).isEmpty();
-}
-
 /// Asked of a single station; several are removed without a look at what plays.
 bool StationRemoval::isSelectedStationChosen() const
 {
     const auto station = stationList_.stationAtIndex(outlets_.tableViewListRadio.selectedRow());
-    return outlets_.tableViewListRadio.numberOfSelectedRows() < 2 && station != nullptr
+    return outlets_.tableViewListRadio.numberOfSelectedRows() < 2
         && outlets_.popupbuttonRadioList.titleOfSelectedItem() == station->radio();
 }
 
@@ -89,9 +82,10 @@ Text StationRemoval::question(bool isChosen) const
 
 void StationRemoval::removeSelected(bool isChosen)
 {
-    if (isChosen)
+    const IndexSet rows = outlets_.tableViewListRadio.selectedRowIndexes();
+    if (isChosen && rows.count() < 2)
         player_.stop();
-    removeAtIndexes(*stationList_.listRadio, outlets_.tableViewListRadio.selectedRowIndexes());
+    removeAtIndexes(*stationList_.listRadio, rows);
     outlets_.tableViewListRadio.reloadData();
     stationSelection_.updatePopupListRadioWithListStation();
     stationDatabase_.fileRadioDBupdate();

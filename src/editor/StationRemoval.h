@@ -24,13 +24,12 @@ public:
     StationRemoval& operator=(const StationRemoval&) = delete;
     ~StationRemoval() = default;
 
-    /// Asks whether to remove the stations of the table's selected rows, removes and stores. A single station whose
-    /// name is the chosen one's is stopped first; among several none is. The order of the others stays. Asks nothing
-    /// when no selected row shows a station.
+    /// Asks whether to remove the stations of the table's selected rows, removes what is selected then, and stores. A
+    /// single station whose name is the chosen one's is stopped first; among several none is. The order of the others
+    /// stays. Asks nothing when no row is selected.
     void radioRemoveToList();
 
 private:
-    [[nodiscard]] bool isSelectionPresent() const;
     [[nodiscard]] bool isSelectedStationChosen() const;
     [[nodiscard]] Text question(bool isChosen) const;
     void removeSelected(bool isChosen);

@@ -21,6 +21,8 @@ StationSelection::StationSelection(const StationList& stationList, const Prefere
     , localizedStrings_(localizedStrings)
     , outlets_(outlets)
 {
+    for (PopUpButton* popUp : {&outlets.popupbuttonRadioList, &outlets.popupDefaultButtonListRadio})
+        popUp->setPresentItems([&stationList] { return stationList.numberOfStations() + 1; });
 }
 
 void StationSelection::updatePopupListRadioWithListStation()
@@ -50,7 +52,7 @@ void StationSelection::changeStation(bool previous)
     player_.playRadioLink = Text();
 
     const int item = selectedItem();
-    const int last = lastItem();
+    const int last = std::max(outlets_.popupbuttonRadioList.numberOfItems() - 1, 0);
     const int first = std::min(1, last);
     if (previous)
         outlets_.popupbuttonRadioList.selectItemAtIndex(item > first ? item - 1 : last);
@@ -74,15 +76,15 @@ void StationSelection::popupRadioList()
 /// The selected item, 0 when it stands for no station.
 int StationSelection::selectedItem() const
 {
-    const int item = outlets_.popupbuttonRadioList.indexOfSelectedItem();
-    return item >= 0 && item <= lastItem() ? item : 0;
+    return std::max(outlets_.popupbuttonRadioList.indexOfSelectedItem(), 0);
 }
 
-/// The last item that stands for a station of the present list; 0 without one.
-int StationSelection::lastItem() const
+void StationSelection::validateControls()
 {
-    const int lastShown = std::max(outlets_.popupbuttonRadioList.numberOfItems() - 1, 0);
-    return static_cast<int>(std::min(static_cast<std::size_t>(lastShown), stationList_.numberOfStations()));
+    if (outlets_.popupbuttonRadioList.indexOfSelectedItem() < 0 && player_.isStop)
+        outlets_.buttonPlayPause.setEnabled(false);
+    if (outlets_.popupDefaultButtonListRadio.numberOfItems() < 2)
+        outlets_.popupDefaultButtonListRadio.setEnabled(false);
 }
 
 void StationSelection::selectDefaultStation()

@@ -37,9 +37,12 @@ public:
     /// preferences say so.
     void selectDefaultStation();
 
+    /// Disables what would act on a station that is gone while its item is still shown: Play/Pause of a stopped player,
+    /// and the choice of a default station when there is none.
+    void validateControls();
+
 private:
     [[nodiscard]] int selectedItem() const;
-    [[nodiscard]] int lastItem() const;
 
     const StationList& stationList_;
     const PreferenceFields& preferences_;

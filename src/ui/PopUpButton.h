@@ -4,7 +4,11 @@
 #include "base/Text.h"
 #include "ui/Rendered.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace sonavel {
@@ -21,16 +25,29 @@ struct PopUpButtonState {
     friend bool operator==(const PopUpButtonState&, const PopUpButtonState&) = default;
 };
 
+/// Items that stand for nothing any more stay in the state, and are shown, until the next `setItems`; what is asked
+/// about items and the selected one leaves them out.
 class PopUpButton : public Rendered<PopUpButtonState> {
 public:
-    [[nodiscard]] int numberOfItems() const { return state().titles ? static_cast<int>(state().titles->size()) : 0; }
-    [[nodiscard]] int indexOfSelectedItem() const { return state().selectedIndex; }
+    /// `count` gives the number of items that stand for something now. Without it all do.
+    void setPresentItems(std::function<std::size_t()> count) { presentItems_ = std::move(count); }
+
+    [[nodiscard]] int numberOfItems() const
+    {
+        return presentItems_ ? static_cast<int>(std::min(itemsShown(), presentItems_()))
+                             : static_cast<int>(itemsShown());
+    }
+    /// −1 when no item is selected.
+    [[nodiscard]] int indexOfSelectedItem() const
+    {
+        return state().selectedIndex < numberOfItems() ? state().selectedIndex : -1;
+    }
 
     /// Absent when no item is selected.
     [[nodiscard]] Text titleOfSelectedItem() const
     {
         const int index = indexOfSelectedItem();
-        return index >= 0 && index < numberOfItems() ? state().titles->at(static_cast<std::size_t>(index)) : Text();
+        return index >= 0 ? state().titles->at(static_cast<std::size_t>(index)) : Text();
     }
 
     /// Replaces all items at once and selects the first, or none when there is none.
@@ -55,13 +72,18 @@ public:
     /// The user chose an item, the selected one perhaps.
     void chosenByUser(int index)
     {
-        if (!state().isEnabled || index < 0 || index >= numberOfItems())
+        if (!state().isEnabled || index < 0 || static_cast<std::size_t>(index) >= itemsShown())
             return;
         store([&](PopUpButtonState& state) { state.selectedIndex = index; });
         action.send();
     }
 
     Action action;
+
+private:
+    [[nodiscard]] std::size_t itemsShown() const { return state().titles ? state().titles->size() : 0; }
+
+    std::function<std::size_t()> presentItems_;
 };
 
 } // namespace sonavel

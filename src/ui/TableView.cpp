@@ -1,8 +1,37 @@
 #include "ui/TableView.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace sonavel {
+
+std::size_t TableView::rowsInDataSource() const
+{
+    return dataSource_ == nullptr ? 0 : static_cast<std::size_t>(dataSource_->numberOfRowsInTableView(*this));
+}
+
+long TableView::numberOfRows() const
+{
+    return static_cast<long>(std::min(state().numberOfRows, rowsInDataSource()));
+}
+
+IndexSet TableView::selectedRowIndexes() const
+{
+    return state().selectedRowIndexes.below(rowsInDataSource());
+}
+
+long TableView::selectedRow() const
+{
+    const long row = state().selectedRow;
+    if (row < numberOfRows())
+        return row;
+    for (auto batch = batches_.rbegin(); batch != batches_.rend(); ++batch) {
+        const IndexSet present = batch->below(rowsInDataSource());
+        if (!present.isEmpty())
+            return static_cast<long>(present.last());
+    }
+    return -1;
+}
 
 Text TableView::textOfCell(std::string_view column, long row) const
 {
@@ -20,10 +49,9 @@ void TableView::setAllowsMultipleSelection(bool allows)
 
 void TableView::reloadData()
 {
-    const long rows = dataSource_ == nullptr ? 0 : dataSource_->numberOfRowsInTableView(*this);
     update([&](TableViewState& state) {
         ++state.reloads;
-        state.numberOfRows = static_cast<std::size_t>(rows);
+        state.numberOfRows = rowsInDataSource();
         select(state, state.selectedRowIndexes, state.selectedRow);
     });
 }

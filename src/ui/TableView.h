@@ -53,15 +53,18 @@ struct TableViewState {
 };
 
 /// Holds no data: rows are counted when it is reloaded, cells are read from the data source whenever they are drawn.
+/// Rows that the data source does not have any more stay in the state, and are shown, until the next reload; what is
+/// asked about rows and their selection leaves them out.
 class TableView : public Rendered<TableViewState> {
 public:
     /// Borrowed; has to outlive the table's use.
     void setDataSource(TableViewDataSource* dataSource) { dataSource_ = dataSource; }
 
-    [[nodiscard]] long numberOfRows() const { return static_cast<long>(state().numberOfRows); }
-    [[nodiscard]] long numberOfSelectedRows() const { return static_cast<long>(state().selectedRowIndexes.count()); }
-    [[nodiscard]] long selectedRow() const { return state().selectedRow; }
-    [[nodiscard]] const IndexSet& selectedRowIndexes() const { return state().selectedRowIndexes; }
+    [[nodiscard]] long numberOfRows() const;
+    [[nodiscard]] long numberOfSelectedRows() const { return static_cast<long>(selectedRowIndexes().count()); }
+    /// The one selected last; −1 when none is.
+    [[nodiscard]] long selectedRow() const;
+    [[nodiscard]] IndexSet selectedRowIndexes() const;
     /// What a cell shows now; absent without a data source.
     [[nodiscard]] Text textOfCell(std::string_view column, long row) const;
 
@@ -101,6 +104,7 @@ private:
     };
 
     void select(TableViewState& state, IndexSet rows, long latest);
+    [[nodiscard]] std::size_t rowsInDataSource() const;
 
     TableViewDataSource* dataSource_ = nullptr;
     std::optional<Edit> edit_;

@@ -36,8 +36,51 @@ TEST_F(MenusTest, ItemsOfTheListNeedItsWindowWithTheKeyboard)
     EXPECT_EQ(enabled(), "0 1000 1001 1002 1003 2002 2003 2004 3000 3001 ");
     outlets.tableViewListRadio.selectedByUser({0, 1}, 1);
     EXPECT_EQ(enabled(), "0 1000 1002 1003 2002 2003 2004 3000 3001 ");
-    controller.stationList.listRadio->clear();
-    EXPECT_EQ(enabled(), "0 1000 1002 1003 2002 2003 2004 3000 ");
+}
+
+TEST_F(MenusTest, NothingIsEnabledThatActsOnRowsAndItemsLeftOverFromAnErasedList)
+{
+    for (const IndexSet& rows : {IndexSet{1}, IndexSet{0, 1}}) {
+        putPreferences({{"enableMultipleSelection", "YES"}, {"defaultStation", "B"}});
+        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        startWithStations("A;http://a/\rB;http://b/\r");
+        showEditor(true);
+        outlets.popupbuttonRadioList.chosenByUser(2);
+        outlets.tableViewListRadio.selectedByUser(rows, 1);
+        const std::string whileThere = enabled();
+        EXPECT_NE(whileThere.find("1002 "), std::string::npos);
+        EXPECT_NE(whileThere.find("2000 "), std::string::npos);
+        EXPECT_TRUE(outlets.buttonPlayPause.state().isEnabled);
+
+        platform.alerts.expect("<ERASE_ALL_PREVIOUS_DATA>", firstButtonAnswer);
+        platform.files.files["/unreadable.csv"] = "\xFF";
+        platform.filePanels.choice = "/unreadable.csv";
+        outlets.menuRadioImport.chosenByUser();
+        EXPECT_EQ(enabled(), "0 1000 1003 2002 2003 2004 3000 ");
+        for (const ToolbarItem* item : {&outlets.radioEdit, &outlets.radioRemove, &outlets.radioExport})
+            EXPECT_FALSE(item->state().isEnabled) << item->tag();
+        EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
+        EXPECT_FALSE(outlets.popupDefaultButtonListRadio.state().isEnabled);
+        controller.preferencesWindow.setRadioDefault();
+        EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, "B");
+        outlets.tableViewListRadio.doubleClickedByUser();
+        EXPECT_FALSE(outlets.winEditData.isVisible());
+    }
+}
+
+TEST_F(MenusTest, AStreamOfAnErasedListCanBeHeldAndOnceStoppedNotPlayedAgain)
+{
+    startWithStations("A;http://a/\r");
+    outlets.popupbuttonRadioList.chosenByUser(1);
+    outlets.buttonPlayPause.pressedByUser();
+    controller.stationList.listRadio = std::make_shared<StationRecords>();
+    actions.validateItems();
+    for (const bool isPlaying : {false, true}) {
+        outlets.buttonPlayPause.pressedByUser();
+        EXPECT_EQ(controller.player.isPlay, isPlaying);
+    }
+    outlets.buttonStop.pressedByUser();
+    EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
 }
 
 TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)

@@ -72,9 +72,35 @@ TEST_F(StationRemovalTest, RowsLeftOverFromALongerListAreNotRemoved)
     controller.stationRemoval.radioRemoveToList();
     EXPECT_EQ(controller.stationList.numberOfStations(), 2U);
     outlets.tableViewListRadio.selectedByUser({1, 2}, 2);
-    platform.alerts.expect("<REMOVE_ALL_RADIO_SELECTED>", firstButtonAnswer);
+    platform.alerts.expect("<REMOVE_RADIO>", firstButtonAnswer);
     controller.stationRemoval.radioRemoveToList();
     EXPECT_EQ(list(), "A;http://a/\r");
+}
+
+TEST_F(StationRemovalTest, WhatIsSelectedAtTheAnswerGoesAndDecidesAboutTheStop)
+{
+    const struct {
+        IndexSet asked;
+        const char* question;
+        IndexSet answered;
+        const char* left;
+        bool isPlaying;
+    } cases[] = {
+        {{0}, "<REMOVE_RADIO_TO_PLAY>", {0, 1}, "C;http://c/\r", true},
+        {{0}, "<REMOVE_RADIO_TO_PLAY>", {2}, "A;http://a/\rB;http://b/\r", false},
+        {{0}, "<REMOVE_RADIO_TO_PLAY>", {}, "A;http://a/\rB;http://b/\rC;http://c/\r", false},
+        {{0, 1}, "<REMOVE_ALL_RADIO_SELECTED>", {0}, "B;http://b/\rC;http://c/\r", true},
+    };
+    for (const auto& [asked, question, answered, left, isPlaying] : cases) {
+        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
+        outlets.tableViewListRadio.selectedByUser(asked, 0);
+        platform.alerts.expect(question, firstButtonAnswer,
+            [this, rows = answered] { outlets.tableViewListRadio.selectedByUser(rows, -1); });
+        outlets.radioRemove.pressedByUser();
+        EXPECT_EQ(list(), left);
+        EXPECT_EQ(controller.player.isPlay, isPlaying) << left;
+    }
 }
 
 TEST(Placeholders, WhatIsFilledInIsNotExpandedAgain)

@@ -51,7 +51,6 @@ TEST_F(TableViewTest, AReloadIsAlwaysShownAndKeepsOfTheSelectionWhatStillExists)
     EXPECT_EQ(renderings, 1);
     EXPECT_EQ(table.selectedRow(), 8);
     rows = 4;
-    EXPECT_EQ(table.numberOfRows(), 10) << "rows are counted at the reload alone";
     table.reloadData();
     EXPECT_EQ(table.selectedRowIndexes(), IndexSet{1});
     EXPECT_EQ(table.selectedRow(), 1);
@@ -61,6 +60,27 @@ TEST_F(TableViewTest, AReloadIsAlwaysShownAndKeepsOfTheSelectionWhatStillExists)
     rows = 10;
     table.reloadData();
     EXPECT_EQ(table.numberOfSelectedRows(), 0) << "a row that comes back is not selected";
+}
+
+TEST_F(TableViewTest, RowsThatAreGoneAreShownUntilTheReloadAndCountAsNone)
+{
+    table.selectedByUser({1}, 1);
+    table.selectedByUser({1, 3, 4}, 4);
+    table.selectedByUser({1, 3, 4, 8}, 8);
+    const struct {
+        long rows;
+        IndexSet selected;
+        long latest;
+    } cases[] = {
+        {9, {1, 3, 4, 8}, 8}, {8, {1, 3, 4}, 4}, {4, {1, 3}, 3}, {3, {1}, 1}, {1, {}, -1}, {20, {1, 3, 4, 8}, 8}};
+    for (const auto& [present, selected, latest] : cases) {
+        rows = present;
+        EXPECT_EQ(table.numberOfRows(), std::min(present, 10L));
+        EXPECT_EQ(table.selectedRowIndexes(), selected) << present;
+        EXPECT_EQ(table.selectedRow(), latest) << present;
+        EXPECT_EQ(table.state().numberOfRows, 10U) << "shown";
+    }
+    EXPECT_EQ(renderings, 0);
 }
 
 TEST_F(TableViewTest, TheProgramSelectsOnlyRowsThatAreThere)
