@@ -109,6 +109,8 @@ bool StationImport::isToReplaceList() const
 StationImport::Outcome StationImport::appendStations(const Text& text)
 {
     StationRecords& list = *stationList_.listRadio;
+    if (list.empty())
+        outlets_.tableViewListRadio.reloadData(); // rows of the former list must not pass their selection on
     ImportedNames names(list, text.view());
     const auto initialCount = static_cast<std::int64_t>(list.size());
     std::int64_t runningCount = initialCount;

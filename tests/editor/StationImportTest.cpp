@@ -125,17 +125,35 @@ TEST_F(StationImportTest, AFileWithoutStationsLeavesOldRowsThatNothingTripsOver)
         EXPECT_EQ(list(), "");
         EXPECT_EQ(database(), "");
         EXPECT_TRUE(hasRescueCopy());
-        EXPECT_EQ(outlets.tableViewListRadio.numberOfRows(), 2) << "no line, no refresh";
-        EXPECT_EQ(items(), 3);
+        EXPECT_EQ(outlets.tableViewListRadio.state().numberOfRows, 2U) << "no line, no refresh";
+        EXPECT_EQ(outlets.popupbuttonRadioList.state().titles->size(), 3U);
 
-        outlets.radioEdit.pressedByUser();
-        outlets.radioRemove.pressedByUser();
+        controller.editSheet.radioEditToList();
+        controller.stationRemoval.radioRemoveToList();
         outlets.tableViewListRadio.editedByUser("Z", "radio", 0);
         outlets.popupbuttonRadioList.chosenByUser(2);
         EXPECT_EQ(list(), "");
         EXPECT_FALSE(controller.player.isPlay);
         EXPECT_EQ(outlets.winEditData.isVisible(), false);
     }
+}
+
+TEST_F(StationImportTest, NewStationsDoNotInheritTheSelectionOfThoseThatTheyReplace)
+{
+    putPreferences({{"enableMultipleSelection", "YES"}});
+    for (const bool leavesOldRows : {false, true}) {
+        startAnswering("A;http://a/\rB;http://b/\r", firstButtonAnswer);
+        outlets.tableViewListRadio.selectedByUser({0, 1}, 0);
+        if (leavesOldRows)
+            import("\xFF");
+        import("C;http://c/\rD;http://d/\rE;http://e/\r");
+        EXPECT_EQ(outlets.tableViewListRadio.state().numberOfRows, 3U);
+        EXPECT_TRUE(outlets.tableViewListRadio.state().selectedRowIndexes.isEmpty());
+    }
+    startAnswering("A;http://a/\rB;http://b/\r", secondButtonAnswer);
+    outlets.tableViewListRadio.selectedByUser({1}, 1);
+    import("C;http://c/\r");
+    EXPECT_EQ(outlets.tableViewListRadio.selectedRow(), 1) << "stations that stay keep it";
 }
 
 TEST_F(StationImportTest, TheCountLimitStopsBeforeTheNextLineWhateverItIs)
