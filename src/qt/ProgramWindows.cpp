@@ -64,7 +64,6 @@ void ProgramWindows::buildStationListWindow()
             [path](WinSonavelController& controller) { controller.stationImport.importRadioListFromFileAtPath(path); });
     });
     auto* sheet = new EditSheetDialog(window);
-    menus_->addKeysTo(*sheet);
     connectEditSheet(outlets_, *sheet);
 }
 

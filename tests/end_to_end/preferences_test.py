@@ -155,6 +155,25 @@ class PreferencesTest(unittest.TestCase):
         self.desk.keys("Escape", "Escape")
         self.quit(program)
 
+    def test_each_window_opens_menus_of_its_own(self):
+        program = self.start()
+        self.desk.keys("ctrl+e")
+        for title, place in (("Sonavel", (20, 40)), ("Station List.*", (400, 300))):
+            subprocess.run(["xdotool", "windowmove", "--sync", str(self.desk.window(title)), *map(str, place)],
+                           env=self.desk.environment, check=True)
+        frames = [program.find(self.Role.FRAME, self.desk.window_title(title)) for title in ("Sonavel", "Station List.*")]
+        for frame in 2 * frames:
+            bar = frame.children(self.Role.MENU_BAR)[0]
+            menu = self.accessibility.Control(bar.node.get_child_at_index(1))
+            for opening in (lambda: menu.node.do_action(0), lambda: self.desk.click(menu)):
+                opening()
+                item = program.find(self.Role.MENU_ITEM, "Mute")
+                x, y = (there - here for there, here in zip(item.center, frame.center))
+                self.assertTrue(abs(x) < 250 and abs(y) < 250, (frame.name, x, y))
+                self.desk.keys("Escape", "Escape")
+                self.wait_gone(program, self.Role.MENU_ITEM, "Mute")
+        self.quit(program)
+
     def check_for_updates(self, program):
         """From the first menu, with the keyboard."""
         self.desk.activate("Sonavel")

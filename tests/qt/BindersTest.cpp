@@ -243,8 +243,10 @@ TEST(WindowBinding, ClosingAsksTheProgramAndHidesNothing)
     widget.close();
     EXPECT_TRUE(widget.isVisible());
     EXPECT_EQ(requests, 1);
+    EXPECT_TRUE(handleEventsUntil([&] { return window.isKeyWindow(); }));
     window.setIsVisible(false);
     EXPECT_FALSE(widget.isVisible());
+    EXPECT_FALSE(window.isKeyWindow());
 }
 
 TEST(Connecting, AMissingOrMistakenWidgetIsNamed)

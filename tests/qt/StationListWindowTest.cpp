@@ -7,13 +7,16 @@
 #include "qt/windows/EditSheetDialog.h"
 #include "qt/windows/FindField.h"
 #include "qt/windows/ProgramMenus.h"
+#include "qt/windows/StationComboBox.h"
 #include "qt/windows/StationTable.h"
 #include "qt/windows/StatusLine.h"
 #include "qt/windows/WindowMemory.h"
+#include "ui_AboutWindow.h"
 
 #include <QDropEvent>
 #include <QFile>
 #include <QHeaderView>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
@@ -35,7 +38,6 @@ protected:
     {
         outlets.tableViewListRadio.setDataSource(&rows);
         menus.addTo(window);
-        menus.addKeysTo(sheet);
         connectMenus(outlets, menus);
         connectStationListWindow(outlets, window);
         connectEditSheet(outlets, sheet);
@@ -248,11 +250,12 @@ TEST_F(StationListWindowTest, TheSheetOpensWithTheFocusInNeitherFieldEveryTime)
     }
 }
 
-TEST_F(StationListWindowTest, ReturnConfirmsAndEscapeAndTheTitleBarCancel)
+TEST_F(StationListWindowTest, ReturnConfirmsAndEscapeTheTitleBarAndCtrlWClose)
 {
-    QStringList pressed;
-    outlets.buttonAction.action.set([&] { pressed << "confirm"; });
-    outlets.buttonCancel.action.set([&] { pressed << "cancel"; });
+    QStringList asked;
+    outlets.buttonAction.action.set([&] { asked << "confirm"; });
+    outlets.buttonCancel.action.set([&] { asked << "cancel"; });
+    outlets.winEditData.action.set([&] { asked << "close"; });
     openSheet();
     auto& name = child<QLineEdit>(sheet, "textFieldRadioName");
     QTest::keyClick(&sheet, Qt::Key_Return);
@@ -260,7 +263,10 @@ TEST_F(StationListWindowTest, ReturnConfirmsAndEscapeAndTheTitleBarCancel)
     QTest::keyClick(&name, Qt::Key_Return);
     QTest::keyClick(&name, Qt::Key_Escape);
     sheet.close();
-    EXPECT_EQ(pressed.join(' '), "confirm confirm cancel cancel");
+    QTest::keyClick(&name, Qt::Key_W, Qt::ControlModifier);
+    QApplication::processEvents();
+    child<QPushButton>(sheet, "buttonCancel").click();
+    EXPECT_EQ(asked.join(' '), "confirm confirm close close close cancel");
     EXPECT_TRUE(sheet.isVisible()) << "only the program closes it";
 }
 
@@ -316,6 +322,42 @@ TEST_F(StationListWindowTest, KeysOfTheMenusDoNotDisturbTyping)
     EXPECT_EQ(chosen.join(' '), "play next play");
 }
 
+TEST_F(StationListWindowTest, AKeyIsHeardOnceInWhicheverWindowIsActive)
+{
+    QStringList heard;
+    outlets.menuMute.action.set([&] { heard << "mute"; });
+    outlets.winWebRadioListEdit.action.set([&] { heard << "close list"; });
+    outlets.winAbout.action.set([&] { heard << "close dialog"; });
+    QMainWindow other;
+    menus.addTo(other);
+    StationComboBox box(&other);
+    box.addItem(QStringLiteral("Station"));
+    const auto dialog = ProgramDialog::from<Ui::AboutWindow>();
+    connectAboutWindow(outlets, *dialog);
+    const auto press = [&](QWidget& active, QWidget& receiver, Qt::Key key) {
+        active.show();
+        active.activateWindow();
+        ASSERT_TRUE(handleEventsUntil([&] { return active.isActiveWindow(); }));
+        QTest::keyClick(&receiver, key, Qt::ControlModifier);
+        QApplication::processEvents();
+        heard << "|";
+    };
+    for (QWidget* active : std::initializer_list<QWidget*>{&window, &other, dialog.get()})
+        press(*active, *active, Qt::Key_M);
+    QMenu& open = *other.menuBar()->actions().at(0)->menu();
+    other.activateWindow();
+    open.popup({});
+    QTest::keyClick(&open, Qt::Key_M, Qt::ControlModifier);
+    open.hide();
+    box.showPopup();
+    QTest::keyClick(box.view(), Qt::Key_M, Qt::ControlModifier);
+    box.hidePopup();
+    for (QWidget* active : std::initializer_list<QWidget*>{&other, dialog.get(), &window})
+        press(*active, *active, Qt::Key_W);
+    EXPECT_FALSE(other.isVisible());
+    EXPECT_EQ(heard.join(' '), "mute | mute | mute | mute mute | close dialog | close list |");
+}
+
 TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
 {
     bool isChosen = false;
@@ -329,7 +371,6 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
     main.show();
     main.activateWindow();
     ASSERT_TRUE(handleEventsUntil([&] { return main.isActiveWindow(); }));
-    action(&Outlets::menuMute).setShortcuts({});
     QApplication::processEvents();
     others.menuMute.setEnabled(false);
     QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
@@ -366,7 +407,11 @@ TEST_F(StationListWindowTest, AMenuTitleFromTheProgramIsShownAsItIs)
 {
     EXPECT_EQ(outlets.menuRadioAdd.state().title, Text("Add…"));
     outlets.menuRadioShowEditRadio.setTitle("Close R&B");
-    EXPECT_EQ(action(&Outlets::menuRadioShowEditRadio).text(), "Close R&&B");
+    outlets.menuRadioShowEditRadio.setEnabled(false);
+    const QAction& shown = *window.menuBar()->actions().at(2)->menu()->actions().constFirst();
+    EXPECT_EQ(shown.text(), "Close R&&B");
+    EXPECT_FALSE(shown.isEnabled());
+    EXPECT_EQ(shown.shortcut(), QKeySequence("Ctrl+E"));
     EXPECT_EQ(outlets.menuRadioShowEditRadio.tag(), 1003);
     EXPECT_EQ(action(&Outlets::menuRadioAdd).text(), "&Add…");
 }

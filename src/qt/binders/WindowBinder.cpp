@@ -2,7 +2,6 @@
 
 #include "qt/kit/TextConversion.h"
 
-#include <QDialog>
 #include <QEvent>
 
 namespace sonavel {
@@ -36,28 +35,18 @@ bool WindowBinder::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::Close:
         event->ignore();
-        askToClose();
+        window_.closeRequestedByUser();
         return true;
     case QEvent::WindowActivate:
         window_.keyWindowChangedByUser(true);
         break;
-    case QEvent::WindowDeactivate:
-    case QEvent::Hide:
+    case QEvent::WindowDeactivate: // comes ahead of hiding, too
         window_.keyWindowChangedByUser(false);
         break;
     default:
         break;
     }
     return QObject::eventFilter(watched, event);
-}
-
-/// A dialog's title bar answers as its Escape key does.
-void WindowBinder::askToClose()
-{
-    if (auto* dialog = qobject_cast<QDialog*>(&widget_))
-        dialog->reject();
-    else
-        window_.closeRequestedByUser();
 }
 
 void WindowBinder::render(const WindowState& state)

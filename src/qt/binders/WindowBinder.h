@@ -8,8 +8,8 @@
 namespace sonavel {
 
 /// Renders title and visibility, opens a sheet so that it blocks its parent alone, and reports which window has the
-/// keyboard. The user's wish to close the window is reported, to a dialog as its rejection, and the window stays until
-/// the program hides it. Lives as long as the widget; the window must live longer.
+/// keyboard. The user's wish to close the window is reported, and the window stays until the program hides it. Lives as
+/// long as the widget; the window must live longer.
 class WindowBinder : public QObject {
 public:
     WindowBinder(Window& window, QWidget& widget);
@@ -18,7 +18,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void askToClose();
     void render(const WindowState& state);
 
     Window& window_;

@@ -15,14 +15,6 @@ constexpr double headlineSize = 1.25; // times the usual size of the font
 
 } // namespace
 
-void ProgramDialog::reject()
-{
-    for (auto* button : findChildren<QAbstractButton*>()) {
-        if (button->property("endsDialog").toBool())
-            button->click();
-    }
-}
-
 void ProgramDialog::takeShape()
 {
     arrangeButtons();
@@ -36,8 +28,7 @@ void ProgramDialog::arrangeButtons()
     if (box == nullptr)
         return;
     for (auto* button : findChildren<QPushButton*>())
-        box->addButton(button,
-            button->property("endsDialog").toBool() ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole);
+        box->addButton(button, button->isDefault() ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole);
 }
 
 /// All distances follow the font.

@@ -8,8 +8,8 @@
 namespace sonavel {
 
 /// Built from its description, whose object names are the names of the outlets. Shown and hidden by the program: Return
-/// presses its default button, Escape and the title bar the button whose property `endsDialog` is set, and nothing else
-/// ends it. Buttons beside a button box are put into it.
+/// presses its default button, and Escape asks to close it as the title bar does. Buttons beside a button box are put
+/// into it: the default button accepts, the others reject.
 class ProgramDialog : public QDialog {
 public:
     explicit ProgramDialog(QWidget* owner = nullptr)
@@ -26,7 +26,7 @@ public:
         return dialog;
     }
 
-    void reject() override;
+    void reject() override { close(); }
 
 protected:
     /// To be called once the description was set up, before the dialog is resized.

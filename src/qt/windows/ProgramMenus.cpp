@@ -1,14 +1,15 @@
 #include "qt/windows/ProgramMenus.h"
 
+#include "qt/windows/ProgramDialog.h"
 #include "ui/Outlets.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 
@@ -16,21 +17,21 @@ namespace sonavel {
 
 namespace {
 
-struct Item {
+struct Entry {
     MenuItem Outlets::*outlet; ///< null for a line between items
     const char* title = nullptr;
     QList<QKeySequence> keys = {};
 };
 
 struct Menu {
-    const char* title = nullptr;
-    QList<Item> items = {};
+    const char* title;
+    QList<Entry> entries;
 };
 
-std::array<Menu, 3> layout()
+const QList<Menu>& layout()
 {
-    return {
-        Menu{"MENU_SONAVEL",
+    static const QList<Menu> menus{
+        {"MENU_SONAVEL",
             {{&Outlets::menuAbout, "MENU_ABOUT"}, {&Outlets::menuCheckUpdates, "MENU_CHECK_UPDATES"}, {nullptr},
                 {&Outlets::menuPreferences, "MENU_PREFERENCES", {Qt::CTRL | Qt::Key_Comma}}, {nullptr},
                 {&Outlets::menuQuit, "MENU_QUIT", {Qt::CTRL | Qt::Key_Q}}}},
@@ -47,6 +48,21 @@ std::array<Menu, 3> layout()
                 {&Outlets::menuRadioImport, "MENU_IMPORT", {Qt::CTRL | Qt::Key_I}},
                 {&Outlets::menuRadioExport, "MENU_EXPORT", {Qt::CTRL | Qt::SHIFT | Qt::Key_E}}}},
     };
+    return menus;
+}
+
+void addItem(QMenu& menu, QAction& item)
+{
+    QAction* inWindow = menu.addAction(item.text());
+    inWindow->setShortcuts(item.shortcuts());
+    inWindow->setAutoRepeat(false);
+    const auto follow = [&item, inWindow] {
+        inWindow->setText(item.text());
+        inWindow->setEnabled(item.isEnabled());
+    };
+    follow();
+    QObject::connect(&item, &QAction::changed, inWindow, follow);
+    QObject::connect(inWindow, &QAction::triggered, &item, &QAction::trigger);
 }
 
 /// A field in which the user types keeps the key for itself.
@@ -56,6 +72,12 @@ bool takesSpace(const QWidget& widget)
         || qobject_cast<const QComboBox*>(&widget) != nullptr
         || qobject_cast<const QAbstractItemView*>(&widget) != nullptr
         || qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const QMenuBar*>(&widget) != nullptr;
+}
+
+void closeActiveWindow()
+{
+    if (QWidget* window = QApplication::activeWindow())
+        window->close();
 }
 
 bool isPlainSpace(const QKeyEvent& event)
@@ -68,33 +90,26 @@ bool isPlainSpace(const QKeyEvent& event)
 ProgramMenus::ProgramMenus(std::function<void()> validate)
     : validate_(std::move(validate))
 {
-    const auto contents = layout();
-    for (std::size_t index = 0; index < menus_.size(); ++index) {
-        QMenu& menu = menus_.at(index);
-        menu.setTitle(qtTrId(contents.at(index).title));
-        for (const auto& item : contents.at(index).items)
-            addItem(menu, item.outlet, item.title, item.keys);
-        connect(&menu, &QMenu::aboutToShow, this, [this] { validate_(); });
+    for (const Menu& menu : layout()) {
+        for (const Entry& entry : menu.entries) {
+            if (entry.outlet == nullptr)
+                continue;
+            auto* action = new QAction(qtTrId(entry.title), this);
+            action->setShortcuts(entry.keys);
+            action->setAutoRepeat(false);
+            items_.emplace_back(entry.outlet, action);
+        }
     }
+    closing_.setShortcut(Qt::CTRL | Qt::Key_W);
+    connect(
+        &closing_, &QAction::triggered, this, [] { closeActiveWindow(); }, Qt::QueuedConnection);
     QApplication::instance()->installEventFilter(this);
-}
-
-void ProgramMenus::addItem(QMenu& menu, MenuItem Outlets::*outlet, const char* title, const QList<QKeySequence>& keys)
-{
-    if (outlet == nullptr) {
-        menu.addSeparator();
-        return;
-    }
-    QAction* action = menu.addAction(qtTrId(title));
-    action->setShortcuts(keys);
-    action->setShortcutContext(Qt::ApplicationShortcut);
-    action->setAutoRepeat(false);
-    items_.emplace_back(outlet, action);
 }
 
 void ProgramMenus::addTo(QMainWindow& window)
 {
     addTo(*window.menuBar());
+    window.addAction(&closing_);
 }
 
 void ProgramMenus::addTo(QDialog& sheet)
@@ -102,18 +117,30 @@ void ProgramMenus::addTo(QDialog& sheet)
     auto* bar = new QMenuBar(&sheet);
     addTo(*bar);
     sheet.layout()->setMenuBar(bar);
+    sheet.addAction(&closing_);
 }
 
 void ProgramMenus::addTo(QMenuBar& bar)
 {
-    for (QMenu& menu : menus_)
-        bar.addMenu(&menu);
+    auto item = items_.begin();
+    for (const Menu& menu : layout()) {
+        QMenu& shown = *bar.addMenu(qtTrId(menu.title));
+        shown.setFocusProxy(&bar); // the keys of the window go on working while it is open
+        connect(&shown, &QMenu::aboutToShow, this, [this] { validate_(); });
+        for (const Entry& entry : menu.entries) {
+            if (entry.outlet == nullptr)
+                shown.addSeparator();
+            else
+                addItem(shown, *(item++)->second);
+        }
+    }
 }
 
-void ProgramMenus::addKeysTo(QWidget& sheet)
+void ProgramMenus::addKeysTo(QWidget& window)
 {
-    for (const QMenu& menu : menus_)
-        sheet.addActions(menu.actions());
+    window.addAction(&closing_);
+    for (const auto& [outlet, action] : items_)
+        window.addAction(action);
 }
 
 /// A disabled action asks nobody before its key is matched, so the moment before is the time to enable it.
@@ -121,7 +148,9 @@ bool ProgramMenus::eventFilter(QObject* watched, QEvent* event)
 {
     if (!watched->isWidgetType())
         return false;
-    const auto& widget = *static_cast<QWidget*>(watched);
+    auto& widget = *static_cast<QWidget*>(watched);
+    if (event->type() == QEvent::Show && dynamic_cast<ProgramDialog*>(&widget) && widget.layout()->menuBar() == nullptr)
+        addKeysTo(widget);
     if (event->type() == QEvent::WindowActivate && widget.isWindow())
         QMetaObject::invokeMethod(this, validate_, Qt::QueuedConnection); // once the program knows of it
     if (event->type() != QEvent::ShortcutOverride)

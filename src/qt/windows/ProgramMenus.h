@@ -3,9 +3,7 @@
 
 #include <QAction>
 #include <QMainWindow>
-#include <QMenu>
 
-#include <array>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -18,8 +16,9 @@ namespace sonavel {
 class MenuItem;
 struct Outlets;
 
-/// One action per item, shared by all menu bars, so that its key is known once to the whole application. Keys that a
-/// control needs stay with it: Space, where it presses or types, and whatever edits a text.
+/// One action for each item, and for each window items of its own that look like it and choose it. A key works in the
+/// active window, which Ctrl+W closes. Keys that a control needs stay with it: Space, where it presses or types, and
+/// whatever edits a text.
 class ProgramMenus : public QObject {
 public:
     using Item = std::pair<MenuItem Outlets::*, QAction*>;
@@ -31,20 +30,19 @@ public:
     void addTo(QMainWindow& window);
     /// For a sheet that leaves the menus usable, though it blocks the window that has them otherwise.
     void addTo(QDialog& sheet);
-    /// The keys alone, for a sheet beside which another window has the menus.
-    void addKeysTo(QWidget& sheet);
 
     [[nodiscard]] const std::vector<Item>& items() const { return items_; }
 
+    /// Gives a dialog of the program that has no menus their keys when it is shown.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addItem(QMenu& menu, MenuItem Outlets::*outlet, const char* title, const QList<QKeySequence>& keys);
     void addTo(QMenuBar& bar);
+    void addKeysTo(QWidget& window);
 
     std::function<void()> validate_;
-    std::array<QMenu, 3> menus_;
     std::vector<Item> items_;
+    QAction closing_;
 };
 
 } // namespace sonavel

@@ -62,6 +62,7 @@ StationComboBox::StationComboBox(QWidget* parent)
     list->setTextElideMode(Qt::ElideRight);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setView(list);
+    list->window()->setFocusProxy(this); // the keys of the window go on working while the list is open
     setItemDelegate(new AiryItemDelegate(this));
     setMaxVisibleItems(visibleItems);
 }
