@@ -395,13 +395,13 @@
         <source>Paused</source>
         <translation>Angehalten</translation>
     </message>
-    <message id="NOW_PLAYING_RECONNECTING">
-        <source>Reconnecting in %li s</source>
-        <translation>Neuer Versuch in %li s</translation>
+    <message id="NOW_PLAYING_TRYING_IN">
+        <source>%@. Trying again in %li s</source>
+        <translation>%@. Erneut in %li s</translation>
     </message>
-    <message id="NOW_PLAYING_FAILED">
-        <source>Cannot be played: %@</source>
-        <translation>Nicht abspielbar: %@</translation>
+    <message id="NOW_PLAYING_TRYING">
+        <source>%@. Trying again…</source>
+        <translation>%@. Neuer Versuch…</translation>
     </message>
     <message id="NOTICE_STATIONS_NOT_SAVED">
         <source>The station list could not be saved: %@</source>
@@ -432,64 +432,68 @@
         <translation>Warten auf %@…</translation>
     </message>
     <message id="FAILURE_UNKNOWN">
-        <source>it does not say why</source>
-        <translation>Grund unbekannt</translation>
+        <source>Cannot be played</source>
+        <translation>Nicht abspielbar</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
-        <source>no such host</source>
-        <translation>kein solcher Server</translation>
+        <source>No such server</source>
+        <translation>Server unbekannt</translation>
     </message>
     <message id="FAILURE_REFUSED">
-        <source>connection refused</source>
+        <source>Connection refused</source>
         <translation>Verbindung abgelehnt</translation>
     </message>
     <message id="FAILURE_UNREACHABLE">
-        <source>the host cannot be reached</source>
+        <source>Server unreachable</source>
         <translation>Server nicht erreichbar</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
-        <source>no answer in time</source>
-        <translation>keine Antwort</translation>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
-        <source>the server’s certificate is not trusted</source>
-        <translation>kein gültiges Zertifikat</translation>
+        <source>Invalid certificate</source>
+        <translation>Kein gültiges Zertifikat</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
-        <source>no stream at this address</source>
-        <translation>dort ist kein Stream</translation>
+        <source>404 Not Found</source>
+        <translation>404 Nicht gefunden</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
-        <source>the server does not allow it</source>
-        <translation>vom Server nicht erlaubt</translation>
+        <source>Access denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message id="FAILURE_REJECTED">
+        <source>Request rejected</source>
+        <translation>Anfrage zurückgewiesen</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
-        <source>the server has a fault</source>
+        <source>Server error</source>
         <translation>Fehler beim Server</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
-        <source>not a stream</source>
-        <translation>kein Stream</translation>
+        <source>Not a stream</source>
+        <translation>Kein Stream</translation>
     </message>
     <message id="FAILURE_NOT_USABLE">
-        <source>not an address that can be played</source>
-        <translation>keine nutzbare Adresse</translation>
+        <source>Unusable address</source>
+        <translation>Keine nutzbare Adresse</translation>
     </message>
     <message id="FAILURE_ENDED">
-        <source>the stream has ended</source>
-        <translation>der Stream ist zu Ende</translation>
+        <source>Stream ended</source>
+        <translation>Der Stream ist zu Ende</translation>
     </message>
     <message id="FAILURE_SILENT">
-        <source>the stream fell silent</source>
-        <translation>der Stream verstummte</translation>
+        <source>Stream is silent</source>
+        <translation>Der Stream ist stumm</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
-        <source>no sound output</source>
-        <translation>keine Tonausgabe</translation>
+        <source>No sound output</source>
+        <translation>Keine Tonausgabe</translation>
     </message>
     <message id="FAILURE_ENGINE_FAILED">
-        <source>the sound engine does not run</source>
-        <translation>Tonprogramm läuft nicht</translation>
+        <source>Sound engine failed</source>
+        <translation>Tonprogramm ausgefallen</translation>
     </message>
 </context>
 </TS>

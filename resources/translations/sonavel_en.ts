@@ -395,13 +395,13 @@
         <source>Paused</source>
         <translation>Paused</translation>
     </message>
-    <message id="NOW_PLAYING_RECONNECTING">
-        <source>Reconnecting in %li s</source>
-        <translation>Reconnecting in %li s</translation>
+    <message id="NOW_PLAYING_TRYING_IN">
+        <source>%@. Trying again in %li s</source>
+        <translation>%@. Trying again in %li s</translation>
     </message>
-    <message id="NOW_PLAYING_FAILED">
-        <source>Cannot be played: %@</source>
-        <translation>Cannot be played: %@</translation>
+    <message id="NOW_PLAYING_TRYING">
+        <source>%@. Trying again…</source>
+        <translation>%@. Trying again…</translation>
     </message>
     <message id="NOTICE_STATIONS_NOT_SAVED">
         <source>The station list could not be saved: %@</source>
@@ -432,64 +432,68 @@
         <translation>Waiting for %@…</translation>
     </message>
     <message id="FAILURE_UNKNOWN">
-        <source>it does not say why</source>
-        <translation>it does not say why</translation>
+        <source>Cannot be played</source>
+        <translation>Cannot be played</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
-        <source>no such host</source>
-        <translation>no such host</translation>
+        <source>No such server</source>
+        <translation>No such server</translation>
     </message>
     <message id="FAILURE_REFUSED">
-        <source>connection refused</source>
-        <translation>connection refused</translation>
+        <source>Connection refused</source>
+        <translation>Connection refused</translation>
     </message>
     <message id="FAILURE_UNREACHABLE">
-        <source>host unreachable</source>
-        <translation>host unreachable</translation>
+        <source>Server unreachable</source>
+        <translation>Server unreachable</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
-        <source>no answer in time</source>
-        <translation>no answer in time</translation>
+        <source>No answer</source>
+        <translation>No answer</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
-        <source>no valid certificate</source>
-        <translation>no valid certificate</translation>
+        <source>Invalid certificate</source>
+        <translation>Invalid certificate</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
-        <source>no stream there</source>
-        <translation>no stream there</translation>
+        <source>404 Not Found</source>
+        <translation>404 Not Found</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
-        <source>the server forbids it</source>
-        <translation>the server forbids it</translation>
+        <source>Access denied</source>
+        <translation>Access denied</translation>
+    </message>
+    <message id="FAILURE_REJECTED">
+        <source>Request rejected</source>
+        <translation>Request rejected</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
-        <source>the server has a fault</source>
-        <translation>the server has a fault</translation>
+        <source>Server error</source>
+        <translation>Server error</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
-        <source>not a stream</source>
-        <translation>not a stream</translation>
+        <source>Not a stream</source>
+        <translation>Not a stream</translation>
     </message>
     <message id="FAILURE_NOT_USABLE">
-        <source>no usable address</source>
-        <translation>no usable address</translation>
+        <source>Unusable address</source>
+        <translation>Unusable address</translation>
     </message>
     <message id="FAILURE_ENDED">
-        <source>the stream has ended</source>
-        <translation>the stream has ended</translation>
+        <source>Stream ended</source>
+        <translation>Stream ended</translation>
     </message>
     <message id="FAILURE_SILENT">
-        <source>the stream fell silent</source>
-        <translation>the stream fell silent</translation>
+        <source>Stream is silent</source>
+        <translation>Stream is silent</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
-        <source>no sound output</source>
-        <translation>no sound output</translation>
+        <source>No sound output</source>
+        <translation>No sound output</translation>
     </message>
     <message id="FAILURE_ENGINE_FAILED">
-        <source>no sound engine</source>
-        <translation>no sound engine</translation>
+        <source>Sound engine failed</source>
+        <translation>Sound engine failed</translation>
     </message>
 </context>
 </TS>

@@ -395,13 +395,13 @@
         <source>Paused</source>
         <translation>En pausa</translation>
     </message>
-    <message id="NOW_PLAYING_RECONNECTING">
-        <source>Reconnecting in %li s</source>
-        <translation>Nuevo intento en %li s</translation>
+    <message id="NOW_PLAYING_TRYING_IN">
+        <source>%@. Trying again in %li s</source>
+        <translation>%@. Reintento en %li s</translation>
     </message>
-    <message id="NOW_PLAYING_FAILED">
-        <source>Cannot be played: %@</source>
-        <translation>No se puede reproducir: %@</translation>
+    <message id="NOW_PLAYING_TRYING">
+        <source>%@. Trying again…</source>
+        <translation>%@. Reintentando…</translation>
     </message>
     <message id="NOTICE_STATIONS_NOT_SAVED">
         <source>The station list could not be saved: %@</source>
@@ -432,64 +432,68 @@
         <translation>Esperando a %@…</translation>
     </message>
     <message id="FAILURE_UNKNOWN">
-        <source>it does not say why</source>
-        <translation>motivo desconocido</translation>
+        <source>Cannot be played</source>
+        <translation>No reproducible</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
-        <source>no such host</source>
-        <translation>servidor inexistente</translation>
+        <source>No such server</source>
+        <translation>Servidor inexistente</translation>
     </message>
     <message id="FAILURE_REFUSED">
-        <source>connection refused</source>
-        <translation>conexión rechazada</translation>
+        <source>Connection refused</source>
+        <translation>Conexión rechazada</translation>
     </message>
     <message id="FAILURE_UNREACHABLE">
-        <source>the host cannot be reached</source>
-        <translation>servidor inaccesible</translation>
+        <source>Server unreachable</source>
+        <translation>Servidor inaccesible</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
-        <source>no answer in time</source>
-        <translation>sin respuesta</translation>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
-        <source>the server’s certificate is not trusted</source>
-        <translation>certificado no válido</translation>
+        <source>Invalid certificate</source>
+        <translation>Certificado no válido</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
-        <source>no stream at this address</source>
-        <translation>allí no hay emisión</translation>
+        <source>404 Not Found</source>
+        <translation>404 No encontrado</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
-        <source>the server does not allow it</source>
-        <translation>lo niega el servidor</translation>
+        <source>Access denied</source>
+        <translation>Acceso denegado</translation>
+    </message>
+    <message id="FAILURE_REJECTED">
+        <source>Request rejected</source>
+        <translation>Petición rechazada</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
-        <source>the server has a fault</source>
-        <translation>fallo del servidor</translation>
+        <source>Server error</source>
+        <translation>Error del servidor</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
-        <source>not a stream</source>
-        <translation>no es una emisión</translation>
+        <source>Not a stream</source>
+        <translation>No es una emisión</translation>
     </message>
     <message id="FAILURE_NOT_USABLE">
-        <source>not an address that can be played</source>
-        <translation>dirección no válida</translation>
+        <source>Unusable address</source>
+        <translation>Dirección no válida</translation>
     </message>
     <message id="FAILURE_ENDED">
-        <source>the stream has ended</source>
-        <translation>emisión terminada</translation>
+        <source>Stream ended</source>
+        <translation>Emisión terminada</translation>
     </message>
     <message id="FAILURE_SILENT">
-        <source>the stream fell silent</source>
-        <translation>emisión en silencio</translation>
+        <source>Stream is silent</source>
+        <translation>Emisión en silencio</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
-        <source>no sound output</source>
-        <translation>sin salida de sonido</translation>
+        <source>No sound output</source>
+        <translation>Sin salida de sonido</translation>
     </message>
     <message id="FAILURE_ENGINE_FAILED">
-        <source>the sound engine does not run</source>
-        <translation>sin motor de sonido</translation>
+        <source>Sound engine failed</source>
+        <translation>Sin motor de sonido</translation>
     </message>
 </context>
 </TS>

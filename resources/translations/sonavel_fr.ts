@@ -395,13 +395,13 @@
         <source>Paused</source>
         <translation>En pause</translation>
     </message>
-    <message id="NOW_PLAYING_RECONNECTING">
-        <source>Reconnecting in %li s</source>
-        <translation>Nouvel essai dans %li s</translation>
+    <message id="NOW_PLAYING_TRYING_IN">
+        <source>%@. Trying again in %li s</source>
+        <translation>%@. Réessai dans %li s</translation>
     </message>
-    <message id="NOW_PLAYING_FAILED">
-        <source>Cannot be played: %@</source>
-        <translation>Lecture impossible : %@</translation>
+    <message id="NOW_PLAYING_TRYING">
+        <source>%@. Trying again…</source>
+        <translation>%@. Réessai…</translation>
     </message>
     <message id="NOTICE_STATIONS_NOT_SAVED">
         <source>The station list could not be saved: %@</source>
@@ -432,64 +432,68 @@
         <translation>En attente de %@…</translation>
     </message>
     <message id="FAILURE_UNKNOWN">
-        <source>it does not say why</source>
-        <translation>raison inconnue</translation>
+        <source>Cannot be played</source>
+        <translation>Lecture impossible</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
-        <source>no such host</source>
-        <translation>serveur inconnu</translation>
+        <source>No such server</source>
+        <translation>Serveur inconnu</translation>
     </message>
     <message id="FAILURE_REFUSED">
-        <source>connection refused</source>
-        <translation>connexion refusée</translation>
+        <source>Connection refused</source>
+        <translation>Connexion refusée</translation>
     </message>
     <message id="FAILURE_UNREACHABLE">
-        <source>the host cannot be reached</source>
-        <translation>serveur injoignable</translation>
+        <source>Server unreachable</source>
+        <translation>Serveur injoignable</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
-        <source>no answer in time</source>
-        <translation>pas de réponse</translation>
+        <source>No answer</source>
+        <translation>Pas de réponse</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
-        <source>the server’s certificate is not trusted</source>
-        <translation>certificat non valable</translation>
+        <source>Invalid certificate</source>
+        <translation>Certificat non valide</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
-        <source>no stream at this address</source>
-        <translation>aucun flux là-bas</translation>
+        <source>404 Not Found</source>
+        <translation>404 Introuvable</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
-        <source>the server does not allow it</source>
-        <translation>refusé par le serveur</translation>
+        <source>Access denied</source>
+        <translation>Accès refusé</translation>
+    </message>
+    <message id="FAILURE_REJECTED">
+        <source>Request rejected</source>
+        <translation>Demande rejetée</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
-        <source>the server has a fault</source>
-        <translation>panne du serveur</translation>
+        <source>Server error</source>
+        <translation>Erreur du serveur</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
-        <source>not a stream</source>
-        <translation>ce n’est pas un flux</translation>
+        <source>Not a stream</source>
+        <translation>Pas un flux audio</translation>
     </message>
     <message id="FAILURE_NOT_USABLE">
-        <source>not an address that can be played</source>
-        <translation>adresse inutilisable</translation>
+        <source>Unusable address</source>
+        <translation>Adresse inutilisable</translation>
     </message>
     <message id="FAILURE_ENDED">
-        <source>the stream has ended</source>
-        <translation>le flux est terminé</translation>
+        <source>Stream ended</source>
+        <translation>Le flux est terminé</translation>
     </message>
     <message id="FAILURE_SILENT">
-        <source>the stream fell silent</source>
-        <translation>flux devenu muet</translation>
+        <source>Stream is silent</source>
+        <translation>Le flux est muet</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
-        <source>no sound output</source>
-        <translation>aucune sortie audio</translation>
+        <source>No sound output</source>
+        <translation>Aucune sortie audio</translation>
     </message>
     <message id="FAILURE_ENGINE_FAILED">
-        <source>the sound engine does not run</source>
-        <translation>moteur audio en panne</translation>
+        <source>Sound engine failed</source>
+        <translation>Moteur audio arrêté</translation>
     </message>
 </context>
 </TS>

@@ -395,13 +395,13 @@
         <source>Paused</source>
         <translation>In pausa</translation>
     </message>
-    <message id="NOW_PLAYING_RECONNECTING">
-        <source>Reconnecting in %li s</source>
-        <translation>Nuovo tentativo tra %li s</translation>
+    <message id="NOW_PLAYING_TRYING_IN">
+        <source>%@. Trying again in %li s</source>
+        <translation>%@. Riprovo tra %li s</translation>
     </message>
-    <message id="NOW_PLAYING_FAILED">
-        <source>Cannot be played: %@</source>
-        <translation>Non riproducibile: %@</translation>
+    <message id="NOW_PLAYING_TRYING">
+        <source>%@. Trying again…</source>
+        <translation>%@. Riprovo…</translation>
     </message>
     <message id="NOTICE_STATIONS_NOT_SAVED">
         <source>The station list could not be saved: %@</source>
@@ -432,64 +432,68 @@
         <translation>In attesa di %@…</translation>
     </message>
     <message id="FAILURE_UNKNOWN">
-        <source>it does not say why</source>
-        <translation>motivo sconosciuto</translation>
+        <source>Cannot be played</source>
+        <translation>Non riproducibile</translation>
     </message>
     <message id="FAILURE_NO_SUCH_HOST">
-        <source>no such host</source>
-        <translation>server inesistente</translation>
+        <source>No such server</source>
+        <translation>Server inesistente</translation>
     </message>
     <message id="FAILURE_REFUSED">
-        <source>connection refused</source>
-        <translation>connessione rifiutata</translation>
+        <source>Connection refused</source>
+        <translation>Connessione rifiutata</translation>
     </message>
     <message id="FAILURE_UNREACHABLE">
-        <source>the host cannot be reached</source>
-        <translation>server irraggiungibile</translation>
+        <source>Server unreachable</source>
+        <translation>Server irraggiungibile</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
-        <source>no answer in time</source>
-        <translation>nessuna risposta</translation>
+        <source>No answer</source>
+        <translation>Nessuna risposta</translation>
     </message>
     <message id="FAILURE_CERTIFICATE">
-        <source>the server’s certificate is not trusted</source>
-        <translation>certificato non valido</translation>
+        <source>Invalid certificate</source>
+        <translation>Certificato non valido</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
-        <source>no stream at this address</source>
-        <translation>nessun flusso lì</translation>
+        <source>404 Not Found</source>
+        <translation>404 Non trovato</translation>
     </message>
     <message id="FAILURE_NOT_ALLOWED">
-        <source>the server does not allow it</source>
-        <translation>vietato dal server</translation>
+        <source>Access denied</source>
+        <translation>Accesso negato</translation>
+    </message>
+    <message id="FAILURE_REJECTED">
+        <source>Request rejected</source>
+        <translation>Richiesta respinta</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
-        <source>the server has a fault</source>
-        <translation>guasto del server</translation>
+        <source>Server error</source>
+        <translation>Errore del server</translation>
     </message>
     <message id="FAILURE_NOT_A_STREAM">
-        <source>not a stream</source>
-        <translation>non è un flusso</translation>
+        <source>Not a stream</source>
+        <translation>Non è un flusso</translation>
     </message>
     <message id="FAILURE_NOT_USABLE">
-        <source>not an address that can be played</source>
-        <translation>indirizzo inutilizzabile</translation>
+        <source>Unusable address</source>
+        <translation>Indirizzo inutilizzabile</translation>
     </message>
     <message id="FAILURE_ENDED">
-        <source>the stream has ended</source>
-        <translation>il flusso è finito</translation>
+        <source>Stream ended</source>
+        <translation>Il flusso è finito</translation>
     </message>
     <message id="FAILURE_SILENT">
-        <source>the stream fell silent</source>
-        <translation>flusso diventato muto</translation>
+        <source>Stream is silent</source>
+        <translation>Il flusso è muto</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
-        <source>no sound output</source>
-        <translation>nessuna uscita audio</translation>
+        <source>No sound output</source>
+        <translation>Nessuna uscita audio</translation>
     </message>
     <message id="FAILURE_ENGINE_FAILED">
-        <source>the sound engine does not run</source>
-        <translation>motore audio guasto</translation>
+        <source>Sound engine failed</source>
+        <translation>Motore audio guasto</translation>
     </message>
 </context>
 </TS>

@@ -14,6 +14,14 @@ namespace {
 /// How long an engine that was busy with another stream may take to begin with a new one.
 constexpr std::chrono::milliseconds longestChange{700};
 
+/// Why a stream does not sound that comes no further than `state`.
+PlaybackFailure failureOfSilence(StreamState state)
+{
+    if (state == StreamState::Connecting)
+        return PlaybackFailure::TimedOut;
+    return state == StreamState::Answered ? PlaybackFailure::NotAStream : PlaybackFailure::Silent;
+}
+
 } // namespace
 
 /// Has the engine from its first `play` until it is destroyed or another player plays.
@@ -168,7 +176,7 @@ void EngineProcess::follow(StreamSupervisor::Advice advice)
     } else if (advice == StreamSupervisor::Advice::GiveUp) {
         // A new process also gets rid of an attempt that hangs where it cannot be ended.
         engine_.reset();
-        breakDown(stream_->state == StreamState::Connecting ? PlaybackFailure::TimedOut : PlaybackFailure::Silent);
+        breakDown(failureOfSilence(stream_->state));
         start();
     } else {
         show();
@@ -197,11 +205,12 @@ void EngineProcess::receiveState(StreamState state)
     const bool sounds = state == StreamState::Playing;
     const bool ranDry = stream_->state == StreamState::Playing && !sounds && !stream_->isHeld;
     stream_->state = state;
-    stream_->hasSounded |= sounds;
-    if (sounds)
+    if (sounds) {
+        stream_->failure.reset();
         stream_->supervisor.sounds(now());
-    else
+    } else {
         stream_->supervisor.isSilent(now());
+    }
     show();
     if (ranDry)
         post(playbackStalledNotification);
@@ -216,7 +225,9 @@ void EngineProcess::replaceStuckEngine()
 
 void EngineProcess::breakDown(PlaybackFailure failure)
 {
-    stream_->failure = failure;
+    if (failure != PlaybackFailure::Unknown || !stream_->failure)
+        stream_->failure = failure;
+    stream_->state = StreamState::Connecting;
     // What the engine still says of this load is of no interest.
     ++load_;
     stream_->patience.reset();
@@ -267,23 +278,20 @@ void EngineProcess::show()
 
 NowPlaying EngineProcess::nowPlaying() const
 {
-    NowPlaying result;
+    using State = NowPlaying::State;
     if (!stream_)
-        return result;
-    result.title = stream_->title;
-    result.hasSounded = stream_->hasSounded;
+        return {};
+    NowPlaying result{State::Connecting, stream_->title, PlaybackFailure::Unknown, std::chrono::seconds(0)};
     if (stream_->isHeld) {
-        result.state = NowPlaying::State::Held;
-    } else if (const auto attempt = stream_->supervisor.nextAttempt()) {
-        result.state = NowPlaying::State::Reconnecting;
-        result.failure = stream_->failure;
+        result.state = State::Held;
+    } else if (stream_->failure) {
+        result.state = State::Reconnecting;
+        result.failure = *stream_->failure;
+        const auto attempt = stream_->supervisor.nextAttempt().value_or(now());
         result.reconnectIn =
-            std::chrono::ceil<std::chrono::seconds>(std::max(*attempt - now(), StreamSupervisor::Time(0)));
-    } else if (stream_->state == StreamState::Playing) {
-        result.state = NowPlaying::State::Playing;
-    } else {
-        const bool isBuffering = stream_->state == StreamState::Buffering;
-        result.state = isBuffering ? NowPlaying::State::Buffering : NowPlaying::State::Connecting;
+            std::chrono::ceil<std::chrono::seconds>(std::max(attempt - now(), StreamSupervisor::Time(0)));
+    } else if (stream_->state >= StreamState::Buffering) {
+        result.state = stream_->state == StreamState::Playing ? State::Playing : State::Buffering;
     }
     return result;
 }

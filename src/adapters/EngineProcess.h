@@ -53,10 +53,10 @@ private:
         const Player& player;
         StreamSupervisor supervisor;
         bool isHeld = false;
-        bool hasSounded = false;
         StreamState state = StreamState::Connecting;
         Text title = {};
-        PlaybackFailure failure = PlaybackFailure::Unknown;
+        /// Why the last attempt failed; nothing before the first one has, and when it sounds.
+        std::optional<PlaybackFailure> failure = std::nullopt;
         std::unique_ptr<EventLoop::Registration> timer = nullptr;
         std::unique_ptr<EventLoop::Registration> patience = nullptr;
     };

@@ -17,19 +17,17 @@ struct NowPlaying {
         Playing,
         /// Held by the user.
         Held,
-        /// Broken; opened again in `reconnectIn`.
+        /// The last attempt failed; the next one is made in `reconnectIn`, or under way.
         Reconnecting,
     };
 
     State state = State::Nothing;
     /// The stream's title; absent when it has none.
     Text title;
-    /// Why the stream broke the last time; meaningful with `Reconnecting`.
+    /// Why the last attempt failed; meaningful with `Reconnecting`.
     PlaybackFailure failure = PlaybackFailure::Unknown;
-    /// How long until the next attempt, in whole seconds; meaningful with `Reconnecting`.
+    /// How long until the next attempt, in whole seconds; 0 while it is under way. Meaningful with `Reconnecting`.
     std::chrono::seconds reconnectIn{0};
-    /// Whether this stream has sounded since it was asked for.
-    bool hasSounded = false;
 
     friend bool operator==(const NowPlaying&, const NowPlaying&) = default;
 };

@@ -7,6 +7,7 @@
 
 #include <mpv/client.h>
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -17,6 +18,8 @@ namespace {
 
 /// A server can make playlists lead to playlists for ever.
 constexpr int mostAttempts = 20;
+/// What libmpv logs as soon as a server has answered.
+constexpr std::string_view answerSign = "Trying demuxers";
 
 void endPlaying(mpv_handle* player)
 {
@@ -44,7 +47,7 @@ std::unique_ptr<MpvEngine> MpvEngine::create(Tell tell)
     mpv_handle* player = createMpv();
     if (player == nullptr)
         return nullptr;
-    mpv_request_log_messages(player, "warn");
+    mpv_request_log_messages(player, "v");
     for (const char* property : {"core-idle", "idle-active", "metadata"})
         mpv_observe_property(player, 0, property, MPV_FORMAT_NONE);
     mpv_hook_add(player, 0, "on_load", 0);
@@ -116,6 +119,7 @@ void MpvEngine::stop()
     shownTitle_ = Text();
     attempts_ = 0;
     hasBegun_ = false;
+    progress_ = StreamState::Connecting;
     soundIsSet_ = false;
     endPlaying(player_);
 }
@@ -148,6 +152,9 @@ void MpvEngine::handle(const mpv_event& event)
         break;
     case MPV_EVENT_START_FILE:
         noteStart(event);
+        break;
+    case MPV_EVENT_FILE_LOADED:
+        noteProgress(StreamState::Buffering);
         break;
     case MPV_EVENT_END_FILE:
         noteEnd(event);
@@ -182,10 +189,23 @@ void MpvEngine::checkAddress(const mpv_event& event)
 void MpvEngine::noteLogLine(const mpv_event& event)
 {
     const auto* message = static_cast<const mpv_event_log_message*>(event.data);
+    if (!load_ || !hasBegun_)
+        return;
+    if (message->log_level > MPV_LOG_LEVEL_WARN) {
+        if (std::string_view(message->prefix) == "demux" && std::string_view(message->text).starts_with(answerSign))
+            noteProgress(StreamState::Answered);
+        return;
+    }
     // It may come after the end that it explains.
     const bool isUnexplained = !failure_ || *failure_ == PlaybackFailure::Unknown;
-    if (const auto failure = failureFromLogLine(message->text); load_ && hasBegun_ && failure && isUnexplained)
+    if (const auto failure = failureFromLogLine(message->text); failure && isUnexplained)
         failure_ = failure;
+}
+
+void MpvEngine::noteProgress(StreamState progress)
+{
+    progress_ = std::max(progress_, progress);
+    showState();
 }
 
 void MpvEngine::noteStart(const mpv_event& event)
@@ -193,17 +213,21 @@ void MpvEngine::noteStart(const mpv_event& event)
     if (!isPresentEntry(static_cast<const mpv_event_start_file*>(event.data)->playlist_entry_id))
         return;
     hasBegun_ = true;
+    progress_ = StreamState::Connecting;
     showState();
 }
 
 void MpvEngine::noteEnd(const mpv_event& event)
 {
     const auto* end = static_cast<const mpv_event_end_file*>(event.data);
-    if (!isPresentEntry(end->playlist_entry_id) || end->reason == MPV_END_FILE_REASON_REDIRECT)
+    const bool isPlaylist = end->reason == MPV_END_FILE_REASON_REDIRECT;
+    if (!isPresentEntry(end->playlist_entry_id) || (isPlaylist && end->playlist_insert_num_entries > 0))
         return;
     soundIsSet_ = false;
     if (end->reason == MPV_END_FILE_REASON_EOF)
         failure_ = PlaybackFailure::Ended;
+    else if (isPlaylist)
+        failure_ = PlaybackFailure::NotAStream;
     else if (!failure_ || failureFromError(end->error) == PlaybackFailure::NoSoundOutput)
         failure_ = failureFromError(end->error);
 }
@@ -212,11 +236,7 @@ void MpvEngine::showState()
 {
     if (!load_ || !hasBegun_)
         return;
-    StreamState state = StreamState::Connecting;
-    if (!flag("core-idle"))
-        state = StreamState::Playing;
-    else if (shownState_ && *shownState_ != StreamState::Connecting)
-        state = StreamState::Buffering;
+    const StreamState state = flag("core-idle") ? progress_ : StreamState::Playing;
     if (state == shownState_)
         return;
     shownState_ = state;

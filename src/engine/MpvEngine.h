@@ -43,6 +43,7 @@ private:
     void checkAddress(const mpv_event& event);
     void noteStart(const mpv_event& event);
     void noteEnd(const mpv_event& event);
+    void noteProgress(StreamState progress);
     void noteLogLine(const mpv_event& event);
     void showState();
     void showTitle();
@@ -69,6 +70,8 @@ private:
     int attempts_ = 0;
     /// libmpv has let go of the former load and begun with the present one.
     bool hasBegun_ = false;
+    /// The present attempt's state as far as it goes without sound.
+    StreamState progress_ = StreamState::Connecting;
     /// The sound output is open and has its volume.
     bool soundIsSet_ = false;
     std::optional<PlaybackFailure> failure_;

@@ -45,7 +45,8 @@ constexpr std::array options{
     Option{"demuxer-max-bytes", "3MiB"},
     // With nothing kept, the titles that lie between the music are lost.
     Option{"demuxer-max-back-bytes", "256KiB"},
-    Option{"network-timeout", "15"},
+    // The player gives a stream up before that.
+    Option{"network-timeout", "30"},
     Option{"tls-verify", "yes"},
     Option{"metadata-codepage", "utf-8"},
     Option{"audio-client-name", "Sonavel"},

@@ -17,6 +17,7 @@ template <class Value> Word(const char*, Value) -> Word<Value>;
 
 constexpr std::array stateWords{
     Word<StreamState>{"connecting", StreamState::Connecting},
+    Word<StreamState>{"answered", StreamState::Answered},
     Word<StreamState>{"buffering", StreamState::Buffering},
     Word<StreamState>{"playing", StreamState::Playing},
 };
@@ -30,6 +31,7 @@ constexpr std::array failureWords{
     Word<PlaybackFailure>{"certificate", PlaybackFailure::Certificate},
     Word<PlaybackFailure>{"not-found", PlaybackFailure::NotFound},
     Word<PlaybackFailure>{"not-allowed", PlaybackFailure::NotAllowed},
+    Word<PlaybackFailure>{"rejected", PlaybackFailure::Rejected},
     Word<PlaybackFailure>{"server-error", PlaybackFailure::ServerError},
     Word<PlaybackFailure>{"not-a-stream", PlaybackFailure::NotAStream},
     Word<PlaybackFailure>{"not-usable", PlaybackFailure::NotUsable},

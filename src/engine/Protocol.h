@@ -5,7 +5,7 @@
 // one of these, or is too long, is ignored: neither side trusts the other.
 //
 //   player to engine                       engine to player
-//     load ID ADDRESS                        state ID connecting|buffering|playing
+//     load ID ADDRESS                        state ID connecting|answered|buffering|playing
 //     hold, continue, stop                   failed ID REASON
 //     volume 0.7                             title ID TEXT
 //     muted yes|no
@@ -33,6 +33,7 @@ enum class PlaybackFailure {
     Certificate,
     NotFound,
     NotAllowed,
+    Rejected,
     ServerError,
     NotAStream,
     NotUsable,
@@ -42,7 +43,13 @@ enum class PlaybackFailure {
     EngineFailed,
 };
 
-enum class StreamState { Connecting, Buffering, Playing };
+enum class StreamState {
+    Connecting,
+    /// The server has answered; what it sends is not recognised yet.
+    Answered,
+    Buffering,
+    Playing,
+};
 
 /// Plays the stream in the place of the present one, not held.
 struct LoadCommand {

@@ -73,6 +73,13 @@ DataServerSettings serverSettings(const Settings& settings)
     return server;
 }
 
+MainWindow::Emphasis emphasisOf(NowPlaying::State state)
+{
+    if (state == NowPlaying::State::Reconnecting)
+        return MainWindow::Emphasis::Failure;
+    return state == NowPlaying::State::Playing ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded;
+}
+
 } // namespace
 
 /// In the order of their dependence.
@@ -214,9 +221,7 @@ void Program::joinDesktop()
 
 void Program::showNowPlaying(const NowPlaying& nowPlaying)
 {
-    const bool sounds = nowPlaying.state == NowPlaying::State::Playing;
-    parts_->windows.mainWindow().showNowPlaying(
-        nowPlayingText(nowPlaying), sounds ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded);
+    parts_->windows.mainWindow().showNowPlaying(nowPlayingText(nowPlaying), emphasisOf(nowPlaying.state));
     if (parts_->mediaPlayerBus)
         parts_->mediaPlayerBus->setTitle(onOneLine(toQString(nowPlaying.title)));
 }

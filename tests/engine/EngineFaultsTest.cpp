@@ -40,9 +40,9 @@ TEST_F(EngineFaults, AnEngineThatIsKilledPlaysAgainAndLeavesNoZombie)
         ASSERT_EQ(children().size(), 1U);
         ::kill(children().front(), SIGKILL);
         EXPECT_TRUE(failsWith(PlaybackFailure::EngineFailed));
+        EXPECT_TRUE(comesTo(State::Playing));
         lastFailure_.reset();
     }
-    EXPECT_TRUE(comesTo(State::Playing));
     EXPECT_TRUE(loop_.runUntil([] { return children().size() == 1; }));
 }
 
@@ -71,7 +71,7 @@ TEST_F(EngineFaults, AnEngineThatReplacesAStuckOneIsHeldAsItsStreamIs)
     loop_.runFor(500ms);
     EXPECT_EQ(shown_.state, State::Held);
     player_->play();
-    EXPECT_EQ(shown_.state, State::Connecting) << "it sounded while it was held";
+    EXPECT_NE(shown_.state, State::Playing) << "it sounded while it was held";
     EXPECT_TRUE(comesTo(State::Playing));
     EXPECT_EQ(next.connectionCount(), 1);
 }

@@ -40,6 +40,7 @@ protected:
         engine_.emplace(loop_, notifications_, program, limits);
         engine_->setNowPlayingObserver([this](const NowPlaying& shown) {
             shown_ = shown;
+            hasSounded_ |= shown.state == State::Playing;
             if (shown.state == State::Reconnecting)
                 lastFailure_ = shown.failure;
         });
@@ -49,6 +50,7 @@ protected:
     void play(const std::string& address)
     {
         lastFailure_.reset();
+        hasSounded_ = false;
         auto next = engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{address}));
         player_ = std::move(next);
         player_->setVolume(0.5F);
@@ -84,6 +86,7 @@ protected:
     int errors_ = 0;
     NowPlaying shown_;
     std::optional<PlaybackFailure> lastFailure_;
+    bool hasSounded_ = false;
     std::optional<EngineProcess> engine_;
     std::unique_ptr<StreamPlayer> player_;
 };

@@ -22,7 +22,10 @@ TEST_F(HostileStreams, WhatIsNoStreamSaysWhyAndTheNextOneStillPlays)
         {"HTTP/1.0 403 Forbidden\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::NotAllowed},
         {"HTTP/1.0 503 Busy\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::ServerError},
         {answer("text/html", page), PlaybackFailure::NotAStream},
+        {"HTTP/1.0 410 Gone\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::Rejected},
         {answer("audio/mpeg", ""), PlaybackFailure::NotAStream},
+        {answer("audio/x-mpegurl", "#EXTM3U\n"), PlaybackFailure::NotAStream},
+        {answer("audio/x-scpls", "[playlist]\nNumberOfEntries=0\n"), PlaybackFailure::NotAStream},
         {"", PlaybackFailure::Unknown},
         {"no server of the web at all\r\n", PlaybackFailure::Unknown},
         {"HTTP/1.0 302 Found\r\nLocation: /\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::Unknown},
@@ -32,7 +35,6 @@ TEST_F(HostileStreams, WhatIsNoStreamSaysWhyAndTheNextOneStillPlays)
         const ScriptedServer bad(ScriptedServer::answering(text));
         play(bad.address());
         EXPECT_TRUE(failsWith(failure)) << text.substr(0, 40);
-        EXPECT_FALSE(shown_.hasSounded);
         EXPECT_TRUE(loop_.runUntil([&] { return bad.connectionCount() >= 2; })) << "not tried again";
         play(good.address());
         EXPECT_TRUE(comesTo(State::Playing)) << text.substr(0, 40);
@@ -91,7 +93,7 @@ TEST_F(HostileStreams, NothingLeadsToALocalFileOrIntoTheEngine)
             const ScriptedServer server(ScriptedServer::answering(answer(type, list)));
             play(server.address());
             EXPECT_TRUE(comesTo(State::Reconnecting)) << list;
-            EXPECT_FALSE(shown_.hasSounded) << list;
+            EXPECT_FALSE(hasSounded_) << list;
         }
     }
 }
@@ -129,6 +131,48 @@ TEST_F(HostileStreams, AStreamThatNeverComesToItsSoundIsGivenUp)
         play(server->address());
         EXPECT_TRUE(failsWith(PlaybackFailure::TimedOut));
     }
+    limits.opening = 3s;
+    use(limits);
+    const ScriptedServer noise([](ScriptedServer::Connection& connection) {
+        connection.readRequestHead();
+        connection.send(answer("audio/mpeg", {}));
+        unsigned byte = 1;
+        while (connection.wait(10ms) && connection.send(std::string(100, static_cast<char>(byte *= 37)))) { }
+    });
+    play(noise.address());
+    EXPECT_TRUE(failsWith(PlaybackFailure::NotAStream));
+}
+
+TEST_F(HostileStreams, AServerThatNeverAnswersDoesNotLeaveTheReasonOpen)
+{
+    const ScriptedServer server([](ScriptedServer::Connection& connection) { connection.waitUntilClosed(); });
+    play(server.address());
+    EXPECT_TRUE(loop_.runUntil([&] { return lastFailure_.has_value(); }, 60s));
+    EXPECT_EQ(lastFailure_, PlaybackFailure::TimedOut);
+}
+
+TEST_F(HostileStreams, AReasonStaysUntilTheStreamSoundsOrAnotherOneIsKnown)
+{
+    std::atomic<int> count = 0;
+    ScriptedServer server([&](ScriptedServer::Connection& connection) {
+        const int attempt = ++count;
+        if (attempt <= 3)
+            connection.readRequestHead();
+        if (attempt == 1)
+            connection.send("HTTP/1.0 404 Not Found\r\nContent-Length: 0\r\n\r\n");
+        else if (attempt == 3)
+            connection.waitUntilTold();
+        else if (attempt > 3)
+            playTone(connection);
+    });
+    play(server.address());
+    EXPECT_TRUE(failsWith(PlaybackFailure::NotFound));
+    EXPECT_TRUE(loop_.runUntil([&] { return count == 3; }));
+    EXPECT_EQ(shown_.state, State::Reconnecting);
+    EXPECT_EQ(shown_.failure, PlaybackFailure::NotFound);
+    EXPECT_EQ(shown_.reconnectIn, 0s) << "an attempt is under way";
+    server.tell();
+    EXPECT_TRUE(comesTo(State::Playing));
 }
 
 TEST_F(HostileStreams, ATitleInAnyEncodingIsShown)

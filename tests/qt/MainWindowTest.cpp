@@ -51,13 +51,34 @@ TEST(MainWindow, NothingMovesWhenTextsChange)
     };
     const std::vector<QRect> before = shape();
     const QString veryLong(3'000, u'W');
-    window.showNowPlaying(veryLong, MainWindow::Emphasis::Usual);
+    window.showNowPlaying(veryLong, MainWindow::Emphasis::Failure);
     window.showNotice(veryLong);
     outlets.buttonPlayPause.setImage("pause.png");
     outlets.popupbuttonRadioList.setItems(std::make_shared<const std::vector<Text>>(1, Text(veryLong.toStdString())));
     EXPECT_EQ(shape(), before);
     window.clearNotice();
     EXPECT_EQ(shape(), before);
+}
+
+TEST(MainWindow, AFailureBearsAMarkBesideItsText)
+{
+    MainWindow window{nullptr};
+    window.show();
+    auto* line = window.findChild<ElidedLabel*>("labelNowPlaying");
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        window.setLayoutDirection(direction);
+        const auto picture = [&](const QString& text, MainWindow::Emphasis emphasis) {
+            window.showNowPlaying(text, emphasis);
+            return line->grab().toImage();
+        };
+        const QImage empty = picture({}, MainWindow::Emphasis::Faded);
+        const QImage mark = picture({}, MainWindow::Emphasis::Failure);
+        EXPECT_NE(mark, empty);
+        const QRect text = line->textArea();
+        EXPECT_EQ(mark.copy(text), empty.copy(text)) << "the mark lies on the text";
+        EXPECT_NE(picture("No answer", MainWindow::Emphasis::Failure).copy(text), empty.copy(text));
+        EXPECT_EQ(picture({}, MainWindow::Emphasis::Usual), empty);
+    }
 }
 
 TEST(MainWindow, AScreenReaderHearsTheTitleAndTheNameOfEveryControl)

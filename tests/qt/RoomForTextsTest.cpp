@@ -139,10 +139,11 @@ TEST_P(RoomForTextsTest, IsThereForWhyAStreamCannotBePlayed)
     MainWindow main(&menus);
     main.show();
     const auto* line = main.findChild<ElidedLabel*>(QStringLiteral("labelNowPlaying"));
+    main.showNowPlaying({}, MainWindow::Emphasis::Failure);
     for (int failure = 0; failure <= static_cast<int>(PlaybackFailure::EngineFailed); ++failure) {
         const QString text = nowPlayingText(
-            {NowPlaying::State::Reconnecting, Text(), static_cast<PlaybackFailure>(failure), std::chrono::seconds(1)});
-        EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->contentsRect().width())
+            {NowPlaying::State::Reconnecting, Text(), static_cast<PlaybackFailure>(failure), std::chrono::seconds(30)});
+        EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->textArea().width())
             << GetParam() << ": " << text.toStdString();
     }
 }

@@ -20,15 +20,18 @@ TEST(NowPlayingLine, SaysWhatTheListenerWantsToKnow)
         const char* line;
     } cases[] = {
         {{}, "Not playing"},
-        {{State::Connecting, {}, {}, {}, false}, "Connecting…"},
-        {{State::Buffering, "Song", {}, {}, true}, "Buffering…"},
-        {{State::Playing, {}, {}, {}, true}, "Playing"},
-        {{State::Playing, "", {}, {}, true}, "Playing"},
-        {{State::Playing, "Ann & Bob – <i>%li</i>\nLive", {}, {}, true}, "Ann & Bob – <i>%li</i> Live"},
-        {{State::Held, "Song", {}, {}, true}, "Song"},
-        {{State::Held, {}, {}, {}, true}, "Paused"},
-        {{State::Reconnecting, "Song", Failure::Ended, seconds(8), true}, "Reconnecting in 8 s"},
-        {{State::Reconnecting, {}, Failure::NoSuchHost, seconds(1), false}, "Cannot be played: no such host"},
+        {{State::Connecting, {}, {}, {}}, "Connecting…"},
+        {{State::Buffering, "Song", {}, {}}, "Buffering…"},
+        {{State::Playing, {}, {}, {}}, "Playing"},
+        {{State::Playing, "", {}, {}}, "Playing"},
+        {{State::Playing, "Ann & Bob – <i>%li</i>\nLive", {}, {}}, "Ann & Bob – <i>%li</i> Live"},
+        {{State::Held, "Song", {}, {}}, "Song"},
+        {{State::Held, {}, {}, {}}, "Paused"},
+        {{State::Reconnecting, "Song", Failure::Ended, seconds(8)}, "Stream ended. Trying again in 8 s"},
+        {{State::Reconnecting, {}, Failure::TimedOut, seconds(4)}, "No answer. Trying again in 4 s"},
+        {{State::Reconnecting, {}, Failure::TimedOut, seconds(0)}, "No answer. Trying again…"},
+        {{State::Reconnecting, {}, Failure::NotFound, seconds(1)}, "404 Not Found. Trying again in 1 s"},
+        {{State::Reconnecting, {}, Failure::NotAStream, seconds(1)}, "Not a stream. Trying again in 1 s"},
     };
     for (const auto& [nowPlaying, line] : cases)
         EXPECT_EQ(nowPlayingText(nowPlaying).toStdString(), line);

@@ -1,15 +1,22 @@
 // A line of text that never asks for more room than it has.
 #pragma once
 
+#include <QIcon>
 #include <QLabel>
 
 namespace sonavel {
 
-/// Shows its plain text on one line, cut with an ellipsis where it does not fit, and whole as the tool tip then. Its
+/// Shows its plain text on one line, cut with an ellipsis where it does not fit, and whole as the tool tip then; before
+/// it a mark, if it has one. Its
 /// wish for room depends on the font alone, so that a change of text moves nothing around it.
 class ElidedLabel : public QLabel {
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);
+
+    /// A picture of the height of the text; an empty one takes no room.
+    void setMark(const QIcon& mark);
+    /// Where the text lies.
+    [[nodiscard]] QRect textArea() const;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -17,6 +24,9 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
+
+private:
+    QIcon mark_;
 };
 
 } // namespace sonavel

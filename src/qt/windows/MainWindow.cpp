@@ -1,5 +1,7 @@
 #include "qt/windows/MainWindow.h"
 
+#include "qt/kit/Images.h"
+#include "qt/kit/Palettes.h"
 #include "qt/windows/ProgramMenus.h"
 #include "ui_MainWindow.h"
 
@@ -66,7 +68,10 @@ void MainWindow::setUpColors()
 {
     description_->displayPanel->setBackgroundRole(QPalette::Base);
     description_->labelNowPlaying->setForegroundRole(
-        emphasis_ == Emphasis::Usual ? QPalette::Text : QPalette::PlaceholderText);
+        emphasis_ == Emphasis::Faded ? QPalette::PlaceholderText : QPalette::Text);
+    const bool isFailure = emphasis_ == Emphasis::Failure;
+    description_->labelNowPlaying->setMark(
+        isFailure ? imageNamed("warning.png", readableRed(), readableRed()) : QIcon());
 }
 
 void MainWindow::showNowPlaying(const QString& text, Emphasis emphasis)

@@ -20,8 +20,9 @@ public:
     explicit MainWindow(ProgramMenus* menus);
     ~MainWindow() override;
 
-    /// What is on air, or what keeps it from being so. Faded when `text` is about nothing that plays.
-    enum class Emphasis { Faded, Usual };
+    /// What is on air, or what keeps it from being so. Faded when `text` is about nothing that plays; a failure bears a
+    /// mark.
+    enum class Emphasis { Faded, Usual, Failure };
     void showNowPlaying(const QString& text, Emphasis emphasis);
 
     /// A failure to tell, in one line that moves nothing and goes away by itself or by `clearNotice`.

@@ -24,6 +24,8 @@ const char* keyOf(PlaybackFailure failure)
         return "FAILURE_NOT_FOUND";
     case PlaybackFailure::NotAllowed:
         return "FAILURE_NOT_ALLOWED";
+    case PlaybackFailure::Rejected:
+        return "FAILURE_REJECTED";
     case PlaybackFailure::ServerError:
         return "FAILURE_SERVER_ERROR";
     case PlaybackFailure::NotAStream:
@@ -49,13 +51,12 @@ QString titleOr(const char* key, const Text& title)
     return title.isEmpty() ? qtTrId(key) : onOneLine(toQString(title));
 }
 
-/// A stream that sounded is only missed for a while; one that never did is told with its fault.
 QString brokenText(const NowPlaying& nowPlaying)
 {
-    if (nowPlaying.hasSounded)
-        return qtTrId("NOW_PLAYING_RECONNECTING")
-            .replace(QStringLiteral("%li"), QString::number(nowPlaying.reconnectIn.count()));
-    return qtTrId("NOW_PLAYING_FAILED").replace(QStringLiteral("%@"), qtTrId(keyOf(nowPlaying.failure)));
+    const auto seconds = nowPlaying.reconnectIn.count();
+    QString text = seconds > 0 ? qtTrId("NOW_PLAYING_TRYING_IN") : qtTrId("NOW_PLAYING_TRYING");
+    text.replace(QStringLiteral("%li"), QString::number(seconds));
+    return text.replace(QStringLiteral("%@"), qtTrId(keyOf(nowPlaying.failure)));
 }
 
 } // namespace
