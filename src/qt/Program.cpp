@@ -105,8 +105,22 @@ struct Program::Parts {
 
     Ports ports()
     {
-        return {alerts, filePanels, files, httpClient, interfaces, engine, webBrowser, preferenceDomains, clock,
-            strings, notificationCenter, runLoop, process, {"Sonavel", SONAVEL_VERSION, buildNumber}};
+        return {
+            .alerts = alerts,
+            .filePanels = filePanels,
+            .files = files,
+            .httpClient = httpClient,
+            .interfaces = interfaces,
+            .streamPlayers = engine,
+            .webBrowser = webBrowser,
+            .preferenceDomains = preferenceDomains,
+            .clock = clock,
+            .localizedStrings = strings,
+            .notificationCenter = notificationCenter,
+            .runLoop = runLoop,
+            .process = process,
+            .bundle = {"Sonavel", SONAVEL_VERSION, buildNumber},
+        };
     }
 
     std::unique_ptr<OneInstance> instance; ///< null where nobody else can have the home directory

@@ -56,8 +56,6 @@ TEST(MainWindow, NothingMovesWhenTextsChange)
     outlets.buttonPlayPause.setImage("pause.png");
     outlets.popupbuttonRadioList.setItems(std::make_shared<const std::vector<Text>>(1, Text(veryLong.toStdString())));
     EXPECT_EQ(shape(), before);
-    window.clearNotice();
-    EXPECT_EQ(shape(), before);
 }
 
 TEST(MainWindow, AFailureBearsAMarkBesideItsText)

@@ -78,8 +78,22 @@ struct MemoryPlatform {
 
     [[nodiscard]] Ports ports()
     {
-        return {alerts, filePanels, files, httpClient, interfaces, streamPlayers, webBrowser, preferenceDomains, clock,
-            localizedStrings, notificationCenter, runLoop, process, {"Sonavel", "1.2.0", "5"}};
+        return {
+            .alerts = alerts,
+            .filePanels = filePanels,
+            .files = files,
+            .httpClient = httpClient,
+            .interfaces = interfaces,
+            .streamPlayers = streamPlayers,
+            .webBrowser = webBrowser,
+            .preferenceDomains = preferenceDomains,
+            .clock = clock,
+            .localizedStrings = localizedStrings,
+            .notificationCenter = notificationCenter,
+            .runLoop = runLoop,
+            .process = process,
+            .bundle = {"Sonavel", "1.2.0", "5"},
+        };
     }
 };
 

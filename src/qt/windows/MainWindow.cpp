@@ -86,11 +86,6 @@ void MainWindow::showNotice(const QString& text)
     description_->labelNotice->tell(text, StatusLine::Tone::Failure);
 }
 
-void MainWindow::clearNotice()
-{
-    description_->labelNotice->tell({});
-}
-
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);

@@ -25,9 +25,8 @@ public:
     enum class Emphasis { Faded, Usual, Failure };
     void showNowPlaying(const QString& text, Emphasis emphasis);
 
-    /// A failure to tell, in one line that moves nothing and goes away by itself or by `clearNotice`.
+    /// A failure to tell, in one line that moves nothing and goes away by itself.
     void showNotice(const QString& text);
-    void clearNotice();
 
 protected:
     void changeEvent(QEvent* event) override;
