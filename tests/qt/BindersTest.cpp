@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace sonavel {
 namespace {
 
@@ -77,6 +79,26 @@ TEST_F(PopUpBinding, WheelAndKeysOnTheClosedBoxChooseNothing)
         pressKey(widget, key, text);
         EXPECT_TRUE(widget.view()->isVisible());
         EXPECT_EQ(widget.currentIndex(), 0);
+        widget.hidePopup();
+    }
+    EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(PopUpBinding, KeysOfMenusAndWindowsAreNoTyping)
+{
+    popUp.selectItemAtIndex(2);
+    const std::tuple<Qt::KeyboardModifier, Qt::Key, QString> commands[] = {{Qt::AltModifier, Qt::Key_T, "t"},
+        {Qt::ControlModifier, Qt::Key_T, "t"}, {Qt::MetaModifier, Qt::Key_T, "t"}, {Qt::AltModifier, Qt::Key_End, {}},
+        {Qt::MetaModifier, Qt::Key_Down, {}}};
+    for (const auto& [modifier, key, text] : commands) {
+        EXPECT_FALSE(pressKey(widget, key, text, modifier)) << modifier << " " << key;
+        EXPECT_FALSE(widget.view()->isVisible());
+        EXPECT_EQ(widget.currentIndex(), 2);
+    }
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up}) {
+        EXPECT_TRUE(pressKey(widget, key, {}, Qt::AltModifier));
+        EXPECT_TRUE(widget.view()->isVisible());
+        EXPECT_EQ(widget.currentIndex(), 2);
         widget.hidePopup();
     }
     EXPECT_TRUE(chosen.empty());

@@ -12,12 +12,15 @@
 
 namespace sonavel {
 
-inline void pressKey(QWidget& widget, Qt::Key key, const QString& text = {})
+/// Whether the widget took it.
+inline bool pressKey(
+    QWidget& widget, Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
     QApplication::sendEvent(&widget, &press);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
     QApplication::sendEvent(&widget, &release);
+    return press.isAccepted();
 }
 
 inline void turnWheel(QWidget& widget)

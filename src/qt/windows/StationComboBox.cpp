@@ -44,10 +44,20 @@ bool movesThroughItems(const QKeyEvent& event)
     }
 }
 
+bool isCommand(const QKeyEvent& event)
+{
+    return event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+}
+
+bool opensList(const QKeyEvent& event)
+{
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::AltModifier
+        && (event.key() == Qt::Key_Down || event.key() == Qt::Key_Up);
+}
+
 bool isTyping(const QKeyEvent& event)
 {
-    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint() && event.key() != Qt::Key_Space;
+    return !event.text().isEmpty() && event.text().at(0).isPrint() && event.key() != Qt::Key_Space;
 }
 
 } // namespace
@@ -75,7 +85,11 @@ void StationComboBox::wheelEvent(QWheelEvent* event)
 
 void StationComboBox::keyPressEvent(QKeyEvent* event)
 {
-    if ((movesThroughItems(*event) || isTyping(*event)) && !(event->modifiers() & Qt::AltModifier))
+    if (opensList(*event))
+        showPopup();
+    else if (isCommand(*event))
+        event->ignore();
+    else if (movesThroughItems(*event) || isTyping(*event))
         openListAndPass(*event);
     else
         QComboBox::keyPressEvent(event);

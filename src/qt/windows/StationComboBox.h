@@ -7,7 +7,8 @@ namespace sonavel {
 
 /// A combo box from which the user chooses only by a click or Return in the opened list: with the stations of a radio,
 /// a turn of the wheel or an arrow key on the closed box would start or stop one station after the other. Keys that
-/// move through the items open the list and move its highlight instead. Shows 100,000 items as quickly as ten.
+/// move through the items open the list and move its highlight instead; with Alt, Ctrl or Meta, all but Alt+Up and
+/// Alt+Down, which open the list, are left to others. Shows 100,000 items as quickly as ten.
 class StationComboBox : public QComboBox {
 public:
     explicit StationComboBox(QWidget* parent = nullptr);
