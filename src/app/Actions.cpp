@@ -24,37 +24,35 @@ Actions::Actions(WinSonavelController& controller, Outlets& outlets, Gate& gate)
 
 void Actions::wireMainWindow()
 {
-    wire(outlets_.winSonavel.action, OpenCell::IsEnded, [](Controller& c) { c.quitApp(); });
-    wire(outlets_.popupbuttonRadioList.action, OpenCell::Stays,
+    wire(outlets_.winSonavel.action, ListUse::AsShown, [](Controller& c) { c.quitApp(); });
+    wire(outlets_.popupbuttonRadioList.action, ListUse::None,
         [](Controller& c) { c.stationSelection.popupRadioList(); });
-    wire(outlets_.buttonPlayPause.action, OpenCell::Stays, [](Controller& c) { c.player.buttonPlayPause(); });
-    wire(outlets_.buttonStop.action, OpenCell::Stays, [](Controller& c) { c.player.buttonStop(); });
-    wire(outlets_.buttonMute.action, OpenCell::Stays, [](Controller& c) { c.player.buttonMute(); });
-    wire(outlets_.sliderVolume.action, OpenCell::Stays, [](Controller& c) { c.player.sliderVolume(); });
-    wire(outlets_.buttonEditRadioList.action, OpenCell::Stays, [](Controller& c) { c.editorWindow.buttonEditradio(); });
+    wire(outlets_.buttonPlayPause.action, ListUse::None, [](Controller& c) { c.player.buttonPlayPause(); });
+    wire(outlets_.buttonStop.action, ListUse::None, [](Controller& c) { c.player.buttonStop(); });
+    wire(outlets_.buttonMute.action, ListUse::None, [](Controller& c) { c.player.buttonMute(); });
+    wire(outlets_.sliderVolume.action, ListUse::None, [](Controller& c) { c.player.sliderVolume(); });
+    wire(outlets_.buttonEditRadioList.action, ListUse::None, [](Controller& c) { c.editorWindow.buttonEditradio(); });
 }
 
 void Actions::wireEditor()
 {
     TableView& table = outlets_.tableViewListRadio;
-    wire(outlets_.winWebRadioListEdit.action, OpenCell::IsEnded, [](Controller& c) { c.editorWindow.close(); });
-    wire(table.action, OpenCell::Stays, [](Controller&) {});
-    wire(table.editAction, OpenCell::Stays, [&table](Controller&) { table.passEditOn(); });
-    wire(table.doubleAction, OpenCell::IsEnded, [](Controller& c) { c.editorTable.myDoubleClickAction(); });
+    wire(outlets_.winWebRadioListEdit.action, ListUse::AsShown, [](Controller& c) { c.editorWindow.close(); });
+    wire(table.action, ListUse::None, [](Controller&) {});
+    wire(table.editAction, ListUse::None, [&table](Controller&) { table.passEditOn(); });
+    wire(table.doubleAction, ListUse::Exclusive, [](Controller& c) { c.editorTable.myDoubleClickAction(); });
 
-    wire(
-        outlets_.textFieldRadioName.action, OpenCell::Stays, [](Controller& c) { c.editSheet.controlTextDidChange(); });
-    wire(
-        outlets_.textFieldRadioLink.action, OpenCell::Stays, [](Controller& c) { c.editSheet.controlTextDidChange(); });
-    wire(outlets_.buttonAction.action, OpenCell::Stays, [](Controller& c) { c.editSheet.buttonAction(); });
-    wire(outlets_.buttonCancel.action, OpenCell::Stays, [](Controller& c) { c.editSheet.buttonCancel(); });
-    wire(outlets_.winEditData.action, OpenCell::Stays, [](Controller& c) { c.editSheet.buttonCancel(); });
+    wire(outlets_.textFieldRadioName.action, ListUse::None, [](Controller& c) { c.editSheet.controlTextDidChange(); });
+    wire(outlets_.textFieldRadioLink.action, ListUse::None, [](Controller& c) { c.editSheet.controlTextDidChange(); });
+    wire(outlets_.buttonAction.action, ListUse::None, [](Controller& c) { c.editSheet.buttonAction(); });
+    wire(outlets_.buttonCancel.action, ListUse::None, [](Controller& c) { c.editSheet.buttonCancel(); });
+    wire(outlets_.winEditData.action, ListUse::None, [](Controller& c) { c.editSheet.buttonCancel(); });
 }
 
 void Actions::wirePreferences()
 {
     const auto at = [this](Action& action, void (PreferencesWindow::*operation)()) {
-        wire(action, OpenCell::Stays, [operation](Controller& c) { (c.preferencesWindow.*operation)(); });
+        wire(action, ListUse::None, [operation](Controller& c) { (c.preferencesWindow.*operation)(); });
     };
     at(outlets_.checkBoxDefaultAutoPlayAtStartApp.action, &PreferencesWindow::setAutoPlayAtStart);
     at(outlets_.checkBoxDefaultAutoPlay.action, &PreferencesWindow::setAutoPlay);
@@ -67,11 +65,11 @@ void Actions::wirePreferences()
 /// The windows of a check come and go with it.
 void Actions::wireUpdates()
 {
-    wire(outlets_.buttonCloseNotification.action, OpenCell::Stays, [](Controller& c) { c.buttonClose(); });
-    wire(outlets_.winUpdateNotification.action, OpenCell::Stays, [](Controller& c) { c.buttonClose(); });
+    wire(outlets_.buttonCloseNotification.action, ListUse::None, [](Controller& c) { c.buttonClose(); });
+    wire(outlets_.winUpdateNotification.action, ListUse::None, [](Controller& c) { c.buttonClose(); });
     controller_.updateCheck.setObserver([this](const std::shared_ptr<AppUpdater>& updater) {
         const auto at = [this, weak = std::weak_ptr(updater)](Action& action, void (AppUpdater::*operation)()) {
-            wire(action, OpenCell::Stays, [weak, operation](Controller&) {
+            wire(action, ListUse::None, [weak, operation](Controller&) {
                 if (const auto present = weak.lock())
                     ((*present).*operation)();
             });
@@ -88,35 +86,46 @@ void Actions::wireItems()
 {
     for (ToolbarItem* item :
         {&outlets_.radioAdd, &outlets_.radioEdit, &outlets_.radioRemove, &outlets_.radioImport, &outlets_.radioExport})
-        wire(item->action, OpenCell::IsEnded, [item](Controller& c) { c.editorToolbar.toolbar(*item); });
+        wire(item->action, ListUse::Exclusive, [item](Controller& c) { c.editorToolbar.toolbar(*item); });
     for (const TaggedItem& row : taggedItems()) {
         MenuItem& item = outlets_.*row.item;
-        wire(item.action, row.openCell, [&item](Controller& c) { c.menus.menuView(item); });
+        wire(item.action, row.listUse, [&item](Controller& c) { c.menus.menuView(item); });
     }
-    wire(
-        outlets_.menuPreferences.action, OpenCell::Stays, [](Controller& c) { c.preferencesWindow.showPreferences(); });
-    wire(outlets_.menuAbout.action, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.makeKeyAndOrderFront(); });
+    wire(outlets_.menuPreferences.action, ListUse::None, [](Controller& c) { c.preferencesWindow.showPreferences(); });
+    wire(outlets_.menuAbout.action, ListUse::None, [this](Controller&) { outlets_.winAbout.makeKeyAndOrderFront(); });
     for (Action* closing : {&outlets_.buttonCloseAbout.action, &outlets_.winAbout.action})
-        wire(*closing, OpenCell::Stays, [this](Controller&) { outlets_.winAbout.setIsVisible(false); });
+        wire(*closing, ListUse::None, [this](Controller&) { outlets_.winAbout.setIsVisible(false); });
 }
 
-void Actions::wire(Action& action, OpenCell openCell, std::function<void(Controller&)> operation)
+void Actions::wire(Action& action, ListUse listUse, Operation operation)
 {
-    action.set([this, &action, openCell, operation = std::move(operation)] {
-        if (openCell == OpenCell::IsEnded)
-            outlets_.tableViewListRadio.endEditing();
-        perform(&action, operation);
+    action.set([this, &action, listUse, operation = std::move(operation)] { perform(&action, listUse, operation); });
+}
+
+void Actions::perform(const void* source, ListUse listUse, Operation operation)
+{
+    if (listUse != ListUse::None)
+        outlets_.tableViewListRadio.endEditing();
+    gate_.perform(source, [this, listUse, operation = std::move(operation)] {
+        isListInUse_ = listUse == ListUse::Exclusive;
+        run(operation);
     });
 }
 
-void Actions::perform(const void* source, std::function<void(Controller&)> operation)
+void Actions::performAtOnce(const void* source, Operation operation)
 {
-    gate_.perform(source, [this, operation = std::move(operation)] {
-        operation(controller_);
-        validateItems();
-        if (observer_)
-            observer_();
-    });
+    if (isListInUse_)
+        perform(source, ListUse::None, std::move(operation));
+    else
+        run(operation);
+}
+
+void Actions::run(const Operation& operation)
+{
+    operation(controller_);
+    validateItems();
+    if (observer_)
+        observer_();
 }
 
 void Actions::validateItems()

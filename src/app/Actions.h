@@ -10,12 +10,14 @@ class Action;
 class Gate;
 class WinSonavelController;
 struct Outlets;
-enum class OpenCell;
+enum class ListUse;
 
 /// Sets the action of every control that the user acts on. Each goes through the gate, and after each, toolbar and menu
 /// items are enabled anew. Controller, outlets and gate have to outlive this object, and this object the outlets' use.
 class Actions {
 public:
+    using Operation = std::function<void(WinSonavelController&)>;
+
     Actions(WinSonavelController& controller, Outlets& outlets, Gate& gate);
     Actions(const Actions&) = delete;
     Actions& operator=(const Actions&) = delete;
@@ -30,10 +32,14 @@ public:
 
     /// Does something that no control stands for, such as with a file that was dropped on a window. One that waits
     /// gives way to a later one for the same `source`.
-    void perform(const void* source, std::function<void(WinSonavelController&)> operation);
+    void perform(const void* source, ListUse listUse, Operation operation);
+
+    /// Does it even while another action shows a question or waits for a server, unless that has the list for itself.
+    void performAtOnce(const void* source, Operation operation);
 
 private:
-    void wire(Action& action, OpenCell openCell, std::function<void(WinSonavelController&)> operation);
+    void wire(Action& action, ListUse listUse, Operation operation);
+    void run(const Operation& operation);
     void wireMainWindow();
     void wireEditor();
     void wirePreferences();
@@ -44,6 +50,7 @@ private:
     Outlets& outlets_;
     Gate& gate_;
     std::function<void()> observer_;
+    bool isListInUse_ = false; ///< exclusively, by the action that runs or ran last
 };
 
 } // namespace sonavel

@@ -1,20 +1,28 @@
 #include "app/MediaControls.h"
 
-#include "app/Actions.h"
 #include "app/WinSonavelController.h"
+#include "platform/Clock.h"
 #include "playback/StreamAddress.h"
 #include "ui/Outlets.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace sonavel {
 
 using Controller = WinSonavelController;
 
-MediaControls::MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions)
+namespace {
+
+constexpr std::int64_t longestWait = 2; // seconds
+
+} // namespace
+
+MediaControls::MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions, const Clock& clock)
     : controller_(controller)
     , outlets_(outlets)
     , actions_(actions)
+    , clock_(clock)
 {
 }
 
@@ -49,7 +57,7 @@ Text MediaControls::stationName(const Text& address) const
 
 void MediaControls::play()
 {
-    actions_.perform(&outlets_.buttonPlayPause.action, [this](Controller& c) {
+    perform(&outlets_.buttonPlayPause, [this](Controller& c) {
         if (!c.player.isPlay && outlets_.buttonPlayPause.state().isEnabled)
             c.player.buttonPlayPause();
     });
@@ -57,43 +65,49 @@ void MediaControls::play()
 
 void MediaControls::pause()
 {
-    actions_.perform(&outlets_.buttonPlayPause.action, [this](Controller& c) {
+    actions_.performAtOnce(&outlets_.buttonPlayPause, unlessLate([this](Controller& c) {
         if (c.player.isPlay && outlets_.buttonPlayPause.state().isEnabled)
             c.player.buttonPlayPause();
-    });
+    }));
 }
 
 void MediaControls::playPause()
 {
-    outlets_.buttonPlayPause.pressedByUser();
+    if (controller_.player.isPlay)
+        pause();
+    else
+        play();
 }
 
 void MediaControls::stop()
 {
-    outlets_.buttonStop.pressedByUser();
+    actions_.performAtOnce(&outlets_.buttonStop, unlessLate([this](Controller& c) {
+        if (outlets_.buttonStop.state().isEnabled)
+            c.player.buttonStop();
+    }));
 }
 
 void MediaControls::next()
 {
-    perform(Step::Next);
+    step(false);
 }
 
 void MediaControls::previous()
 {
-    perform(Step::Previous);
+    step(true);
 }
 
-void MediaControls::perform(Step step)
+void MediaControls::step(bool isPrevious)
 {
-    actions_.perform(&outlets_.popupbuttonRadioList.action, [step](Controller& c) {
+    perform(&outlets_.popupbuttonRadioList, [isPrevious](Controller& c) {
         if (c.stationList.numberOfStations() > 0)
-            c.stationSelection.changeStation(step == Step::Previous);
+            c.stationSelection.changeStation(isPrevious);
     });
 }
 
 void MediaControls::setVolume(double volume)
 {
-    actions_.perform(&outlets_.sliderVolume.action, [this, volume](Controller& c) {
+    perform(&outlets_.sliderVolume, [this, volume](Controller& c) {
         if (!outlets_.sliderVolume.state().isEnabled)
             return;
         outlets_.sliderVolume.setDoubleValue(volume);
@@ -103,12 +117,28 @@ void MediaControls::setVolume(double volume)
 
 void MediaControls::raise()
 {
-    actions_.perform(&outlets_.winSonavel, [this](Controller&) { outlets_.winSonavel.makeKeyAndOrderFront(); });
+    actions_.perform(
+        &outlets_.winSonavel, ListUse::None, [this](Controller&) { outlets_.winSonavel.makeKeyAndOrderFront(); });
 }
 
-void MediaControls::quit() const
+void MediaControls::quit()
 {
-    outlets_.winSonavel.closeRequestedByUser();
+    actions_.perform(this, ListUse::AsShown, unlessLate([](Controller& c) { c.quitApp(); }));
+}
+
+void MediaControls::perform(const void* source, Actions::Operation operation)
+{
+    actions_.perform(source, ListUse::None, unlessLate(std::move(operation)));
+}
+
+/// Whoever pressed a media key and saw nothing happen does not expect it any more.
+Actions::Operation MediaControls::unlessLate(Actions::Operation operation) const
+{
+    return [this, latest = clock_.now().advancedBySeconds(longestWait), answers = controller_.alerts.answers(),
+               operation = std::move(operation)](Controller& c) {
+        if (clock_.now() <= latest && c.alerts.answers() == answers)
+            operation(c);
+    };
 }
 
 } // namespace sonavel

@@ -1,6 +1,7 @@
 // The player as the desktop's media keys and sound panels see it.
 #pragma once
 
+#include "app/Actions.h"
 #include "base/Text.h"
 #include "playback/Player.h"
 
@@ -9,7 +10,7 @@
 
 namespace sonavel {
 
-class Actions;
+class Clock;
 class WinSonavelController;
 struct Outlets;
 
@@ -30,12 +31,15 @@ struct MediaState {
     friend bool operator==(const MediaState&, const MediaState&) = default;
 };
 
-/// Every operation does what the control of the main window does, when that is enabled, and passes the gate as it does.
+/// Every operation does what the control of the main window does, when that is enabled. While an action shows a
+/// question or waits for a server, Pause and Stop are done at once, unless it has the list for itself. What has to wait
+/// is done after that action, but not more than 2 s late, nor when the user answered a question meanwhile. `raise` is
+/// always done.
 ///
 /// Main thread. Borrows everything it is given.
 class MediaControls {
 public:
-    MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions);
+    MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions, const Clock& clock);
     MediaControls(const MediaControls&) = delete;
     MediaControls& operator=(const MediaControls&) = delete;
     ~MediaControls() = default;
@@ -57,16 +61,18 @@ public:
     /// Shows the main window.
     void raise();
     /// As Quit does, with its question.
-    void quit() const;
+    void quit();
 
 private:
-    enum class Step { Next, Previous };
-    void perform(Step step);
+    void step(bool isPrevious);
+    void perform(const void* source, Actions::Operation operation);
+    [[nodiscard]] Actions::Operation unlessLate(Actions::Operation operation) const;
     [[nodiscard]] Text stationName(const Text& address) const;
 
     WinSonavelController& controller_;
     Outlets& outlets_;
     Actions& actions_;
+    const Clock& clock_;
     MediaState state_;
     std::uint64_t streams_ = 0;
     std::shared_ptr<const PlayerItem> item_;

@@ -29,49 +29,51 @@ bool whileEditorIsHidden(const Controller&, const Outlets& outlets)
 }
 
 constexpr int showEditorTag = 1003;
-constexpr auto ends = OpenCell::IsEnded;
-constexpr auto stays = OpenCell::Stays; // whoever types goes on typing when he pauses the sound
+constexpr auto none = ListUse::None; // whoever types goes on typing when he pauses the sound
+constexpr auto asShown = ListUse::AsShown;
+constexpr auto exclusive = ListUse::Exclusive;
 
 constexpr std::array rows{
-    TaggedItem{0, &Outlets::menuQuit, ends, [](Controller& c) { c.quitApp(); }, always},
-    TaggedItem{1000, &Outlets::menuRadioAdd, ends, [](Controller& c) { c.editSheet.radioAddToList(); },
+    TaggedItem{0, &Outlets::menuQuit, asShown, [](Controller& c) { c.quitApp(); }, always},
+    TaggedItem{1000, &Outlets::menuRadioAdd, exclusive, [](Controller& c) { c.editSheet.radioAddToList(); },
         whileEditorHasKeyboard},
-    TaggedItem{1001, &Outlets::menuRadioEdit, ends, [](Controller& c) { c.editSheet.radioEditToList(); },
+    TaggedItem{1001, &Outlets::menuRadioEdit, exclusive, [](Controller& c) { c.editSheet.radioEditToList(); },
         [](const Controller& c, const Outlets& o) {
             return whileEditorHasKeyboard(c, o) && o.tableViewListRadio.numberOfSelectedRows() == 1;
         }},
-    TaggedItem{1002, &Outlets::menuRadioRemove, ends, [](Controller& c) { c.stationRemoval.radioRemoveToList(); },
+    TaggedItem{1002, &Outlets::menuRadioRemove, exclusive, [](Controller& c) { c.stationRemoval.radioRemoveToList(); },
         [](const Controller& c, const Outlets& o) {
             return whileEditorHasKeyboard(c, o) && o.tableViewListRadio.selectedRow() >= 0;
         }},
-    TaggedItem{showEditorTag, &Outlets::menuRadioShowEditRadio, ends,
+    TaggedItem{showEditorTag, &Outlets::menuRadioShowEditRadio, asShown,
         [](Controller& c) { c.editorWindow.toggleVisibility(); },
         [](const Controller&, const Outlets& o) {
             return o.winWebRadioListEdit.isVisible() || !o.winPreferences.isVisible();
         }},
-    TaggedItem{2000, &Outlets::menuPlayPause, stays, [](Controller& c) { c.player.playPause(); },
+    TaggedItem{2000, &Outlets::menuPlayPause, none, [](Controller& c) { c.player.playPause(); },
         [](const Controller&, const Outlets& o) { return o.popupbuttonRadioList.indexOfSelectedItem() > 0; }},
-    TaggedItem{2001, &Outlets::menuStop, stays, [](Controller& c) { c.player.stop(); },
+    TaggedItem{2001, &Outlets::menuStop, none, [](Controller& c) { c.player.stop(); },
         [](const Controller& c, const Outlets&) { return !c.player.isStop || c.player.isPlay; }},
-    TaggedItem{2002, &Outlets::menuMute, stays, [](Controller& c) { c.player.buttonMute(); }, always},
-    TaggedItem{2003, &Outlets::menuPreviousStation, stays,
-        [](Controller& c) { c.stationSelection.changeStation(true); }, always},
+    TaggedItem{2002, &Outlets::menuMute, none, [](Controller& c) { c.player.buttonMute(); }, always},
+    TaggedItem{2003, &Outlets::menuPreviousStation, none, [](Controller& c) { c.stationSelection.changeStation(true); },
+        always},
     TaggedItem{
-        2004, &Outlets::menuNextStation, stays, [](Controller& c) { c.stationSelection.changeStation(false); }, always},
-    TaggedItem{3000, &Outlets::menuRadioImport, ends, [](Controller& c) { c.stationImport.importRadioListFromFile(); },
-        whileEditorHasKeyboard},
-    TaggedItem{3001, &Outlets::menuRadioExport, ends, [](Controller& c) { c.stationExport.exportRadioListIntoFile(); },
+        2004, &Outlets::menuNextStation, none, [](Controller& c) { c.stationSelection.changeStation(false); }, always},
+    TaggedItem{3000, &Outlets::menuRadioImport, exclusive,
+        [](Controller& c) { c.stationImport.importRadioListFromFile(); }, whileEditorHasKeyboard},
+    TaggedItem{3001, &Outlets::menuRadioExport, exclusive,
+        [](Controller& c) { c.stationExport.exportRadioListIntoFile(); },
         [](const Controller& c, const Outlets& o) {
             return whileEditorHasKeyboard(c, o) && c.stationList.numberOfStations() > 0;
         }},
-    TaggedItem{4000, &Outlets::menuPreferences, stays, [](Controller&) {}, whileEditorIsHidden},
+    TaggedItem{4000, &Outlets::menuPreferences, none, [](Controller&) {}, whileEditorIsHidden},
     TaggedItem{
-        4001, &Outlets::menuCheckUpdates, ends, [](Controller& c) { c.checkUpdateOnDemand(); }, whileEditorIsHidden},
+        4001, &Outlets::menuCheckUpdates, asShown, [](Controller& c) { c.checkUpdateOnDemand(); }, whileEditorIsHidden},
 };
 
 const TaggedItem* rowOf(int tag)
 {
-    const auto* const row = std::find_if(rows.begin(), rows.end(), [tag](const auto& row) { return row.tag == tag; });
+    const auto* const row = std::find_if(rows.begin(), rows.end(), [tag](const auto& each) { return each.tag == tag; });
     return row == rows.end() ? nullptr : row;
 }
 
@@ -85,7 +87,7 @@ std::span<const TaggedItem> taggedItems()
 int tagOf(MenuItem Outlets::*item)
 {
     const auto* const row =
-        std::find_if(rows.begin(), rows.end(), [item](const auto& row) { return row.item == item; });
+        std::find_if(rows.begin(), rows.end(), [item](const auto& each) { return each.item == item; });
     return row == rows.end() ? -1 : row->tag;
 }
 

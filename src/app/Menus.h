@@ -10,14 +10,18 @@ class MenuItem;
 class WinSonavelController;
 struct Outlets;
 
-/// What becomes of a cell that is being edited. What works on the list as it is shown finds the edit made.
-enum class OpenCell { Stays, IsEnded };
+/// How an action uses the station list.
+enum class ListUse {
+    None, ///< a cell that is being edited stays open
+    AsShown, ///< a cell that is being edited is closed first, and what was typed counts
+    Exclusive, ///< so it is here, and the action has the list for itself until it ends
+};
 
 /// An item that has a tag.
 struct TaggedItem {
     int tag;
     MenuItem Outlets::*item;
-    OpenCell openCell;
+    ListUse listUse;
     void (*perform)(WinSonavelController&);
     bool (*isEnabled)(const WinSonavelController&, const Outlets&);
 };

@@ -10,7 +10,8 @@
 namespace sonavel {
 
 WinSonavelController::WinSonavelController(const Ports& ports, const Configuration& configuration, Outlets& outlets)
-    : stationDatabase(ports.files, stationList)
+    : alerts(ports.alerts)
+    , stationDatabase(ports.files, stationList)
     , preferences(ports.preferenceDomains, ports.bundle, outlets.winWebRadioListEdit)
     , preferencesWindow(preferences, stationList, outlets)
     , player(ports.streamPlayers, ports.notificationCenter, outlets)
@@ -26,10 +27,10 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
     , editorWindow(stationList, ports.localizedStrings, ports.runLoop, outlets)
     , editSheet(
           stationList, stationDatabase, stationSelection, editorWindow, preferences, ports.localizedStrings, outlets)
-    , stationRemoval(stationList, stationDatabase, stationSelection, player, editorWindow, ports.alerts,
+    , stationRemoval(
+          stationList, stationDatabase, stationSelection, player, editorWindow, alerts, ports.localizedStrings, outlets)
+    , stationImport(stationList, stationDatabase, stationSelection, preferences, ports.files, ports.filePanels, alerts,
           ports.localizedStrings, outlets)
-    , stationImport(stationList, stationDatabase, stationSelection, preferences, ports.files, ports.filePanels,
-          ports.alerts, ports.localizedStrings, outlets)
     , stationExport(stationList, ports.files, ports.filePanels)
     , editorTable(stationList, stationDatabase, stationSelection, editSheet, outlets)
     , editorToolbar(editSheet, stationRemoval, stationImport, stationExport, outlets)
@@ -58,7 +59,7 @@ void WinSonavelController::init()
 
 void WinSonavelController::endWithoutInternet()
 {
-    ports_.alerts.runModal({ports_.localizedStrings.localizedStringForKey("INTERNET_ERROR"), {}});
+    alerts.runModal({ports_.localizedStrings.localizedStringForKey("INTERNET_ERROR"), {}});
     ports_.process.exit(0);
 }
 
@@ -101,7 +102,7 @@ void WinSonavelController::quitApp()
     question.buttonTitles = {strings.localizedStringForKey("BUTTON_YES"), strings.localizedStringForKey("BUTTON_NO")};
     preferences.updatePreference();
     question.messageText = strings.localizedStringForKey("ALLERT_TEXT_MESSAGE_QUIT");
-    if (ports_.alerts.runModal(question) == firstButtonAnswer)
+    if (alerts.runModal(question) == firstButtonAnswer)
         ports_.process.exit(0);
     outlets_.winSonavel.setIsVisible(true);
 }

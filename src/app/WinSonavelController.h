@@ -1,6 +1,7 @@
 // The controller: everything that the program is made of, its start and its end.
 #pragma once
 
+#include "app/CountedAlerts.h"
 #include "app/Menus.h"
 #include "app/Ports.h"
 #include "app/StationLoading.h"
@@ -53,6 +54,7 @@ public:
     /// Closes the notice of the update check.
     void buttonClose();
 
+    CountedAlerts alerts;
     StationList stationList;
     StationDatabase stationDatabase;
     Preferences preferences;

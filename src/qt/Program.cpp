@@ -98,7 +98,7 @@ struct Program::Parts {
         , engine(eventLoop, notificationCenter, enginePath())
         , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, outlets)
         , actions(controller, outlets, gate)
-        , mediaControls(controller, outlets, actions)
+        , mediaControls(controller, outlets, actions, clock)
         , windows(outlets, actions, settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
     {
     }

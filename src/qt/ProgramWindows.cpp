@@ -60,7 +60,7 @@ void ProgramWindows::buildStationListWindow()
     connectStationListWindow(outlets_, window);
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
     window.whenFileDropped([this](const Text& path) {
-        actions_.perform(stationListWindow_.get(),
+        actions_.perform(stationListWindow_.get(), ListUse::Exclusive,
             [path](WinSonavelController& controller) { controller.stationImport.importRadioListFromFileAtPath(path); });
     });
     auto* sheet = new EditSheetDialog(window);

@@ -12,7 +12,7 @@ class MediaControlsTest : public ControllerTest {
 protected:
     using Status = MediaState::Status;
 
-    MediaControls media{controller, outlets, actions};
+    MediaControls media{controller, outlets, actions, platform.clock};
 
     void choose(int item)
     {
@@ -83,19 +83,70 @@ TEST_F(MediaControlsTest, TheVolumeFollowsTheSliderAndStaysWithinIt)
     EXPECT_EQ(media.state().volume, 0.5) << "muted, the slider is disabled";
 }
 
-TEST_F(MediaControlsTest, WhatComesWhileAQuestionIsOpenWaitsForItsAnswer)
+TEST_F(MediaControlsTest, WhatCameBeforeAQuestionWasAnsweredIsDroppedButPauseAndStopAreDoneAtOnce)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
     choose(1);
+    media.play();
+    const double volume = media.state().volume;
+    unsigned observed = 0;
+    actions.setObserver([&] { ++observed; });
     platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", secondButtonAnswer, [&] {
+        media.playPause();
+        EXPECT_EQ(media.state().status, Status::Paused);
+        EXPECT_EQ(observed, 1U) << "the bus hears of it";
         media.play();
-        media.play();
+        media.playPause();
+        EXPECT_EQ(media.state().status, Status::Paused);
+        media.stop();
+        EXPECT_EQ(media.state().status, Status::Stopped);
         media.next();
-        EXPECT_TRUE(controller.player.isStop);
+        media.setVolume(0.1);
+        media.quit();
+        outlets.buttonMute.setEnabled(true);
+        outlets.buttonMute.pressedByUser();
     });
     media.quit();
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 2);
-    EXPECT_EQ(platform.streamPlayers.players.size(), 1U);
+    EXPECT_EQ(media.state().status, Status::Stopped);
+    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(media.state().volume, volume);
+    EXPECT_EQ(platform.alerts.shown.size(), 1U);
+    EXPECT_TRUE(controller.player.isMute) << "a click waits for as long as it takes";
+}
+
+TEST_F(MediaControlsTest, NothingOvertakesARemoval)
+{
+    startWithStations("A;http://a/\r");
+    choose(1);
+    media.play();
+    outlets.winWebRadioListEdit.setIsVisible(true);
+    outlets.tableViewListRadio.selectedByUser({0}, 0);
+    actions.validateItems();
+    platform.alerts.expect("<REMOVE_RADIO_TO_PLAY>", secondButtonAnswer, [&] {
+        media.pause();
+        media.stop();
+        EXPECT_EQ(media.state().status, Status::Playing);
+    });
+    outlets.radioRemove.pressedByUser();
+    EXPECT_EQ(media.state().status, Status::Playing);
+    media.pause();
+    EXPECT_EQ(media.state().status, Status::Paused);
+}
+
+TEST_F(MediaControlsTest, WhatWaitsForAServerIsDoneWithinTwoSeconds)
+{
+    startWithStations("A;http://a/\rB;http://b/\r");
+    for (const auto& [answered, chosen] : {std::pair{"12:00:02", 1}, {"12:00:03", 0}}) {
+        platform.clock.set("2016-10-05 12:00:00 +0000");
+        outlets.popupbuttonRadioList.selectItemAtIndex(0);
+        platform.httpClient.whileAsking = [&, answered = answered] {
+            media.next();
+            platform.clock.set("2016-10-05 " + std::string(answered) + " +0000");
+            platform.httpClient.whileAsking = [] {};
+        };
+        outlets.menuCheckUpdates.chosenByUser();
+        EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), chosen) << answered;
+    }
 }
 
 TEST_F(MediaControlsTest, WithoutStationsNothingSteps)

@@ -129,7 +129,9 @@ TEST_F(MenusTest, APlaybackItemLeavesAnOpenCellAlone)
         item->chosenByUser();
     EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before);
     outlets.menuRadioShowEditRadio.chosenByUser();
-    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before + 1);
+    platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", secondButtonAnswer);
+    outlets.menuQuit.chosenByUser();
+    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before + 2);
 }
 
 TEST_F(MenusTest, TheListItemTogglesItsWindowAndWaitsForThePreferences)
