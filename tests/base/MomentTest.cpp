@@ -21,6 +21,8 @@ TEST(Moment, AnOffsetIsTakenOff)
 {
     EXPECT_EQ(momentFromInternationalForm("2016-10-01 02:00:00 +0200"),
         momentFromInternationalForm("2016-10-01 00:00:00 +0000"));
+    EXPECT_EQ(momentFromInternationalForm("2016-10-01 23:59:00 +2359"),
+        momentFromInternationalForm("2016-10-01 00:00:00 +0000"));
     EXPECT_EQ(momentFromInternationalForm("2016-09-30 20:15:00 -0345"),
         momentFromInternationalForm("2016-10-01 00:00:00 +0000"));
 }
@@ -32,7 +34,9 @@ TEST(Moment, AnyOtherFormGivesNothing)
              "2016-13-01 00:00:00 +0000", "2016-02-30 00:00:00 +0000", "2015-02-29 00:00:00 +0000",
              "2016-10-01 24:00:00 +0000", "2016-10-01 00:60:00 +0000", "2016-10-01 00:00:60 +0000",
              "0000-01-01 00:00:00 +0000", "2016-10-01 00:00:00 0000", "2016-10-01 00:00:00 +00:00",
-             "2016-10-01 00:00:00 +2400", "2016-1a-01 00:00:00 +0000", "+016-10-01 00:00:00 +0000"})
+             "2016-10-01 00:00:00 +2400", "2016-1a-01 00:00:00 +0000", "+016-10-01 00:00:00 +0000",
+             "20161001 00:00:00 +0000", "2016-10-01 000000 +0000", "2016-10-01 00:00:00+0000",
+             "2016-10-01 00:00:00 +0060", "2016-10-01 00:00:00 +000", "2016-10-01 00:00:00 +0a00"})
         EXPECT_FALSE(momentFromInternationalForm(form)) << form;
     EXPECT_FALSE(momentFromInternationalForm(Text()));
 }

@@ -11,6 +11,7 @@
 #include <array>
 #include <chrono>
 #include <deque>
+#include <future>
 #include <stdexcept>
 #include <thread>
 
@@ -153,11 +154,28 @@ TEST(HttpServer, ClientsWhoDoNothingDoNotHoldUpItsEnd)
     ASSERT_TRUE(halfway.send("GET / HT"));
     ASSERT_TRUE(listening.send(listen));
     ASSERT_FALSE(listening.read(1).empty());
+    std::deque<RawClient> moreThanThreads;
+    for (int client = 0; client < HttpServer::mostConnections; ++client)
+        moreThanThreads.emplace_back(*server);
 
     const auto beginning = std::chrono::steady_clock::now();
     server.reset();
     EXPECT_LT(std::chrono::steady_clock::now() - beginning, std::chrono::seconds(2));
     EXPECT_EQ(silent.read(1) + halfway.read(1), "");
+}
+
+TEST(HttpServer, ItsEndEndsTheWaitForTheNextPieceOfAStream)
+{
+    HttpServer server;
+    std::string whyNot;
+    ASSERT_GT(server.listenAt("127.0.0.1", 0, whyNot), 0) << whyNot;
+    server.start();
+    auto isTimeForThePiece = std::async(std::launch::async,
+        [&] { return server.waitUntil(std::chrono::steady_clock::now() + std::chrono::minutes(1)); });
+    EXPECT_EQ(isTimeForThePiece.wait_for(std::chrono::milliseconds(20)), std::future_status::timeout);
+    server.end();
+    ASSERT_EQ(isTimeForThePiece.wait_for(std::chrono::seconds(30)), std::future_status::ready);
+    EXPECT_FALSE(isTimeForThePiece.get());
 }
 
 TEST(HttpServer, APortThatIsTakenIsToldInOneSentence)

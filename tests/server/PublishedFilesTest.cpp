@@ -23,6 +23,18 @@ TEST(PublishedFiles, APublishedFileWinsOverTheBuiltInAnswer)
     EXPECT_EQ(PublishedFiles("").contentOf("list.rdb", client), std::nullopt);
 }
 
+TEST(PublishedFiles, AFileIsGivenOutUpTo64MiB)
+{
+    const test::TemporaryFolder folder;
+    const PublishedFiles files(folder.path());
+    constexpr std::size_t largest = std::size_t{64} << 20;
+    folder.put("large", "");
+    ASSERT_EQ(::truncate(folder.path("large").c_str(), largest), 0);
+    EXPECT_TRUE(files.contentOf("large", client).has_value());
+    ASSERT_EQ(::truncate(folder.path("large").c_str(), largest + 1), 0);
+    EXPECT_FALSE(files.contentOf("large", client).has_value());
+}
+
 TEST(PublishedFiles, NothingButPlainFilesOfTheFolderItselfIsGivenOut)
 {
     const test::TemporaryFolder outside;
