@@ -164,6 +164,29 @@ TEST(HttpServer, ClientsWhoDoNothingDoNotHoldUpItsEnd)
     EXPECT_EQ(silent.read(1) + halfway.read(1), "");
 }
 
+TEST(HttpServer, ItsEndLeavesDescriptorsAloneThatItsFormerConnectionsHad)
+{
+    auto server = startedServer();
+    {
+        std::deque<RawClient> clients;
+        for (int client = 0; client < 8; ++client)
+            clients.emplace_back(*server);
+        for (const RawClient& client : clients)
+            EXPECT_TRUE(client.send(ask) && client.read(1 << 16).starts_with(granted));
+    }
+    EXPECT_EQ(answerTo(*server, ask), granted);
+    std::array<std::array<int, 2>, 8> pairs{};
+    for (auto& pair : pairs)
+        ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair.data()), 0);
+    server.reset();
+    for (const auto& pair : pairs) {
+        for (const int end : pair)
+            EXPECT_EQ(::send(end, "a", 1, MSG_NOSIGNAL), 1);
+        ::close(pair[0]);
+        ::close(pair[1]);
+    }
+}
+
 TEST(HttpServer, ItsEndEndsTheWaitForTheNextPieceOfAStream)
 {
     HttpServer server;

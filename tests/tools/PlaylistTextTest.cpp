@@ -68,7 +68,7 @@ TEST(PlaylistText, APlsGivesItsStationsInTheOrderOfTheirNumbers)
             "2! 4!"},
         {"Title3=alone\nFile1=one.mp3\nFile2=file:///x\n", {}, "2! 3! 1!"},
         {"File=http://a.example/\nFile1x=http://a.example/\nFile-1=http://a.example/\n"
-         "File99999999999999999999=http://a.example/\nFiles\n=\n",
+         "File99999999999999999999=http://a.example/\nFiles\nFile7\n=\n",
             {}},
         {"File18446744073709551615=http://a.example/\nFile0=http://b.example/",
             {"b.example=http://b.example/", "a.example=http://a.example/"}},
