@@ -1,11 +1,46 @@
 #!/usr/bin/python3
 """Processor time and proportional memory while a stream plays: player and engine together against bare mpv with its
-defaults on the same stream, one after the other; no recorder runs."""
+defaults on the same stream, one after the other; no recorder runs.
 
+With "reconnect" as its first argument: the engine's private memory while a stream plays, once it was dropped and opened again,
+and so many minutes (five unless given) after that."""
+
+import http.server
 import sys
+import threading
 import time
+import urllib.request
 
 import setting
+
+
+class Relay(http.server.ThreadingHTTPServer):
+    """Passes a stream on to its listeners, and drops them on demand."""
+
+    def __init__(self, stream):
+        super().__init__(("127.0.0.1", 0), Relay.Handler)
+        self.stream = stream
+        self.listeners = 0
+        self.drops = 0
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    @property
+    def address(self):
+        return f"http://127.0.0.1:{self.server_port}/"
+
+    class Handler(http.server.BaseHTTPRequestHandler):
+        def do_GET(self):
+            self.server.listeners += 1
+            drops = self.server.drops
+            with urllib.request.urlopen(self.server.stream) as stream:
+                self.send_response(200)
+                self.send_header("Content-Type", stream.headers["Content-Type"])
+                self.end_headers()
+                while self.server.drops == drops and (piece := stream.read1(4096)):
+                    self.wfile.write(piece)
+
+        def log_message(self, *_):
+            pass
 
 
 def measure(desk, command, seconds):
@@ -19,6 +54,30 @@ def measure(desk, command, seconds):
     process.terminate()
     process.wait()
     return used, memory
+
+
+def measure_reconnect(minutes):
+    with setting.desktop.Desktop(accessibility=False) as desk, setting.data_server("--demo") as server, \
+            Relay(setting.demo_stream(server)) as relay, \
+            setting.home(10, relay.address, isAutoPlayOpenApp="YES") as folder:
+        process = desk.start(setting.player_command(folder, server))
+        setting.desktop.wait_until(lambda: relay.listeners == 1, "the stream to be asked for")
+        time.sleep(60)
+        engine = setting.family(process)[1]
+        figures = {"playing for a minute": setting.private_memory(engine)}
+        relay.drops += 1
+        setting.desktop.wait_until(lambda: relay.listeners == 2, "the stream to be asked for again", 60)
+        time.sleep(20)
+        figures["opened again"] = setting.private_memory(engine)
+        time.sleep(60 * minutes)
+        figures[f"{minutes} minutes later"] = setting.private_memory(engine)
+        assert setting.family(process)[1] == engine and relay.listeners == 2
+        process.terminate()
+        process.wait()
+    for when, size in figures.items():
+        print(f"private memory of the engine, {when:24} {size:6.1f} MiB")
+    first, *_, last = figures.values()
+    setting.verdict("growth by the reconnect", last - first, 3, "MiB")
 
 
 def main(runs, seconds):
@@ -38,4 +97,7 @@ def main(runs, seconds):
 
 
 if __name__ == "__main__":
-    main(int(sys.argv[1]) if len(sys.argv) > 1 else 3, int(sys.argv[2]) if len(sys.argv) > 2 else 60)
+    if sys.argv[1:2] == ["reconnect"]:
+        measure_reconnect(int(sys.argv[2]) if len(sys.argv) > 2 else 5)
+    else:
+        main(int(sys.argv[1]) if len(sys.argv) > 1 else 3, int(sys.argv[2]) if len(sys.argv) > 2 else 60)

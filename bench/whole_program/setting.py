@@ -92,14 +92,24 @@ def family(process):
     return [process.pid, *map(int, children)]
 
 
-def proportional_memory(pids):
-    """Proportional set size in MiB."""
+def memory(pids, *kinds):
+    """The sum of those lines of the kernel's account, in MiB."""
     total = 0
     for pid in pids:
         for line in Path(f"/proc/{pid}/smaps_rollup").read_text(encoding="ascii").splitlines():
-            if line.startswith("Pss:"):
+            if line.startswith(kinds):
                 total += int(line.split()[1])
     return total / 1024
+
+
+def proportional_memory(pids):
+    """Proportional set size in MiB."""
+    return memory(pids, "Pss:")
+
+
+def private_memory(pid):
+    """What the process alone uses, in MiB."""
+    return memory([pid], "Private_Clean:", "Private_Dirty:")
 
 
 def processor_time(pids):

@@ -75,6 +75,8 @@ int main()
     (void)prctl(PR_SET_PDEATHSIG, SIGKILL);
     // libmpv starts threads for every stream; an arena for each would keep what streams of the past have used.
     (void)mallopt(M_ARENA_MAX, 1);
+    // Otherwise it would rise with the first large buffer that is freed, and large buffers would stay with the process.
+    (void)mallopt(M_MMAP_THRESHOLD, 256 * 1024);
     if (confineThisProcess() == Confinement::NotSupported)
         (void)std::fputs("sonavel-engine: this system cannot confine it, so it plays unconfined\n", stderr);
     (void)std::setlocale(LC_NUMERIC, "C");
