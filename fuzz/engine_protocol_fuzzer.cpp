@@ -48,11 +48,13 @@ void checkTexts(std::string_view bytes)
     checkLine(lineFromEvent(TitleEvent{1, title}));
     if (!isValidUtf8(bytes))
         return;
-    const LoadCommand command{2, std::string(bytes)};
-    std::string line = lineFromCommand(command);
-    checkLine(line);
-    line.pop_back();
-    require(commandFromLine(line) == EngineCommand(command), "every address comes back");
+    const std::string text(bytes);
+    for (const LoadCommand& command : {LoadCommand{2, text, "name"}, LoadCommand{2, "address", text}}) {
+        std::string line = lineFromCommand(command);
+        checkLine(line);
+        line.pop_back();
+        require(commandFromLine(line) == EngineCommand(command), "every address and name comes back");
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "adapters/EngineProcess.h"
 
+#include "engine/StreamTitle.h"
 #include "platform/NotificationCenter.h"
 
 #include <algorithm>
@@ -54,6 +55,7 @@ public:
     }
 
     [[nodiscard]] const Text& address() const { return item_->address; }
+    [[nodiscard]] Text name() const { return streamTitle(item_->name.view()); }
     [[nodiscard]] float volume() const { return volume_; }
     [[nodiscard]] bool isMuted() const { return isMuted_; }
 
@@ -147,7 +149,7 @@ void EngineProcess::sendSound(const Player& player)
 void EngineProcess::sendStream()
 {
     sendSound(stream_->player);
-    engine_->send(LoadCommand{++load_, stream_->player.address()});
+    engine_->send(LoadCommand{++load_, stream_->player.address(), stream_->player.name()});
     if (stream_->isHeld)
         engine_->send(HoldCommand{});
 }

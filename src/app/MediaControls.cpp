@@ -2,10 +2,8 @@
 
 #include "app/WinSonavelController.h"
 #include "platform/Clock.h"
-#include "playback/StreamAddress.h"
 #include "ui/Outlets.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace sonavel {
@@ -37,7 +35,7 @@ const MediaState& MediaControls::state()
         item_ = player.playerItem;
         state_.stream = ++streams_;
         state_.address = item_->address;
-        state_.station = stationName(item_->address);
+        state_.station = item_->name;
     }
     if (item_)
         state_.status = player.isPlay ? Status::Playing : Status::Paused;
@@ -45,14 +43,6 @@ const MediaState& MediaControls::state()
     state_.canPlay = outlets_.buttonPlayPause.state().isEnabled;
     state_.canStep = controller_.stationList.numberOfStations() > 0;
     return state_;
-}
-
-Text MediaControls::stationName(const Text& address) const
-{
-    const StationRecords& stations = *controller_.stationList.listRadio;
-    const auto found = std::find_if(stations.begin(), stations.end(),
-        [&](const auto& station) { return usableStreamAddress(station->link()) == address; });
-    return found == stations.end() ? hostOfStreamAddress(address) : (*found)->radio();
 }
 
 void MediaControls::play()

@@ -20,7 +20,7 @@ struct MediaState {
     Status status = Status::Stopped;
     /// Counts the streams that were played; 0 before the first and while there is none.
     std::uint64_t stream = 0;
-    /// The name of the station whose address is played, or the address's host where the list has none.
+    /// The name of the station that is played.
     Text station;
     Text address;
     /// 0.0 (silent) to 1.0 (full).
@@ -67,7 +67,6 @@ private:
     void step(bool isPrevious);
     void perform(const void* source, Actions::Operation operation);
     [[nodiscard]] Actions::Operation unlessLate(Actions::Operation operation) const;
-    [[nodiscard]] Text stationName(const Text& address) const;
 
     WinSonavelController& controller_;
     Outlets& outlets_;

@@ -96,6 +96,7 @@ void MpvEngine::load(const LoadCommand& command)
         return;
     }
     applyHold();
+    (void)mpv_set_property_string(player_, "force-media-title", command.name.string().c_str());
     const std::string file = address.string();
     std::array<const char*, 3> arguments{"loadfile", file.c_str(), nullptr};
     if (mpv_command(player_, arguments.data()) < 0

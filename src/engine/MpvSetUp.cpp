@@ -50,6 +50,8 @@ constexpr std::array options{
     Option{"tls-verify", "yes"},
     Option{"metadata-codepage", "utf-8"},
     Option{"audio-client-name", "Sonavel"},
+    // What sound servers call the stream.
+    Option{"title", "${force-media-title}"},
     Option{"user-agent", "Sonavel"},
     // A sound server that speaks the older protocol is the common case, and the quickest to ask.
     Option{"ao", "pulse,pipewire,"},

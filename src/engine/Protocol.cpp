@@ -58,18 +58,21 @@ auto valueOf(const Words& words, std::string_view word) -> std::optional<decltyp
     return found->value;
 }
 
-bool needsEscape(unsigned char byte)
+/// Whether a text is the last argument of its line, so that it may hold blanks.
+enum class Place { Last, Before };
+
+bool needsEscape(unsigned char byte, Place place)
 {
-    return byte < 0x20 || byte == 0x7F || byte == '%';
+    return byte < 0x20 || byte == 0x7F || byte == '%' || (byte == ' ' && place == Place::Before);
 }
 
-std::string escaped(std::string_view text)
+std::string escaped(std::string_view text, Place place)
 {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string result;
     for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
-        if (needsEscape(byte))
+        if (needsEscape(byte, place))
             result.append({'%', digits[byte >> 4U], digits[byte & 0xFU]});
         else
             result += character;
@@ -136,7 +139,8 @@ std::string volumeText(float volume)
 struct CommandLine {
     std::string operator()(const LoadCommand& command) const
     {
-        return lineOf({"load", std::to_string(command.load), escaped(command.address.view())});
+        return lineOf({"load", std::to_string(command.load), escaped(command.address.view(), Place::Before),
+            escaped(command.name.view(), Place::Last)});
     }
     std::string operator()(const HoldCommand&) const { return lineOf({"hold"}); }
     std::string operator()(const ContinueCommand&) const { return lineOf({"continue"}); }
@@ -162,17 +166,18 @@ struct EventLine {
     }
     std::string operator()(const TitleEvent& event) const
     {
-        return lineOf({"title", std::to_string(event.load), escaped(event.title.view())});
+        return lineOf({"title", std::to_string(event.load), escaped(event.title.view(), Place::Last)});
     }
 };
 
 std::optional<EngineCommand> loadFrom(std::string_view arguments)
 {
     const auto load = numberFrom<std::uint64_t>(takeWord(arguments));
-    const auto address = unescaped(arguments);
-    if (!load || !address)
+    const auto address = unescaped(takeWord(arguments));
+    const auto name = unescaped(arguments);
+    if (!load || !address || !name)
         return std::nullopt;
-    return LoadCommand{*load, *address};
+    return LoadCommand{*load, *address, *name};
 }
 
 std::optional<EngineCommand> volumeFrom(std::string_view arguments)

@@ -1,11 +1,12 @@
 // The line protocol between the player and its engine.
 //
 // Both sides write lines of UTF-8 text, ended by a line feed. A line is a word and its arguments, joined by blanks; the
-// last argument of some runs to the end of the line, with control characters and "%" escaped as %XX. A line that is not
-// one of these, or is too long, is ignored: neither side trusts the other.
+// last argument of some runs to the end of the line. In texts, control characters and "%" are escaped as %XX, and
+// blanks where another argument follows. A line that is not one of these, or is too long, is ignored: neither side
+// trusts the other.
 //
 //   player to engine                       engine to player
-//     load ID ADDRESS                        state ID connecting|answered|buffering|playing
+//     load ID ADDRESS NAME                   state ID connecting|answered|buffering|playing
 //     hold, continue, stop                   failed ID REASON
 //     volume 0.7                             title ID TEXT
 //     muted yes|no
@@ -55,6 +56,8 @@ enum class StreamState {
 struct LoadCommand {
     std::uint64_t load = 0;
     Text address;
+    /// What sound servers call it.
+    Text name;
 
     friend bool operator==(const LoadCommand&, const LoadCommand&) = default;
 };
@@ -124,7 +127,7 @@ using EngineEvent = std::variant<StateEvent, FailedEvent, TitleEvent>;
 /// and no more than that is ever kept.
 class LineReader {
 public:
-    /// Holds the longest address with every byte of it escaped.
+    /// Holds the longest address and the longest name with every byte of them escaped.
     static constexpr std::size_t longestLine = 32768;
 
     /// Takes the bytes over; then `nextLine` gives the lines that they end.

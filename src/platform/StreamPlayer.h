@@ -16,9 +16,10 @@
 
 namespace sonavel {
 
-/// What a player plays: the address of a stream.
+/// What a player plays: the address of a stream, and what to call it where sounds are listed.
 struct PlayerItem {
     Text address;
+    Text name;
 };
 
 class StreamPlayer {

@@ -9,6 +9,7 @@
 namespace sonavel {
 
 class NotificationCenter;
+class StationList;
 struct Outlets;
 
 /// Three states: Stopped (`isStop`, no `mediaPlayer`), Playing (`isPlay`) and Paused (neither), in each of them muted
@@ -17,7 +18,8 @@ struct Outlets;
 /// Main thread. Borrows everything it is given.
 class Player {
 public:
-    Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, Outlets& outlets);
+    Player(const StationList& stationList, StreamPlayers& streamPlayers, NotificationCenter& notificationCenter,
+        Outlets& outlets);
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
     ~Player() = default;
@@ -33,8 +35,9 @@ public:
     std::shared_ptr<const PlayerItem> playerItem;
     std::unique_ptr<StreamPlayer> mediaPlayer;
 
-    /// Plays `playRadioLink` with a new player, whatever the state; the former one falls silent. When the address
-    /// cannot be played (see `usableStreamAddress`), stops instead.
+    /// Plays `playRadioLink` with a new player, whatever the state; the former one falls silent. The stream is called
+    /// as the first station with that address is at that moment, or by its host where the list has none. When the
+    /// address cannot be played (see `usableStreamAddress`), stops instead.
     void play();
     /// The same steps as `play`, on the calling thread.
     void playIntoBackgroundProcess();
@@ -63,7 +66,9 @@ public:
 
 private:
     void becomePlaying();
+    [[nodiscard]] Text nameOf(const Text& address) const;
 
+    const StationList& stationList_;
     StreamPlayers& streamPlayers_;
     NotificationCenter& notificationCenter_;
     Outlets& outlets_;

@@ -2,6 +2,7 @@
 """The built player among the desktop's services: media keys, a second start, sleep and network. Takes the folder of the
 built programs as its argument."""
 
+import json
 import plistlib
 import subprocess
 import sys
@@ -193,6 +194,28 @@ class DesktopServicesTest(unittest.TestCase):
                    "-depth", "8", "txt:-"]
         return subprocess.run(picture, env=self.desk.environment, capture_output=True, text=True,
                               check=True).stdout.split()[-2]
+
+    def test_the_sound_mixer_shows_the_program_and_the_station(self):
+        name = "${path} --ao=null Radio"
+        server = self.desk.start([BUILD / "sonavel-data-server", "--demo", "--port", "0"], stdout=subprocess.PIPE,
+                                 text=True)
+        with server.stdout:
+            address = server.stdout.readline().split()[-1]
+        database = Path(self.home, "Library/Preferences/radiolist.csv")
+        database.parent.mkdir(parents=True)
+        database.write_text(f"{name};{address}demo/orchard.mp3\r")
+        self.start("--data-server", self.small_server().address, "--probe", address)
+        self.media("next")
+        self.media("play")
+        wait_until(lambda: self.mixer_entry() == ("Sonavel", name), "the station in the sound mixer")
+
+    def mixer_entry(self):
+        """The application and the stream as sound mixers show them; nothing while there is none."""
+        listed = subprocess.run(["pactl", "--format=json", "list", "sink-inputs"], env=self.desk.environment,
+                                capture_output=True, text=True, check=True)
+        for entry in json.loads(listed.stdout or "[]"):
+            return entry["properties"]["application.name"], entry["properties"]["media.name"]
+        return None
 
     def test_a_stream_is_asked_for_again_at_once_after_sleep_and_when_the_network_is_back(self):
         server = self.small_server()

@@ -51,7 +51,7 @@ protected:
     {
         lastFailure_.reset();
         hasSounded_ = false;
-        auto next = engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{address}));
+        auto next = engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{address, {}}));
         player_ = std::move(next);
         player_->setVolume(0.5F);
         player_->setMuted(false);

@@ -87,24 +87,51 @@ TEST_F(EngineProcessTest, ATitleGoesWithItsStream)
     EXPECT_TRUE(shown_.title.isAbsent());
 }
 
+/// An engine that only writes down what it is told.
+class ListeningEngine {
+public:
+    ListeningEngine()
+    {
+        folder_.put("engine", "#!/bin/sh\nexec cat >" + folder_.path("heard") + "\n");
+        std::filesystem::permissions(program(), std::filesystem::perms::owner_all);
+    }
+
+    [[nodiscard]] std::string program() const { return folder_.path("engine"); }
+
+    /// What follows the word in the lines that begin with it, each with a line feed.
+    [[nodiscard]] std::string heard(const std::string& word) const
+    {
+        std::string result;
+        std::ifstream lines(folder_.path("heard"));
+        for (std::string line; std::getline(lines, line);)
+            result += line.starts_with(word + ' ') ? line.substr(word.size() + 1) + '\n' : "";
+        return result;
+    }
+
+private:
+    TemporaryFolder folder_;
+};
+
 TEST_F(EngineProcessTest, TheEngineIsGivenOnlyVolumesThatThereAre)
 {
-    const TemporaryFolder folder;
-    const std::string heard = folder.path("heard");
-    folder.put("engine", "#!/bin/sh\nexec cat >" + heard + "\n");
-    std::filesystem::permissions(folder.path("engine"), std::filesystem::perms::owner_all);
-    use(shortDelays, folder.path("engine"));
+    const ListeningEngine engine;
+    use(shortDelays, engine.program());
     play("http://radio.example/");
     for (const float volume : {7.0F, -1.0F, 1.0F})
         player_->setVolume(volume);
-    std::string volumes;
+    EXPECT_TRUE(loop_.runUntil([&] { return engine.heard("volume") == "0.500000\n1.000000\n0.000000\n1.000000\n"; }))
+        << engine.heard("volume");
+}
+
+TEST_F(EngineProcessTest, TheEngineIsGivenTheNameOfTheStationAsAShortLine)
+{
+    const ListeningEngine engine;
+    use(shortDelays, engine.program());
+    const std::string name = " a\nstop \xE2\x80\xAE" + std::string(1000, 'b');
+    engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{"http://h/", name}))->play();
     EXPECT_TRUE(loop_.runUntil([&] {
-        volumes.clear();
-        std::ifstream lines(heard);
-        for (std::string line; std::getline(lines, line);)
-            volumes += line.starts_with("volume ") ? line.substr(7) + ' ' : "";
-        return volumes == "0.500000 1.000000 0.000000 1.000000 ";
-    })) << volumes;
+        return engine.heard("load") == "1 http://h/ a stop  " + std::string(492, 'b') + '\n';
+    })) << engine.heard("load");
 }
 
 TEST_F(EngineProcessTest, APlayerThatIsGoneLeavesNoConnection)
@@ -132,7 +159,7 @@ TEST_F(EngineProcessTest, OnlyThePlayerThatPlayedLastIsHeard)
     play(server.address("/first"));
     ASSERT_TRUE(comesTo(State::Playing));
     const auto second =
-        engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{server.address("/second")}));
+        engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{server.address("/second"), {}}));
     EXPECT_EQ(shown_.state, State::Playing);
     second->play();
     ASSERT_TRUE(loop_.runUntil([&] { return server.connectionCount() == 2 && open == 1; }));

@@ -1,5 +1,6 @@
 #include "engine/Protocol.h"
 
+#include "engine/StreamTitle.h"
 #include "playback/StreamAddress.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,7 @@ const std::vector<std::string> hostileTexts{"", " ", "http://host/a b", "a\nstop
 TEST(Protocol, NoTextCanSayMoreThanItself)
 {
     for (const std::string& text : hostileTexts) {
-        const LoadCommand command{18446744073709551615U, text};
+        const LoadCommand command{18446744073709551615U, text, text};
         const TitleEvent event{7, text};
         for (std::string line : {lineFromCommand(command), lineFromEvent(event)}) {
             ASSERT_EQ(line.find('\n'), line.size() - 1);
@@ -38,9 +39,9 @@ TEST(Protocol, LinesThatAreNotOfTheProtocolAreIgnored)
 {
     for (const char* line : {"", " ", "load", "loud 1 http://a/", "load -1 http://a/", "load 1x http://a/",
              "load 18446744073709551616 http://a/", "load 1 http://a/%4", "load 1 http://a/%zz", "load 1 http://a/% 1",
-             "load 1 http://a/%FF", "load 1 \xFF", "stop now", " hold", "HOLD", "volume", "volume 1.1", "volume -0.1",
-             "volume nan", "volume inf", "volume 0,5", "volume 0.5 ", "volume 1e99", "muted", "muted maybe",
-             "muted yes no"})
+             "load 1 http://a/%FF", "load 1 \xFF", "load 1 http://a/ %4", "load 1 http://a/ \xFF", "stop now", " hold",
+             "HOLD", "volume", "volume 1.1", "volume -0.1", "volume nan", "volume inf", "volume 0,5", "volume 0.5 ",
+             "volume 1e99", "muted", "muted maybe", "muted yes no"})
         EXPECT_FALSE(commandFromLine(line).has_value()) << line;
     for (const char* line : {"", "state", "state playing", "state 1", "state 1 dancing", "state 1 playing ", "title x",
              "title 1 %0", "title 1 \xC3", "failed 1", "failed 1 no reason", "failed one ended", "load 1 http://a/"})
@@ -74,14 +75,15 @@ TEST(Protocol, ALineThatNeverEndsIsDroppedAndTheNextOneIsRead)
     EXPECT_EQ(reader.nextLine(), "hold");
 }
 
-TEST(Protocol, TheLongestAddressFitsALine)
+TEST(Protocol, TheLongestAddressAndNameFitALine)
 {
     const std::string address = "http://host/" + std::string(longestStreamAddress - 12, '%');
     LineReader reader;
-    reader.append(lineFromCommand(LoadCommand{1, address}));
+    const LoadCommand command{1, address, streamTitle(std::string(10'000, '%'))};
+    reader.append(lineFromCommand(command));
     const auto line = reader.nextLine();
     ASSERT_TRUE(line.has_value());
-    EXPECT_EQ(commandFromLine(*line), EngineCommand(LoadCommand{1, address}));
+    EXPECT_EQ(commandFromLine(*line), EngineCommand(command));
 }
 
 } // namespace

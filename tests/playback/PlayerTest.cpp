@@ -48,6 +48,7 @@ TEST_F(PlayerTest, PlayPauseGoesOnWithTheSamePlayer)
     EXPECT_TRUE(streams.last().isPlaying);
     EXPECT_EQ(streams.players.size(), 1U);
     EXPECT_EQ(streams.last().address, Text("http://alpha.example/"));
+    EXPECT_EQ(streams.last().name, Text("Alpha"));
 }
 
 TEST_F(PlayerTest, ANewPlayerSoundsAsTheControlsSayBeforeItStarts)
@@ -77,6 +78,7 @@ TEST_F(PlayerTest, PlayWhilePlayingSilencesTheFormerPlayer)
     EXPECT_TRUE(streams.players.front()->isGone);
     EXPECT_FALSE(streams.last().isGone);
     EXPECT_EQ(streams.last().address, Text("http://beta.example/"));
+    EXPECT_EQ(streams.last().name, Text("Beta"));
     expectPlaying();
 }
 

@@ -13,6 +13,7 @@ namespace sonavel {
 /// What became of one player. It is kept when the player is gone.
 struct RecordedPlayer {
     Text address;
+    Text name;
     float volume = 1.0F;
     bool isMuted = false;
     bool isPlaying = false;
@@ -34,6 +35,7 @@ public:
     {
         players.push_back(std::make_shared<RecordedPlayer>());
         last().address = item->address;
+        last().name = item->name;
         return std::make_unique<Recorder>(players.back());
     }
 
