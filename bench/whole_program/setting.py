@@ -51,7 +51,7 @@ def write_home(folder, count, address="http://127.0.0.1:9/", **preferences):
     (store / "radiolist.rdb").write_bytes(base64.b64encode(encrypted))
     now = datetime.now(timezone.utc).strftime("%Y-%m-%d %H:%M:%S +0000")
     values = {
-        "appVersion": "0.1.0", "appBuild": "1", "isAutoPlay": "NO", "isAutoPlayOpenApp": "NO", "isVisibleWinEdit": "NO",
+        "appVersion": "1.0.0", "appBuild": "1", "isAutoPlay": "NO", "isAutoPlayOpenApp": "NO", "isVisibleWinEdit": "NO",
         "defaultStation": "Aaa", "defaultVolume": "0.700000", "enableMultipleSelection": "YES",
         "maxLenghtRadioName": "60", "setTimeOutLimit": "30.000000", "lastUpdateAppCheck": now,
         "lastUpdateDataCheck": now} | preferences

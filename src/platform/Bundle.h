@@ -11,4 +11,7 @@ struct Bundle {
     Text version; ///< CFBundleVersion, the number of the build
 };
 
+/// This program's own. The one place where the numbers of the build description enter the code.
+[[nodiscard]] Bundle programBundle();
+
 } // namespace sonavel

@@ -46,8 +46,6 @@ namespace sonavel {
 
 namespace {
 
-constexpr const char* buildNumber = "1";
-
 /// Beside the player in the build, in the folder for such programs when installed.
 std::string enginePath()
 {
@@ -68,8 +66,6 @@ DataServerSettings serverSettings(const Settings& settings)
     server.content = settings.isDemo ? DataServerSettings::Content::Demo : DataServerSettings::Content::Starter;
     if (settings.offersUpdate)
         server.offer = DataServerSettings::Offer::NewerVersion;
-    server.version = std::string(SONAVEL_VERSION);
-    server.build = std::string(buildNumber);
     return server;
 }
 
@@ -93,7 +89,7 @@ struct Program::Parts {
         , strings(localeOf(settings))
         , files(toText(settings.home))
         , preferenceDomains(files)
-        , curl(SONAVEL_VERSION)
+        , curl(programBundle().shortVersion)
         , httpClient(curl)
         , engine(eventLoop, notificationCenter, enginePath())
         , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, outlets)
@@ -119,7 +115,7 @@ struct Program::Parts {
             .notificationCenter = notificationCenter,
             .runLoop = runLoop,
             .process = process,
-            .bundle = {"Sonavel", SONAVEL_VERSION, buildNumber},
+            .bundle = programBundle(),
         };
     }
 

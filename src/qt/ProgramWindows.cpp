@@ -2,8 +2,10 @@
 
 #include "app/Actions.h"
 #include "app/WinSonavelController.h"
+#include "platform/Bundle.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/Images.h"
+#include "qt/kit/TextConversion.h"
 #include "qt/windows/EditSheetDialog.h"
 #include "qt/windows/MainWindow.h"
 #include "qt/windows/ProgramDialog.h"
@@ -81,7 +83,7 @@ void ProgramWindows::buildAboutWindow()
     label("imageAppIcon")->setPixmap(programIcon().pixmap(iconSize));
     label("labelAppName")->setText(QStringLiteral("Sonavel"));
     label("labelAppVersion")
-        ->setText(qtTrId("ABOUT_VERSION").replace(QStringLiteral("%@"), QStringLiteral(SONAVEL_VERSION)));
+        ->setText(qtTrId("ABOUT_VERSION").replace(QStringLiteral("%@"), toQString(programBundle().shortVersion)));
     connectAboutWindow(outlets_, window);
 }
 

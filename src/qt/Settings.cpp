@@ -1,5 +1,8 @@
 #include "qt/Settings.h"
 
+#include "platform/Bundle.h"
+#include "qt/kit/TextConversion.h"
+
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
@@ -189,7 +192,7 @@ SettingsOrEnd settingsFrom(const QStringList& arguments, const QMap<QString, QSt
         if (parser.isSet(QStringLiteral("help")))
             return EndAtOnce{0, helpText()};
         if (parser.isSet(QStringLiteral("version")))
-            return EndAtOnce{0, QStringLiteral("Sonavel " SONAVEL_VERSION)};
+            return EndAtOnce{0, QStringLiteral("Sonavel ") + toQString(programBundle().shortVersion)};
         return settingsOf(Lookup(parser, environment, configuration), environment);
     } catch (const UsageError& error) {
         return EndAtOnce{2, QStringLiteral("sonavel: ") + error.text};

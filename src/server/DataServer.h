@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/Bundle.h"
 
 #include <functional>
 #include <memory>
@@ -32,9 +33,9 @@ struct DataServerSettings {
     std::string address = "127.0.0.1";
     /// 0 takes a free one.
     int port = 0;
-    /// The program's own short version and build.
-    std::string version;
-    std::string build;
+    /// The short version and the build that it takes for the newest.
+    std::string version = programBundle().shortVersion.string();
+    std::string build = programBundle().version.string();
     /// Told in one sentence what goes wrong while it serves; on any thread.
     std::function<void(const std::string&)> report = [](const std::string&) {};
     /// How many seconds of a demo stream are sent at once; the rest follows at the speed at which it is played.

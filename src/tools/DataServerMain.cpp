@@ -64,8 +64,6 @@ std::string folderFrom(const char* path)
 DataServerSettings settingsFrom(int argc, char** argv)
 {
     DataServerSettings settings;
-    settings.version = SONAVEL_VERSION;
-    settings.build = SONAVEL_BUILD;
     settings.report = tell;
     constexpr std::array options{
         option{"directory", required_argument, nullptr, 'd'},
@@ -95,7 +93,7 @@ DataServerSettings settingsFrom(int argc, char** argv)
             settings.offer = DataServerSettings::Offer::NewerVersion;
             break;
         case 'V':
-            std::cout << "sonavel-data-server " << SONAVEL_VERSION << '\n';
+            std::cout << "sonavel-data-server " << programBundle().shortVersion.view() << '\n';
             std::exit(EXIT_SUCCESS);
         case 'h':
             std::cout << help;

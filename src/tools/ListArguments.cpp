@@ -1,5 +1,7 @@
 #include "tools/ListArguments.h"
 
+#include "platform/Bundle.h"
+
 #include <getopt.h>
 
 #include <array>
@@ -76,7 +78,7 @@ Options optionsFrom(int argc, char** argv)
             options.to = formatFrom(optarg);
             break;
         case 'V':
-            std::cout << "sonavel-list " << SONAVEL_VERSION << '\n';
+            std::cout << "sonavel-list " << programBundle().shortVersion.view() << '\n';
             std::exit(EXIT_SUCCESS);
         case 'h':
             std::cout << help;

@@ -87,9 +87,9 @@ class PreferencesTest(unittest.TestCase):
         self.desk.keys("ctrl+m", "alt+s")
         program.find(self.Role.MENU_ITEM, "About Sonavel")
         self.desk.keys("Return")
-        program.find(self.Role.LABEL, "Version 0.1.0")
+        program.find(self.Role.LABEL, "Version 1.0.0")
         self.desk.keys("Escape")
-        self.wait_gone(program, self.Role.LABEL, "Version 0.1.0")
+        self.wait_gone(program, self.Role.LABEL, "Version 1.0.0")
         self.desk.activate("Preferences")
         self.desk.keys("Escape")
         self.wait_gone(program, self.Role.DIALOG, "Preferences")
@@ -192,7 +192,7 @@ class PreferencesTest(unittest.TestCase):
             "n;Sonavel\rv;9.8.7\rb;6\ra;\rp;file:///etc/passwd\rn;<b>First</b>\\nSecond\rr;\rl;\r")
         self.check_for_updates(program)
         program.find(self.Role.LABEL, "Sonavel has a new version")
-        line = program.find(self.Role.LABEL, "Sonavel 9.8.7 (6) is available. You have 0.1.0 (1)")
+        line = program.find(self.Role.LABEL, "Sonavel 9.8.7 (6) is available. You have 1.0.0 (1)")
         notes = program.find(self.Role.TEXT, "What is new")
         self.assertEqual(notes.text, "- <b>First</b>\n- Second\n")
         program.find(self.Role.PUSH_BUTTON, "Download").press()
@@ -206,10 +206,10 @@ class PreferencesTest(unittest.TestCase):
 
         self.desk.activate("Sonavel")
         self.desk.keys("alt+s", "Return")
-        for line in ("Sonavel", "Version 0.1.0", "Free software under the MIT license", "© 2026 The Sonavel developers"):
+        for line in ("Sonavel", "Version 1.0.0", "Free software under the MIT license", "© 2026 The Sonavel developers"):
             program.find(self.Role.LABEL, line)
         self.desk.keys("Escape")
-        self.wait_gone(program, self.Role.LABEL, "Version 0.1.0")
+        self.wait_gone(program, self.Role.LABEL, "Version 1.0.0")
         self.quit(program)
 
     def test_keys_wait_while_a_server_is_silent_and_old_media_keys_are_dropped(self):
