@@ -324,8 +324,8 @@
         <translation>ist verfügbar. Sie haben</translation>
     </message>
     <message id="UPDATE_NONE">
-        <source>You have the newest version.</source>
-        <translation>Sie haben die neueste Version.</translation>
+        <source>You have the newest version, %@.</source>
+        <translation>Sie haben die neueste Version, %@.</translation>
     </message>
     <message id="UPDATE_NO_ANSWER">
         <source>The server gave no usable answer. Try again later.</source>
@@ -426,6 +426,14 @@
     <message id="PANEL_STATION_LISTS">
         <source>Station lists</source>
         <translation>Senderlisten</translation>
+    </message>
+    <message id="PANEL_OTHER_KIND">
+        <source>Only files whose names end in “.%@” can be imported.</source>
+        <translation>Nur Dateien, deren Name auf „.%@“ endet, können importiert werden.</translation>
+    </message>
+    <message id="PANEL_REPLACE">
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <translation>„%@“ ist bereits vorhanden. Möchten Sie die Datei ersetzen?</translation>
     </message>
     <message id="SPLASH_WAITING">
         <source>Waiting for %@…</source>

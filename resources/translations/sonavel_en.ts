@@ -324,8 +324,8 @@
         <translation>is available. You have</translation>
     </message>
     <message id="UPDATE_NONE">
-        <source>You have the newest version.</source>
-        <translation>You have the newest version.</translation>
+        <source>You have the newest version, %@.</source>
+        <translation>You have the newest version, %@.</translation>
     </message>
     <message id="UPDATE_NO_ANSWER">
         <source>The server gave no usable answer. Try again later.</source>
@@ -426,6 +426,14 @@
     <message id="PANEL_STATION_LISTS">
         <source>Station lists</source>
         <translation>Station lists</translation>
+    </message>
+    <message id="PANEL_OTHER_KIND">
+        <source>Only files whose names end in “.%@” can be imported.</source>
+        <translation>Only files whose names end in “.%@” can be imported.</translation>
+    </message>
+    <message id="PANEL_REPLACE">
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <translation>“%@” already exists. Do you want to replace it?</translation>
     </message>
     <message id="SPLASH_WAITING">
         <source>Waiting for %@…</source>

@@ -324,8 +324,8 @@
         <translation>está disponible. Usted tiene</translation>
     </message>
     <message id="UPDATE_NONE">
-        <source>You have the newest version.</source>
-        <translation>Tiene la versión más reciente.</translation>
+        <source>You have the newest version, %@.</source>
+        <translation>Tiene la versión más reciente, %@.</translation>
     </message>
     <message id="UPDATE_NO_ANSWER">
         <source>The server gave no usable answer. Try again later.</source>
@@ -426,6 +426,14 @@
     <message id="PANEL_STATION_LISTS">
         <source>Station lists</source>
         <translation>Listas de emisoras</translation>
+    </message>
+    <message id="PANEL_OTHER_KIND">
+        <source>Only files whose names end in “.%@” can be imported.</source>
+        <translation>Solo se pueden importar archivos cuyo nombre termine en «.%@».</translation>
+    </message>
+    <message id="PANEL_REPLACE">
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <translation>«%@» ya existe. ¿Desea reemplazarlo?</translation>
     </message>
     <message id="SPLASH_WAITING">
         <source>Waiting for %@…</source>

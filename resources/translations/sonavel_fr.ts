@@ -324,8 +324,8 @@
         <translation>est disponible. Vous avez</translation>
     </message>
     <message id="UPDATE_NONE">
-        <source>You have the newest version.</source>
-        <translation>Vous avez la version la plus récente.</translation>
+        <source>You have the newest version, %@.</source>
+        <translation>Vous avez la version la plus récente, %@.</translation>
     </message>
     <message id="UPDATE_NO_ANSWER">
         <source>The server gave no usable answer. Try again later.</source>
@@ -426,6 +426,14 @@
     <message id="PANEL_STATION_LISTS">
         <source>Station lists</source>
         <translation>Listes de stations</translation>
+    </message>
+    <message id="PANEL_OTHER_KIND">
+        <source>Only files whose names end in “.%@” can be imported.</source>
+        <translation>Seuls les fichiers dont le nom se termine par « .%@ » peuvent être importés.</translation>
+    </message>
+    <message id="PANEL_REPLACE">
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <translation>« %@ » existe déjà. Voulez-vous le remplacer ?</translation>
     </message>
     <message id="SPLASH_WAITING">
         <source>Waiting for %@…</source>

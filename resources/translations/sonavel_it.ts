@@ -324,8 +324,8 @@
         <translation>è disponibile. Hai</translation>
     </message>
     <message id="UPDATE_NONE">
-        <source>You have the newest version.</source>
-        <translation>Hai la versione più recente.</translation>
+        <source>You have the newest version, %@.</source>
+        <translation>Hai la versione più recente, %@.</translation>
     </message>
     <message id="UPDATE_NO_ANSWER">
         <source>The server gave no usable answer. Try again later.</source>
@@ -426,6 +426,14 @@
     <message id="PANEL_STATION_LISTS">
         <source>Station lists</source>
         <translation>Elenchi di stazioni</translation>
+    </message>
+    <message id="PANEL_OTHER_KIND">
+        <source>Only files whose names end in “.%@” can be imported.</source>
+        <translation>Si possono importare solo file il cui nome termina con «.%@».</translation>
+    </message>
+    <message id="PANEL_REPLACE">
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <translation>«%@» esiste già. Sostituirlo?</translation>
     </message>
     <message id="SPLASH_WAITING">
         <source>Waiting for %@…</source>

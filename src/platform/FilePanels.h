@@ -11,7 +11,7 @@ struct OpenPanel {
 };
 
 struct SavePanel {
-    /// The file name that is proposed.
+    /// The file name that is proposed. A name that the user enters without an extension gets that of this one.
     Text nameFieldStringValue;
     /// The folder that is shown first; absolute.
     Text directory;
@@ -29,7 +29,8 @@ public:
     /// meanwhile.
     [[nodiscard]] virtual Text runModal(const OpenPanel& panel) = 0;
 
-    /// The same for a file to be written. Where one of that name exists the panel has asked whether to replace it.
+    /// The same for a file to be written. Where one of the answered name exists the panel has asked whether to replace
+    /// it.
     [[nodiscard]] virtual Text runModal(const SavePanel& panel) = 0;
 };
 

@@ -61,14 +61,26 @@ TEST(Alerts, AStationNamedWithMarkupIsNotTakenAsMarkup)
     alerts.runModal({"Remove “<h1>R & B</h1>”?", {"Yes & go"}});
 }
 
+/// Types a name into the panel and confirms it; `then` runs once what the panel asks is open.
+void enter(
+    const QString& name, QFileDialog& panel, const std::function<void()>& then = [] {})
+{
+    auto* field = panel.findChild<QLineEdit*>("fileNameEdit");
+    panel.activateWindow();
+    field->setFocus();
+    EXPECT_TRUE(handleEventsUntil([field] { return field->hasFocus(); }));
+    field->setText(name);
+    QTimer::singleShot(0, qApp, then);
+    pressKey(*field, Qt::Key_Return);
+}
+
 /// Types a name into the open file panel and confirms it; what happens next is looked at by `then`.
 void whenPanelIsOpen(const QString& typed, const std::function<void(QFileDialog&)>& then)
 {
     QTimer::singleShot(0, qApp, [typed, then] {
         auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(panel, nullptr);
-        panel->findChild<QLineEdit*>("fileNameEdit")->setText(typed);
-        pressKey(*panel->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        enter(typed, *panel);
         then(*panel);
     });
 }
@@ -105,28 +117,83 @@ TEST(FilePanels, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
     EXPECT_TRUE(panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())}).isAbsent());
 }
 
-TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestion)
+/// The question or sentence of a panel that was confirmed; null when it has none.
+QMessageBox* panelsBox()
+{
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+TEST(FilePanels, OnlyAFileOfTheOfferedKindIsOpenedHoweverItsNameIsEntered)
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("Radio List.csv"));
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
     QtFilePanels panels;
-    const SavePanel panel{"Radio List.csv", Text(folder.path().toStdString())};
-    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
-        QTimer::singleShot(0, qApp, [answer] {
-            auto* open = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(open, nullptr);
-            QTimer::singleShot(0, qApp, [answer, open] {
-                auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                ASSERT_NE(question, nullptr);
-                question->button(answer)->click();
-                if (answer == QMessageBox::No)
-                    open->reject();
+    for (const auto& [name, isOpened] :
+        {std::pair("list.csv", true), {"LIST.CSV", true}, {"list.txt", false}, {"csv", false}, {"list.csv~", false}}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        bool isRefused = false;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(panel, nullptr);
+            enter(file.fileName(), *panel, [&isRefused, panel] {
+                QMessageBox* sentence = panelsBox();
+                isRefused = sentence != nullptr;
+                if (!isRefused)
+                    return;
+                EXPECT_TRUE(panel->isVisible());
+                sentence->close();
+                panel->reject();
             });
-            pressKey(*open->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
         });
-        const Text chosen = panels.runModal(panel);
-        EXPECT_EQ(chosen, answer == QMessageBox::Yes ? Text(file.fileName().toStdString()) : Text());
+        const Text chosen = panels.runModal(OpenPanel{"csv"});
+        EXPECT_EQ(chosen, isOpened ? Text(file.fileName().toStdString()) : Text()) << name;
+        EXPECT_EQ(isRefused, !isOpened) << name;
+    }
+}
+
+TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestionAboutItsWholeName)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir("my.lists"));
+    for (const char* name : {"Radio List.csv", "taken.csv", "taken.txt", "plain", "my.lists/taken.csv"}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    }
+    const struct {
+        const char* entered;
+        const char* asked; ///< null for no question
+        QMessageBox::StandardButton answer;
+        const char* chosen; ///< null for none
+    } cases[] = {
+        {"Radio List.csv", "Radio List.csv", QMessageBox::No, nullptr},
+        {"Radio List.csv", "Radio List.csv", QMessageBox::Yes, "Radio List.csv"},
+        {"taken", "taken.csv", QMessageBox::No, nullptr},
+        {"taken", "taken.csv", QMessageBox::Yes, "taken.csv"},
+        {"my.lists/taken", "taken.csv", QMessageBox::Yes, "my.lists/taken.csv"},
+        {"taken.txt", "taken.txt", QMessageBox::Yes, "taken.txt"},
+        {"free", nullptr, QMessageBox::No, "free.csv"},
+        {"plain", nullptr, QMessageBox::No, "plain.csv"},
+        {"free.m3u", nullptr, QMessageBox::No, "free.m3u"},
+    };
+    QtFilePanels panels;
+    for (const auto& [entered, asked, answer, chosen] : cases) {
+        QTimer::singleShot(0, qApp, [&, name = entered, button = answer, question = asked] {
+            auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(panel, nullptr);
+            enter(QString::fromLatin1(name), *panel, [=] {
+                QMessageBox* box = panelsBox();
+                EXPECT_EQ(box != nullptr, question != nullptr) << name;
+                if (box == nullptr)
+                    return;
+                EXPECT_TRUE(box->text().startsWith(QStringLiteral("“%1”").arg(QString::fromLatin1(question))))
+                    << qPrintable(box->text());
+                box->button(button)->click();
+                if (button == QMessageBox::No)
+                    panel->reject();
+            });
+        });
+        const Text answered = panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())});
+        EXPECT_EQ(answered, chosen ? Text(folder.filePath(chosen).toStdString()) : Text()) << entered;
     }
 }
 
