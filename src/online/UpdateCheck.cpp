@@ -48,8 +48,9 @@ void UpdateCheck::checkUpdate()
 /// Seen after a check on demand alone: at the start the window is not connected yet.
 void UpdateCheck::showNotification()
 {
-    outlets_.labelUpdateNotification.setStringValue(ports_.localizedStrings.localizedStringForKey(
-        updaterApp->hasUsableAnswer() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER"));
+    const Text notice = ports_.localizedStrings.localizedStringForKey(
+        updaterApp->hasUsableAnswer() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER");
+    outlets_.labelUpdateNotification.setStringValue(filledIn(notice, updaterApp->retrunVersionApp()));
     outlets_.winUpdateNotification.makeKeyAndOrderFront();
 }
 

@@ -184,9 +184,9 @@ class PreferencesTest(unittest.TestCase):
     def test_a_check_on_demand_tells_what_it_found(self):
         program = self.start()
         self.check_for_updates(program)
-        program.find(self.Role.LABEL, "You have the newest version.")
+        program.find(self.Role.LABEL, "You have the newest version, 1.0.0 (1).")
         self.desk.keys("Escape")
-        self.wait_gone(program, self.Role.LABEL, "You have the newest version.")
+        self.wait_gone(program, self.Role.LABEL, "You have the newest version, 1.0.0 (1).")
 
         (self.home / "sonavel.ini").write_text(
             "n;Sonavel\rv;9.8.7\rb;6\ra;\rp;file:///etc/passwd\rn;<b>First</b>\\nSecond\rr;\rl;\r")
@@ -225,11 +225,11 @@ class PreferencesTest(unittest.TestCase):
         subprocess.run(["playerctl", "--player=sonavel", "next"], env=self.desk.environment, check=True, timeout=10)
         time.sleep(2.5)
         self.assertEqual((volume.value, pop_up.name), (before, "Choose a station"))
-        self.assertFalse(program.shows(self.Role.LABEL, "You have the newest version."))
+        self.assertFalse(program.shows(self.Role.LABEL, "You have the newest version, 1.0.0 (1)."))
 
         self.server.send_signal(signal.SIGCONT)
         wait_until(lambda: volume.value < before, "the key to arrive")
-        program.find(self.Role.LABEL, "You have the newest version.")
+        program.find(self.Role.LABEL, "You have the newest version, 1.0.0 (1).")
         self.desk.keys("Escape")
         self.assertEqual(pop_up.name, "Choose a station")
         self.quit(program)

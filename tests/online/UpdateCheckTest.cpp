@@ -94,14 +94,15 @@ TEST_F(UpdateCheckTest, ANewerVersionShowsItsWindowAlsoAtTheStart)
     EXPECT_TRUE(platform.webBrowser.opened.empty());
 }
 
-TEST_F(UpdateCheckTest, NothingNewIsToldOnDemandAlone)
+TEST_F(UpdateCheckTest, NothingNewIsSaidOnDemandAloneWithTheVersionThatTheUserHas)
 {
-    publishVersion("1.2.0");
+    platform.localizedStrings.texts["UPDATE_NONE"] = "newest, %@.";
+    publishVersion("1.1.0");
     startOnTheNextDay();
     EXPECT_FALSE(outlets.winUpdateNotification.isVisible());
     checkOnDemand();
     EXPECT_TRUE(outlets.winUpdateNotification.isVisible());
-    EXPECT_EQ(notice(), "<UPDATE_NONE>");
+    EXPECT_EQ(notice(), "newest, 1.2.0 (5).");
     outlets.winUpdateNotification.closeRequestedByUser();
     EXPECT_FALSE(outlets.winUpdateNotification.isVisible());
 }

@@ -16,17 +16,23 @@
 #include "support/SettableClock.h"
 
 #include <functional>
+#include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
 namespace sonavel {
 
-/// Every text is its key in angle brackets, so that none is taken for its key.
+/// Every text is its key in angle brackets, so that none is taken for its key, or what the test gives.
 class BracketedStrings : public LocalizedStrings {
 public:
+    /// Takes the place of the key in brackets.
+    std::map<std::string, Text, std::less<>> texts;
+
     [[nodiscard]] Text localizedStringForKey(std::string_view key) const override
     {
-        return "<" + std::string(key) + ">";
+        const auto text = texts.find(key);
+        return text == texts.end() ? Text("<" + std::string(key) + ">") : text->second;
     }
 };
 
