@@ -1,8 +1,8 @@
 // Runs the tests of the windows without a display.
+#include "qt/kit/HouseStyle.h"
 #include "qt/ports/TranslatedStrings.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@ int main(int argumentCount, char** arguments)
 {
     testing::InitGoogleTest(&argumentCount, arguments);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argumentCount, arguments);
+    QApplication::setStyle(new sonavel::HouseStyle(QStringLiteral("fusion")));
     const sonavel::TranslatedStrings strings{QLocale(QLocale::English)};
     return RUN_ALL_TESTS();
 }

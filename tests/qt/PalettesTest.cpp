@@ -2,6 +2,13 @@
 
 #include "UserInput.h"
 #include "qt/kit/PrimaryButton.h"
+#include "qt/windows/StationComboBox.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSlider>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -25,6 +32,99 @@ double contrast(const QColor& one, const QColor& other)
     const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
+
+/// The controls of the windows, drawn as the program draws them in one of its appearances.
+class DrawnControlsTest : public testing::TestWithParam<QString> {
+protected:
+    DrawnControlsTest()
+    {
+        QApplication::setPalette(paletteFor(appearanceNamed(GetParam()).value()));
+        panel.setFrameShape(QFrame::StyledPanel);
+        panel.setBackgroundRole(QPalette::Base);
+        panel.setAutoFillBackground(true);
+        panel.setFixedHeight(40);
+        button.setCheckable(true);
+        check.setText(QStringLiteral("Check"));
+        auto* rows = new QVBoxLayout(&window);
+        for (QWidget* control :
+            std::initializer_list<QWidget*>{&panel, &field, &box, &slider, &button, &primary, &check, &notes})
+            rows->addWidget(control);
+        window.show();
+        window.activateWindow();
+        button.setFocus();
+        EXPECT_TRUE(handleEventsUntil([&] { return button.hasFocus(); }));
+    }
+    ~DrawnControlsTest() override { QApplication::setPalette(usualPalette); }
+
+    [[nodiscard]] bool isHighContrastWanted() const { return GetParam().startsWith(QStringLiteral("high-contrast")); }
+
+    /// How far the most conspicuous of some pixels stands out from the first one.
+    double standsOut(QPoint from, QPoint step, int pixels)
+    {
+        const QImage looks = window.grab().toImage();
+        double greatest = 1;
+        for (int pixel = 1; pixel < pixels; ++pixel)
+            greatest = std::max(greatest, contrast(looks.pixelColor(from), looks.pixelColor(from + pixel * step)));
+        return greatest;
+    }
+    double edgeOf(const QWidget& control, int fromLeft = 8)
+    {
+        return standsOut(control.geometry().topLeft() + QPoint(fromLeft, -2), {0, 1}, 6);
+    }
+    double focusRingOf(QWidget& control)
+    {
+        control.setFocus(Qt::TabFocusReason);
+        window.setAttribute(Qt::WA_KeyboardFocusChange);
+        return edgeOf(control, control.width() / 2);
+    }
+    /// The least of a text's contrast to what a button is filled with.
+    static double onFillOf(QWidget& control, const QColor& text)
+    {
+        const QImage looks = control.grab().toImage();
+        double least = 21;
+        for (int y = 4; y < looks.height() - 4; ++y)
+            least = std::min(least, contrast(text, looks.pixelColor(8, y)));
+        return least;
+    }
+
+    QPalette usualPalette = QApplication::palette();
+    QWidget window;
+    QFrame panel;
+    QLineEdit field;
+    StationComboBox box;
+    QSlider slider{Qt::Horizontal};
+    QPushButton button;
+    PrimaryButton primary;
+    QCheckBox check;
+    QPlainTextEdit notes;
+};
+
+TEST_P(DrawnControlsTest, EdgesAndTheFocusStandOutFromWhatIsAround)
+{
+    const double least = isHighContrastWanted() ? 7.0 : 3.0;
+    const std::pair<const char*, QWidget*> controls[]{{"panel", &panel}, {"field", &field}, {"pop-up", &box},
+        {"button", &button}, {"primary button", &primary}, {"check box", &check}, {"notes", &notes}};
+    for (const auto& [name, control] : controls)
+        EXPECT_GE(edgeOf(*control), least) << name;
+    EXPECT_GE(standsOut(slider.geometry().topRight() + QPoint(-8, 0), {0, 1}, slider.height()), least) << "groove";
+    for (QWidget* control : std::initializer_list<QWidget*>{&field, &box, &button, &primary})
+        EXPECT_GE(focusRingOf(*control), least);
+}
+
+TEST_P(DrawnControlsTest, TextsCanBeReadOnTheFillOfTheirButton)
+{
+    const QPalette palette = QApplication::palette();
+    EXPECT_GE(onFillOf(button, palette.color(QPalette::ButtonText)), isHighContrastWanted() ? 7.0 : 4.5);
+    EXPECT_GE(onFillOf(primary, palette.color(QPalette::HighlightedText)), isHighContrastWanted() ? 7.0 : 4.5);
+    EXPECT_GE(onFillOf(button, readableRed()), 4.5);
+    button.setChecked(true);
+    EXPECT_GE(onFillOf(button, readableRed()), 4.5) << "pressed";
+    button.setEnabled(false);
+    EXPECT_GE(onFillOf(button, palette.color(QPalette::Disabled, QPalette::ButtonText)), 3.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Appearances, DrawnControlsTest, testing::ValuesIn(appearanceNames()),
+    [](const auto& name) { return QString(name.param).remove(u'-').toStdString(); });
 
 TEST(Palettes, TextsCanBeReadOnTheirGround)
 {

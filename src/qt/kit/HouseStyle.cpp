@@ -12,18 +12,14 @@ namespace sonavel {
 
 namespace {
 
-/// The toolkit makes outlines of the window's colour, a little darker, which is hardly seen on a light window and not
-/// at all on a dark one.
-template <class Option> Option outlined(Option option)
-{
-    option.palette.setColor(QPalette::Window, option.palette.color(QPalette::PlaceholderText));
-    return option;
-}
+constexpr int darkenedForOutlines = 140; // percent; how the toolkit makes an outline of the window's colour
+constexpr int palettesInUse = 16;
 
 } // namespace
 
 HouseStyle::HouseStyle(const QString& base)
     : QProxyStyle(base.isEmpty() ? nullptr : QStyleFactory::create(base))
+    , outlined_(palettesInUse)
 {
 }
 
@@ -44,15 +40,16 @@ int HouseStyle::styleHint(
 void HouseStyle::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
-    const bool isMoreSeen = option != nullptr && isHighContrast(option->palette);
-    const auto draw = [&](const QStyleOption& copy) { QProxyStyle::drawPrimitive(element, &copy, painter, widget); };
-    if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-        button != nullptr && (element == PE_IndicatorCheckBox || isMoreSeen))
-        draw(outlined(*button));
-    else if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame != nullptr && isMoreSeen)
-        draw(outlined(*frame));
-    else if (const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option); menu != nullptr && isMoreSeen)
-        draw(outlined(*menu));
+    const auto drawOutlined = [&](auto copy) {
+        copy.palette = outlined(copy.palette);
+        QProxyStyle::drawPrimitive(element, &copy, painter, widget);
+    };
+    if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))
+        drawOutlined(*button);
+    else if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option))
+        drawOutlined(*frame);
+    else if (const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+        drawOutlined(*menu);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
@@ -61,10 +58,23 @@ void HouseStyle::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_Slider || slider == nullptr || !isHighContrast(option->palette))
+    if (control != CC_Slider || slider == nullptr)
         return QProxyStyle::drawComplexControl(control, option, painter, widget);
-    const QStyleOptionSlider copy = outlined(*slider);
+    QStyleOptionSlider copy = *slider;
+    copy.palette = outlined(copy.palette);
     QProxyStyle::drawComplexControl(control, &copy, painter, widget);
+}
+
+/// The toolkit keeps what it drew by the palette, hence one and the same for each.
+QPalette HouseStyle::outlined(const QPalette& palette) const
+{
+    const qint64 key = palette.cacheKey();
+    if (!outlined_.contains(key)) {
+        auto changed = std::make_unique<QPalette>(palette);
+        changed->setColor(QPalette::Window, edgeColor(palette).lighter(darkenedForOutlines));
+        outlined_.insert(key, changed.release());
+    }
+    return *outlined_.object(key);
 }
 
 /// Every menu bar asks for the picture of the button that shows what has no room, as good as never to be seen. The

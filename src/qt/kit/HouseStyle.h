@@ -1,14 +1,15 @@
 // The desktop's style with the few habits that the program wants of its controls.
 #pragma once
 
+#include <QCache>
+#include <QPalette>
 #include <QProxyStyle>
 
 namespace sonavel {
 
 /// Pop-ups open as scrollable lists, which stays quick with very many items; a click into a slider's groove takes the
-/// knob there; the texts of tables and buttons have room beside them; the outline of a check box is seen on dark
-/// palettes too, and on palettes of high contrast that of every control. `base` is the key of a style, or empty for the
-/// desktop's.
+/// knob there; the texts of tables and buttons have space beside them; the outlines of controls stand out from what is
+/// around them on light and dark palettes. `base` is the key of a style, or empty for the desktop's.
 class HouseStyle : public QProxyStyle {
 public:
     explicit HouseStyle(const QString& base = {});
@@ -23,6 +24,11 @@ public:
     QSize sizeFromContents(
         ContentsType type, const QStyleOption* option, const QSize& contents, const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+
+private:
+    [[nodiscard]] QPalette outlined(const QPalette& palette) const;
+
+    mutable QCache<qint64, QPalette> outlined_;
 };
 
 } // namespace sonavel

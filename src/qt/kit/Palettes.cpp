@@ -23,13 +23,16 @@ struct Colors {
 };
 
 constexpr Colors lightColors{
-    0xfff3f4f6, 0xff1d2126, 0xffffffff, 0xfffbfbfc, 0xff1f6feb, 0xffffffff, 0xff8b929b, 0xff626b76, 0xff0b57d0};
+    0xfff3f4f6, 0xff1d2126, 0xffffffff, 0xfffbfbfc, 0xff1a5fc8, 0xffffffff, 0xff7b828b, 0xff626b76, 0xff0b57d0};
 constexpr Colors darkColors{
-    0xff23262b, 0xffe8eaed, 0xff1a1c20, 0xff343941, 0xff2b6be4, 0xffffffff, 0xff7d858f, 0xffa0a8b2, 0xff8ab4f8};
+    0xff23262b, 0xffe8eaed, 0xff1a1c20, 0xff2c3036, 0xff2966dd, 0xffffffff, 0xff8d959f, 0xffa0a8b2, 0xff8ab4f8};
 constexpr Colors highContrastLightColors{
     0xffffffff, 0xff000000, 0xffffffff, 0xffffffff, 0xff003a9e, 0xffffffff, 0xff5c5c5c, 0xff404040, 0xff003a9e};
 constexpr Colors highContrastDarkColors{
     0xff000000, 0xffffffff, 0xff000000, 0xff1c1c1c, 0xff9fd0ff, 0xff000000, 0xff9a9a9a, 0xffc8c8c8, 0xff9fd0ff};
+
+constexpr qreal textInLightEdges = 0.55; // the share of the text's colour; the rest is the window's
+constexpr qreal textInDarkEdges = 0.42;
 
 struct NamedAppearance {
     Appearance appearance;
@@ -53,6 +56,11 @@ const NamedAppearance& entryOf(Appearance appearance)
 int lightness(const QPalette& palette, QPalette::ColorRole role)
 {
     return palette.color(QPalette::Active, role).lightness();
+}
+
+bool isDark(const QPalette& palette)
+{
+    return lightness(palette, QPalette::WindowText) > lightness(palette, QPalette::Window);
 }
 
 QPalette paletteOf(const Colors& colors)
@@ -106,11 +114,22 @@ bool isHighContrast(const QPalette& palette)
     return qAbs(lightness(palette, QPalette::WindowText) - lightness(palette, QPalette::Window)) == 255;
 }
 
+QColor mixed(const QColor& one, const QColor& other, qreal share)
+{
+    const auto part = [share](int from, int to) { return qRound(from + (to - from) * share); };
+    return {part(one.red(), other.red()), part(one.green(), other.green()), part(one.blue(), other.blue())};
+}
+
+QColor edgeColor(const QPalette& palette)
+{
+    const qreal usualShare = isDark(palette) ? textInDarkEdges : textInLightEdges;
+    return mixed(palette.color(QPalette::Active, QPalette::Window),
+        palette.color(QPalette::Active, QPalette::WindowText), isHighContrast(palette) ? 1.0 : usualShare);
+}
+
 QColor readableRed()
 {
-    const QPalette palette = QGuiApplication::palette();
-    const bool isDark = lightness(palette, QPalette::WindowText) > lightness(palette, QPalette::Window);
-    return isDark ? QColor(0xff, 0x8a, 0x80) : QColor(0xc0, 0x12, 0x1f);
+    return isDark(QGuiApplication::palette()) ? QColor(0xff, 0x9e, 0x95) : QColor(0xc0, 0x12, 0x1f);
 }
 
 } // namespace sonavel

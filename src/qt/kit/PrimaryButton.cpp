@@ -37,7 +37,7 @@ void PrimaryButton::reserveRoomFor(const QStringList& words, Picture picture)
 
 void PrimaryButton::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange)
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::PaletteChange)
         takeHighlightColors();
     QPushButton::changeEvent(event);
 }

@@ -13,12 +13,6 @@ namespace {
 
 constexpr qreal strengthOfTint = 0.18;
 
-QColor mixed(const QColor& ground, const QColor& tint)
-{
-    const auto part = [](int one, int other) { return qRound(one + (other - one) * strengthOfTint); };
-    return {part(ground.red(), tint.red()), part(ground.green(), tint.green()), part(ground.blue(), tint.blue())};
-}
-
 } // namespace
 
 FindField::FindField(QWidget* parent)
@@ -79,7 +73,7 @@ void FindField::takeColors()
     const QPalette usual = QGuiApplication::palette();
     QPalette colors;
     if (outcome_ == Outcome::Nothing)
-        colors.setColor(QPalette::Base, mixed(usual.color(QPalette::Base), readableRed()));
+        colors.setColor(QPalette::Base, mixed(usual.color(QPalette::Base), readableRed(), strengthOfTint));
     setPalette(colors);
     const QColor quiet = usual.color(QPalette::PlaceholderText);
     lens_->setIcon(imageNamed("find.png", quiet, quiet));
