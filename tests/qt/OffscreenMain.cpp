@@ -3,6 +3,7 @@
 #include "qt/ports/TranslatedStrings.h"
 
 #include <QApplication>
+#include <QFontInfo>
 
 #include <gtest/gtest.h>
 
@@ -13,5 +14,10 @@ int main(int argumentCount, char** arguments)
     QApplication application(argumentCount, arguments);
     QApplication::setStyle(new sonavel::HouseStyle(QStringLiteral("fusion")));
     const sonavel::TranslatedStrings strings{QLocale(QLocale::English)};
+    const QString family = QFontInfo(QApplication::font()).family();
+    if (const QString wanted = qEnvironmentVariable("SONAVEL_TEST_FONT", family); wanted != family) {
+        qCritical("The font %s is not installed; %s came instead.", qPrintable(wanted), qPrintable(family));
+        return 1;
+    }
     return RUN_ALL_TESTS();
 }

@@ -1,6 +1,7 @@
 #include "qt/windows/ProgramDialog.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +15,21 @@ namespace {
 constexpr double headlineSize = 1.25; // times the usual size of the font
 
 } // namespace
+
+bool ProgramDialog::event(QEvent* event)
+{
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+        growWithTexts();
+    return isHandled;
+}
+
+/// The toolkit lets a window become lower than its wrapped texts are.
+void ProgramDialog::growWithTexts()
+{
+    if (layout()->sizeConstraint() != QLayout::SetFixedSize && layout()->hasHeightForWidth())
+        setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+}
 
 void ProgramDialog::takeShape()
 {

@@ -29,12 +29,14 @@ public:
     void reject() override { close(); }
 
 protected:
+    bool event(QEvent* event) override;
     /// To be called once the description was set up, before the dialog is resized.
     void takeShape();
 
 private:
     void arrangeButtons();
     void takeProportions();
+    void growWithTexts();
 };
 
 } // namespace sonavel
