@@ -118,6 +118,17 @@ TEST_F(PopUpBinding, NamesAreDrawnAsTheyAreOnOneLine)
     EXPECT_EQ(widget.itemText(0), "Rock & <b>Roll</b> Radio");
 }
 
+TEST_F(PopUpBinding, TheOpenedListIsNoWiderThanItIsSeenSoThatLongNamesAreElided)
+{
+    popUp.setItems(titles({Text(std::string(200, 'x')), "Short"}));
+    widget.resize(90, widget.height());
+    widget.showPopup();
+    QApplication::processEvents();
+    const auto* list = static_cast<QListView*>(widget.view());
+    EXPECT_EQ(list->textElideMode(), Qt::ElideRight);
+    EXPECT_LE(list->visualRect(list->model()->index(0, 0)).width(), list->viewport()->width());
+}
+
 TEST_F(PopUpBinding, AHundredThousandStationsAreSharedAndNotMeasuredOneByOne)
 {
     std::vector<Text> names(100'000, Text("Station"));

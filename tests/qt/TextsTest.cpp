@@ -1,11 +1,18 @@
 // What the windows say of streams, files and names from outside.
+#include "UserInput.h"
 #include "adapters/NowPlaying.h"
 #include "qt/SaveFailure.h"
 #include "qt/kit/TextConversion.h"
+#include "qt/kit/WrappedText.h"
 #include "qt/ports/TranslatedStrings.h"
 #include "qt/windows/NowPlayingText.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace sonavel {
 namespace {
@@ -61,13 +68,51 @@ TEST(SaveFailures, NameWhatIsNotSavedAndWhy)
 
 TEST(Conversion, NothingFromOutsideBecomesMarkupOrAShortcut)
 {
-    EXPECT_EQ(asPlainToolTip("<img src=x> & Co"), "<qt>&lt;img src=x&gt; &amp; Co</qt>");
-    EXPECT_EQ(asPlainToolTip({}), "");
     EXPECT_EQ(withoutMnemonics("R&B"), "R&&B");
     EXPECT_EQ(onOneLine(QStringLiteral("a\nb\r\u2028c")), "a b  c");
     EXPECT_EQ(toQString(Text("\xff"
                              "ok")),
         QStringLiteral("\uFFFDok"));
+}
+
+TEST(WrappedText, BreaksWhatIsTooLongAndElidesTheLastLine)
+{
+    const QFont font;
+    const QFontMetrics metrics(font);
+    const QString word(100, u'w');
+    const int width = metrics.horizontalAdvance(QString(30, u'w'));
+    EXPECT_EQ(wrappedLines(QStringLiteral("short"), font, width, 3), QStringList{QStringLiteral("short")});
+    EXPECT_EQ(wrappedLines(QString(), font, width, 3).join(u' '), QString());
+    EXPECT_EQ(wrappedLines(word, font, width, 9).join(QString()), word);
+    const QStringList lines = wrappedLines(QStringLiteral("Two words ") + word, font, width, 3);
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_EQ(lines.at(0), QStringLiteral("Two words"));
+    EXPECT_TRUE(lines.at(2).endsWith(u'…'));
+    for (const QString& line : lines)
+        EXPECT_LE(metrics.horizontalAdvance(line), width);
+}
+
+TEST(WrappedText, AToolTipIsPlainAndNoWiderThanItsWindow)
+{
+    QWidget window;
+    window.setGeometry(0, 0, 260, 100);
+    window.show();
+    const auto tip = [&](const QString& text) -> const QWidget* {
+        showPlainToolTip(QHelpEvent(QEvent::ToolTip, {5, 5}, window.mapToGlobal(QPoint(5, 5))), text, window);
+        const QWidgetList all = QApplication::topLevelWidgets();
+        const auto shown = std::find_if(all.begin(), all.end(),
+            [](const QWidget* widget) { return widget->inherits("QTipLabel") && widget->isVisible(); });
+        return shown == all.end() ? nullptr : *shown;
+    };
+    const QWidget* narrow = tip(QStringLiteral("<b>x</b>"));
+    ASSERT_NE(narrow, nullptr);
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("&lt;b&gt;x&lt;/b&gt;")));
+    const QWidget* wide = tip(QStringLiteral("http://radio.example/") + QString(200, u'w'));
+    ASSERT_NE(wide, nullptr);
+    EXPECT_LE(wide->width(), window.width());
+    EXPECT_GT(wide->height(), 4 * wide->fontMetrics().height());
+    tip({});
+    EXPECT_TRUE(handleEventsUntil([] { return !QToolTip::isVisible(); }));
 }
 
 TEST(Strings, UnknownLanguagesReadEnglishAndUnknownKeysThemselves)

@@ -1,11 +1,10 @@
 #include "qt/kit/ElidedLabel.h"
 
-#include "qt/kit/TextConversion.h"
+#include "qt/kit/WrappedText.h"
 
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 
 namespace sonavel {
 
@@ -50,21 +49,33 @@ QSize ElidedLabel::minimumSizeHint() const
 void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QRect area = textArea();
+    const QStringList lines = wrappedLines(text(), font(), textArea().width(), linesThatFit());
+    int width = 0;
+    for (const QString& line : lines)
+        width = qMax(width, fontMetrics().horizontalAdvance(line));
+    const int besideText = contentsRect().width() - textArea().width();
+    // The mark stands beside the text, wherever that is aligned to.
+    const QRect area = QStyle::alignedRect(
+        layoutDirection(), alignment(), {width + besideText, contentsRect().height()}, contentsRect());
     const QSize markSize(fontMetrics().height(), fontMetrics().height());
-    mark_.paint(&painter,
-        QStyle::alignedRect(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter, markSize, contentsRect()));
-    const QString shown = fontMetrics().elidedText(onOneLine(text()), Qt::ElideRight, area.width());
-    style()->drawItemText(&painter, area, static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
-        palette(), isEnabled(), shown, foregroundRole());
+    mark_.paint(&painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter, markSize, area));
+    const QRect textPart = QStyle::visualRect(layoutDirection(), area, area.adjusted(besideText, 0, 0, 0));
+    style()->drawItemText(&painter, textPart, static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
+        palette(), isEnabled(), lines.join(u'\n'), foregroundRole());
+}
+
+int ElidedLabel::linesThatFit() const
+{
+    return qMax(1, contentsRect().height() / fontMetrics().lineSpacing());
 }
 
 bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    const bool fits = fontMetrics().horizontalAdvance(onOneLine(text())) <= textArea().width();
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), fits ? QString() : asPlainToolTip(text()), this);
+    const int lines = linesThatFit();
+    const bool fits = wrappedLines(text(), font(), textArea().width(), lines + 1).size() <= lines;
+    showPlainToolTip(*static_cast<QHelpEvent*>(event), fits ? QString() : text(), *this);
     return true;
 }
 

@@ -1,4 +1,4 @@
-// A line of text that never asks for more room than it has.
+// A text that never asks for more space than it has.
 #pragma once
 
 #include <QIcon>
@@ -6,9 +6,9 @@
 
 namespace sonavel {
 
-/// Shows its plain text on one line, cut with an ellipsis where it does not fit, and whole as the tool tip then; before
-/// it a mark, if it has one. Its
-/// wish for room depends on the font alone, so that a change of text moves nothing around it.
+/// Shows its plain text on one line, or wrapped where it is higher than one, cut with an ellipsis where it does not
+/// fit, and whole as the tool tip then; before it a mark, if it has one. Its size hint depends on the font alone, so
+/// that a change of text moves nothing.
 class ElidedLabel : public QLabel {
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);
@@ -26,6 +26,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    [[nodiscard]] int linesThatFit() const;
     QIcon mark_;
 };
 

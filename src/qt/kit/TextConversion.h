@@ -39,10 +39,4 @@ namespace sonavel {
     return string.replace(u'&', QStringLiteral("&&"));
 }
 
-/// For tool tips, which guess whether a text is rich.
-[[nodiscard]] inline QString asPlainToolTip(const QString& string)
-{
-    return string.isEmpty() ? string : QStringLiteral("<qt>%1</qt>").arg(string.toHtmlEscaped());
-}
-
 } // namespace sonavel

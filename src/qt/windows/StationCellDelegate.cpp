@@ -1,11 +1,10 @@
 #include "qt/windows/StationCellDelegate.h"
 
-#include "qt/kit/TextConversion.h"
+#include "qt/kit/WrappedText.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QStyle>
-#include <QToolTip>
 
 #include <limits>
 
@@ -27,12 +26,12 @@ QWidget* StationCellDelegate::createEditor(
     QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     field_ = new QLineEdit(parent);
-    field_->setFrame(false);
-    field_->setAutoFillBackground(true);
     // The text stays where it stood in the cell.
     const QWidget* table = option.widget;
-    const int besideText = table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table);
-    field_->setTextMargins(besideText - 1, 0, 0, 0);
+    const int frame = table->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, field_);
+    const int besideText = table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) - frame - 1;
+    field_->setTextMargins(besideText, 0, besideText, 0);
+    field_->setAlignment(QStyle::visualAlignment(option.direction, option.displayAlignment));
     // The length that fields have by themselves would cut a longer name without a word.
     field_->setMaxLength(std::numeric_limits<int>::max());
     field_->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
@@ -70,7 +69,7 @@ bool StationCellDelegate::helpEvent(
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const bool fits = sizeHint(option, index).width() <= option.rect.width();
     const QString text = index.data(Qt::DisplayRole).toString();
-    QToolTip::showText(event->globalPos(), fits ? QString() : asPlainToolTip(text), view);
+    showPlainToolTip(*event, fits ? QString() : text, *view);
     return true;
 }
 

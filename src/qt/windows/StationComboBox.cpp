@@ -1,6 +1,6 @@
 #include "qt/windows/StationComboBox.h"
 
-#include "qt/kit/TextConversion.h"
+#include "qt/kit/WrappedText.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
@@ -8,7 +8,6 @@
 #include <QListView>
 #include <QStyleOption>
 #include <QStyledItemDelegate>
-#include <QToolTip>
 
 namespace sonavel {
 
@@ -24,8 +23,8 @@ public:
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
-        const int line = option.fontMetrics.height();
-        return {line * shortestContents / 2, line * 3 / 2};
+        // As wide as the list is: a wider item would be cut by its edge.
+        return {0, option.fontMetrics.height() * 3 / 2};
     }
 };
 
@@ -113,7 +112,7 @@ bool StationComboBox::event(QEvent* event)
     const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     const bool fits = fontMetrics().horizontalAdvance(currentText()) <= field.width() - 2;
     const QString tip = fits ? toolTip() : currentText();
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), asPlainToolTip(tip), this);
+    showPlainToolTip(*static_cast<QHelpEvent*>(event), tip, *this);
     return true;
 }
 
