@@ -4,6 +4,7 @@
 #include "qt/binders/TableBinder.h"
 #include "qt/windows/StationCellDelegate.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
 #include <QTest>
 
@@ -199,6 +200,40 @@ TEST_F(StationTableTest, AReloadKeepsWhatWasTypedOnlyForTheSameStation)
     QApplication::processEvents();
     EXPECT_EQ(rows.edits, 1);
     EXPECT_EQ(openField(), nullptr);
+}
+
+TEST_F(StationTableTest, AClickOnOneOfManySelectedRowsSelectsItAndTheNextOneOpensItsCell)
+{
+    QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
+    click(2);
+    EXPECT_EQ(table.selectedRowIndexes(), IndexSet{2});
+    QTest::qWait(QApplication::doubleClickInterval() + 100);
+    EXPECT_EQ(openField(), nullptr);
+    click(2);
+    EXPECT_TRUE(handleEventsUntil([&] { return openField() != nullptr; }));
+}
+
+TEST_F(StationTableTest, AnOpenCellIsAFieldWithAFrame)
+{
+    QLineEdit* field = openCell(2);
+    ASSERT_NE(field, nullptr);
+    const QImage looks = field->grab().toImage();
+    const QColor base = widget.palette().color(QPalette::Base);
+    EXPECT_EQ(looks.pixelColor(2, looks.height() / 2), base);
+    EXPECT_NE(looks.pixelColor(0, looks.height() / 2), base);
+}
+
+TEST_F(StationTableTest, BothColumnsStayInViewHoweverTheyAreDraggedAndTheWindowShrinks)
+{
+    QHeaderView& columns = *widget.horizontalHeader();
+    columns.resizeSection(0, 5'000);
+    QApplication::processEvents();
+    EXPECT_LE(columns.length(), widget.viewport()->width());
+    columns.resizeSection(0, 300);
+    widget.resize(250, 300);
+    QApplication::processEvents();
+    EXPECT_LE(columns.length(), widget.viewport()->width());
+    EXPECT_GE(columns.sectionSize(1), columns.minimumSectionSize());
 }
 
 TEST_F(StationTableTest, ADoubleClickIsForTheSheetAndOpensNoCell)

@@ -40,10 +40,16 @@ StationTable::StationTable(QWidget* parent)
     setFrameShape(NoFrame);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->hide();
-    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     takeProportions();
+}
+
+void StationTable::setModel(QAbstractItemModel* model)
+{
+    QTableView::setModel(model);
+    if (model != nullptr)
+        horizontalHeader()->setSectionResizeMode(model->columnCount() - 1, QHeaderView::Stretch);
 }
 
 void StationTable::takeProportions()
@@ -103,6 +109,28 @@ QModelIndex StationTable::moveCursor(CursorAction action, Qt::KeyboardModifiers 
     default:
         return QTableView::moveCursor(action, modifiers);
     }
+}
+
+/// A click on one of several selected rows is meant to select it alone.
+bool StationTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const QItemSelection selected = selectionModel()->selection();
+    const bool isOnlyRow = selected.size() == 1 && selected.constFirst().height() == 1;
+    return (trigger != SelectedClicked || isOnlyRow) && QTableView::edit(index, trigger, event);
+}
+
+void StationTable::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    keepColumnsInView();
+}
+
+/// Beside the first column, however wide, the last one keeps its least width.
+void StationTable::keepColumnsInView()
+{
+    QHeaderView& columns = *horizontalHeader();
+    columns.setMaximumSectionSize(
+        qMax(columns.minimumSectionSize(), viewport()->width() - columns.minimumSectionSize()));
 }
 
 void StationTable::changeEvent(QEvent* event)

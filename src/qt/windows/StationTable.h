@@ -7,11 +7,14 @@ namespace sonavel {
 
 class StationCellDelegate;
 
-/// Selects whole rows; Home and End go to the first and the last one. A cell is opened by F2 or a slow second click,
-/// never by a double click. Draws a hint in place of rows while there are none. Shows 100,000 rows as quickly as ten.
+/// Selects whole rows; Home and End go to the first and the last one. A cell is opened by F2 or a slow second click
+/// on the only selected row, never by a double click. Draws a hint in place of rows while there are none. Shows 100,000
+/// rows as quickly as ten.
 class StationTable : public QTableView {
 public:
     explicit StationTable(QWidget* parent = nullptr);
+
+    void setModel(QAbstractItemModel* model) override;
 
     /// Ends the editing of a cell as a loss of the focus does: what was typed counts. Does nothing when none is open.
     void endEditing();
@@ -24,11 +27,14 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void takeProportions();
+    void keepColumnsInView();
 
     StationCellDelegate* cells_;
 };
