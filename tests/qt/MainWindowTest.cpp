@@ -4,6 +4,7 @@
 #include "UserInput.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/ElidedLabel.h"
+#include "qt/kit/PrimaryButton.h"
 #include "qt/windows/WindowMemory.h"
 
 #include <QAccessible>
@@ -77,6 +78,63 @@ TEST(MainWindow, AFailureBearsAMarkBesideItsText)
         EXPECT_NE(picture("No answer", MainWindow::Emphasis::Failure).copy(text), empty.copy(text));
         EXPECT_EQ(picture({}, MainWindow::Emphasis::Usual), empty);
     }
+}
+
+TEST(MainWindow, ItsMarginsAreEven)
+{
+    MainWindow window{nullptr};
+    window.show();
+    QApplication::processEvents();
+    const QWidget& content = *window.centralWidget();
+    const QRect panel = window.findChild<QFrame*>("displayPanel")->geometry();
+    const QRect button = window.findChild<QPushButton*>("buttonEditRadioList")->geometry();
+    EXPECT_EQ(panel.left(), panel.top());
+    EXPECT_EQ(content.rect().right() - button.right(), panel.left());
+    EXPECT_EQ(content.rect().bottom() - button.bottom(), panel.left());
+}
+
+TEST(MainWindow, ALargeOneHasItsContentInTheMiddleAndGivesItsHeightToTheTitle)
+{
+    MainWindow window{nullptr};
+    window.show();
+    const QSize usual = window.size();
+    const auto& title = *window.findChild<ElidedLabel*>("labelNowPlaying");
+    const QFont usualFont = title.font();
+    const QFrame& panel = *window.findChild<QFrame*>("displayPanel");
+    for (const QSize size : {QSize(940, 1040), QSize(1920, 1080), QSize(3840, 2160)}) {
+        window.resize(size);
+        QApplication::processEvents();
+        EXPECT_EQ(window.size(), size);
+        EXPECT_GT(panel.height(), size.height() * 2 / 3);
+        EXPECT_GT(title.font().pointSizeF(), 2 * usualFont.pointSizeF());
+        EXPECT_NEAR(panel.geometry().left(), window.centralWidget()->rect().right() - panel.geometry().right(), 1);
+        EXPECT_LT(panel.width(), 1'500);
+    }
+    window.resize(usual);
+    EXPECT_EQ(title.font(), usualFont);
+}
+
+TEST(MainWindow, FromRightToLeftTheWordOfAButtonIsAsFarFromItsEdge)
+{
+    PrimaryButton button;
+    button.setText("Play");
+    QPixmap picture(button.iconSize());
+    picture.fill(Qt::black);
+    button.setIcon(picture);
+    button.resize(2 * button.sizeHint());
+    const auto besideWord = [&](Qt::LayoutDirection direction) {
+        QApplication::setLayoutDirection(direction);
+        const QImage looks = button.grab().toImage().mirrored(direction == Qt::RightToLeft, false);
+        for (int x = looks.width() - 3; x > 0; --x)
+            for (int y = looks.height() / 4; y < looks.height() * 3 / 4; ++y)
+                if (looks.pixelColor(x, y).lightness() > 200)
+                    return looks.width() - x;
+        return 0;
+    };
+    const int usual = besideWord(Qt::LeftToRight);
+    EXPECT_GT(usual, 10);
+    EXPECT_NEAR(besideWord(Qt::RightToLeft), usual, 4);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST(MainWindow, AScreenReaderHearsTheTitleAndTheNameOfEveryControl)

@@ -69,7 +69,7 @@ protected:
     }
     double edgeOf(const QWidget& control, int fromLeft = 8)
     {
-        return standsOut(control.geometry().topLeft() + QPoint(fromLeft, -2), {0, 1}, 6);
+        return standsOut(control.geometry().topLeft() + QPoint(fromLeft, -2), {0, 1}, control.height() / 2);
     }
     double focusRingOf(QWidget& control)
     {

@@ -16,6 +16,7 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QHeaderView>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -425,6 +426,35 @@ TEST_F(StationListWindowTest, AnEmptyListSaysWhatToDo)
     tableWidget().setModel(nullptr);
     EXPECT_NE(hint, tableWidget().grab().toImage());
     EXPECT_NE(hint, before);
+}
+
+TEST_F(StationListWindowTest, TheFindFieldHasTheSameSpaceAroundItInBothDirections)
+{
+    const auto* bar = child<QToolBar>(window, "toolBar").layout()->parentWidget();
+    const auto besideField = [&](Qt::LayoutDirection direction) {
+        window.setLayoutDirection(direction);
+        QApplication::processEvents();
+        const QRect field = findField().geometry();
+        EXPECT_NEAR(field.top(), bar->rect().bottom() - field.bottom(), 1);
+        return direction == Qt::LeftToRight ? bar->rect().right() - field.right() : field.left();
+    };
+    const int usual = besideField(Qt::LeftToRight);
+    EXPECT_GE(usual, window.fontMetrics().height() / 2);
+    EXPECT_EQ(besideField(Qt::RightToLeft), usual);
+}
+
+TEST_F(StationListWindowTest, WhatIsLookedForBeginsBesideTheLensInBothDirections)
+{
+    findField().setText(QStringLiteral("ABC"));
+    const auto toTextFromLens = [&](Qt::LayoutDirection direction) {
+        window.setLayoutDirection(direction);
+        QApplication::processEvents();
+        const bool isMirrored = direction == Qt::RightToLeft;
+        findField().setCursorPosition(isMirrored ? 3 : 0);
+        const int text = findField().inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+        return isMirrored ? findField().width() - text : text;
+    };
+    EXPECT_NEAR(toTextFromLens(Qt::RightToLeft), toTextFromLens(Qt::LeftToRight), 4);
 }
 
 TEST_F(StationListWindowTest, TheColumnsComeBackAsTheyWere)

@@ -4,6 +4,7 @@
 #include "qt/kit/Palettes.h"
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QTableView>
@@ -52,6 +53,17 @@ void HouseStyle::drawPrimitive(
         drawOutlined(*menu);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+/// The toolkit mirrors the word beside a picture twice, which takes it to the edge of its button.
+void HouseStyle::drawControl(
+    ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    const Qt::LayoutDirection direction = painter->layoutDirection();
+    if (element == CE_PushButtonLabel)
+        painter->setLayoutDirection(Qt::LeftToRight);
+    QProxyStyle::drawControl(element, option, painter, widget);
+    painter->setLayoutDirection(direction);
 }
 
 void HouseStyle::drawComplexControl(

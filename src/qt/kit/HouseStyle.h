@@ -18,6 +18,8 @@ public:
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
     void drawPrimitive(
         PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
+    void drawControl(
+        ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
         const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;

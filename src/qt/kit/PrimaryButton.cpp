@@ -9,7 +9,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr int paledByStyles = 160; // percent; styles lighten the colour of a button, and its words must stay readable
+constexpr int paledByStyles = 160; // percent; styles lighten the colour of a button, and light words must stay readable
 constexpr int insideEdge = 3; // pixels
 
 } // namespace
@@ -62,8 +62,10 @@ void PrimaryButton::takeHighlightColors()
     if (isEnabled()) {
         const QPalette colors = QGuiApplication::palette();
         const QColor highlight = colors.color(QPalette::Active, QPalette::Highlight);
-        palette.setColor(QPalette::Button, highlight.darker(paledByStyles));
-        palette.setColor(QPalette::ButtonText, colors.color(QPalette::Active, QPalette::HighlightedText));
+        const QColor words = colors.color(QPalette::Active, QPalette::HighlightedText);
+        const bool areLight = words.lightness() > highlight.lightness();
+        palette.setColor(QPalette::Button, areLight ? highlight.darker(paledByStyles) : highlight);
+        palette.setColor(QPalette::ButtonText, words);
     }
     setPalette(palette);
 }

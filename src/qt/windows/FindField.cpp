@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QStyle>
 
 namespace sonavel {
 
@@ -25,6 +26,7 @@ FindField::FindField(QWidget* parent)
     setClearButtonEnabled(true);
     setAcceptDrops(false); // files are dropped on the window
     takeColors();
+    takeDirection();
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (requests_.search)
             requests_.search();
@@ -66,6 +68,14 @@ void FindField::changeEvent(QEvent* event)
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         takeColors();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        takeDirection();
+}
+
+/// The text begins beside the lens, whichever way it is written.
+void FindField::takeDirection()
+{
+    setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter));
 }
 
 void FindField::takeColors()

@@ -32,6 +32,7 @@ protected:
 
 private:
     void takeColors();
+    void takeDirection();
 
     Requests requests_;
     QAction* lens_;

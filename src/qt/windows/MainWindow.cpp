@@ -12,7 +12,11 @@ namespace sonavel {
 namespace {
 
 constexpr double headlineSize = 1.25; // times the usual size of the font
+constexpr double centeredHeadlineSize = 1.5; // from here on
+constexpr double largestHeadlineSize = 4.5;
+constexpr int linesPerHeadlineSize = 8; // added to the window's height enlarge the headline by once the usual size
 constexpr int usualWidth = 68; // characters
+constexpr int widestContent = 80; // lines of text
 
 QFont scaled(QFont font, double factor)
 {
@@ -40,14 +44,19 @@ MainWindow::~MainWindow() = default;
 void MainWindow::setUpProportions()
 {
     const int line = fontMetrics().height();
-    description_->rows->setContentsMargins(line, line, line, line / 3);
-    description_->rows->setSpacing(line * 3 / 4);
+    keepMargins();
+    description_->rows->setSpacing(0);
+    for (QLayout* lower : {static_cast<QLayout*>(description_->controls), static_cast<QLayout*>(description_->buttons)})
+        description_->rows->insertSpacing(description_->rows->indexOf(lower), line * 3 / 4);
+    // The notice stands in what is the margin without it.
+    description_->labelNotice->setFixedHeight(description_->rows->contentsMargins().top());
     description_->controls->setHorizontalSpacing(line * 3 / 4);
     description_->controls->setVerticalSpacing(line * 5 / 8);
     description_->buttons->setSpacing(line / 2);
     description_->displayRows->setContentsMargins(line * 3 / 4, line * 5 / 8, line * 3 / 4, line * 5 / 8);
 
     description_->labelNowPlaying->setFont(scaled(font(), headlineSize));
+    description_->labelNowPlaying->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     description_->buttonPlayPause->reserveRoomFor(
         {qtTrId("BUTTON_PLAY"), qtTrId("BUTTON_PAUSE")}, PrimaryButton::Picture::BesideWords);
     for (QPushButton* button : {static_cast<QPushButton*>(description_->buttonPlayPause), description_->buttonStop,
@@ -60,8 +69,28 @@ void MainWindow::setUpSize()
 {
     const QSize smallest = minimumSizeHint();
     setMinimumSize(smallest);
-    setMaximumHeight(smallest.height());
     resize(qMax(smallest.width(), fontMetrics().averageCharWidth() * usualWidth), smallest.height());
+}
+
+/// A higher window shows the headline larger, and on more lines; the content of a wide one stays together in its
+/// middle.
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    const double added = double(height() - minimumHeight()) / (fontMetrics().height() * linesPerHeadlineSize);
+    const double size = qBound(headlineSize, headlineSize + added, largestHeadlineSize);
+    description_->labelNowPlaying->setFont(scaled(font(), size));
+    description_->labelNowPlaying->setAlignment(
+        size > centeredHeadlineSize ? Qt::AlignCenter : Qt::AlignLeading | Qt::AlignVCenter);
+    keepMargins();
+    QMainWindow::resizeEvent(event);
+}
+
+void MainWindow::keepMargins()
+{
+    const int line = fontMetrics().height();
+    const int aroundContent = line * 5 / 4;
+    const int besideContent = qMax(aroundContent, (width() - line * widestContent) / 2);
+    description_->rows->setContentsMargins(besideContent, aroundContent, besideContent, 0);
 }
 
 void MainWindow::setUpColors()

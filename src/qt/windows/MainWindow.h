@@ -13,7 +13,8 @@ namespace sonavel {
 
 class ProgramMenus;
 
-/// Built from its description, whose object names are the names of the outlets. Shown by the program, not by itself.
+/// Built from its description, whose object names are the names of the outlets. Shown by the program, not by itself. It
+/// is made as low as it can be; a larger one gives what it has to the title.
 class MainWindow : public QMainWindow {
 public:
     /// `menus` may be null, for a window without any.
@@ -30,11 +31,13 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void setUpProportions();
     void setUpSize();
     void setUpColors();
+    void keepMargins();
 
     std::unique_ptr<Ui::MainWindow> description_;
     Emphasis emphasis_ = Emphasis::Faded;

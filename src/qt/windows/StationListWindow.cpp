@@ -9,6 +9,7 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLayout>
 #include <QMimeData>
 #include <QShortcut>
 #include <QUrl>
@@ -57,7 +58,7 @@ void StationListWindow::setUpProportions()
     const int line = fontMetrics().height();
     description_->rows->setContentsMargins(0, 0, 0, 0);
     description_->toolBar->setIconSize(QSize(line, line) * 5 / 4);
-    description_->toolBar->setContentsMargins(line / 4, line / 4, line / 4, line / 4);
+    description_->toolBar->layout()->setContentsMargins(line / 2, line / 2, line / 2, line / 2);
     findField_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     findField_->setMinimumHeight(line * 7 / 4);
     description_->labelListStatus->setContentsMargins(line * 2 / 3, line / 4, line * 2 / 3, line / 4);
