@@ -2,6 +2,7 @@
 
 #include "app/WinSonavelController.h"
 #include "platform/Clock.h"
+#include "playback/StreamAddress.h"
 #include "ui/Outlets.h"
 
 #include <utility>
@@ -34,7 +35,7 @@ const MediaState& MediaControls::state()
     } else if (item_ != player.playerItem) {
         item_ = player.playerItem;
         state_.stream = ++streams_;
-        state_.address = item_->address;
+        state_.address = withoutUserInformation(item_->address);
         state_.station = item_->name;
     }
     if (item_)

@@ -22,6 +22,7 @@ struct MediaState {
     std::uint64_t stream = 0;
     /// The name of the station that is played.
     Text station;
+    /// Without user and password.
     Text address;
     /// 0.0 (silent) to 1.0 (full).
     double volume = 0.0;

@@ -67,4 +67,17 @@ Text hostOfStreamAddress(const Text& address)
     return host.empty() ? Text() : address.slice(host);
 }
 
+Text withoutUserInformation(const Text& address)
+{
+    const std::string_view text = address.view();
+    const std::size_t schemeEnd = text.find(":/");
+    const std::size_t begin =
+        std::min(text.find_first_not_of('/', schemeEnd == std::string_view::npos ? 0 : schemeEnd + 1), text.size());
+    const std::string_view authority = text.substr(begin, text.find_first_of("/?#", begin) - begin);
+    const std::size_t at = authority.rfind('@');
+    if (at == std::string_view::npos)
+        return address;
+    return std::string(text.substr(0, begin)).append(text.substr(begin + at + 1));
+}
+
 } // namespace sonavel

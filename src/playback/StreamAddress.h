@@ -21,4 +21,8 @@ inline constexpr std::size_t longestStreamAddress = 8192;
 /// stream that has no name.
 [[nodiscard]] Text hostOfStreamAddress(const Text& address);
 
+/// The address without the user and password that may stand before its host, for messages, tool tips and other
+/// programs. It may be of any form, as what a user mistyped; an absent one stays absent.
+[[nodiscard]] Text withoutUserInformation(const Text& address);
+
 } // namespace sonavel

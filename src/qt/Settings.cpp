@@ -1,6 +1,7 @@
 #include "qt/Settings.h"
 
 #include "platform/Bundle.h"
+#include "playback/StreamAddress.h"
 #include "qt/kit/TextConversion.h"
 
 #include <QCommandLineParser>
@@ -22,6 +23,12 @@ constexpr const char* wellKnownPage = "https://www.debian.org/";
 struct UsageError {
     QString text;
 };
+
+/// A value that may be an address, as a complaint shows it.
+QString shown(const QString& value)
+{
+    return toQString(withoutUserInformation(toText(value)));
+}
 
 struct Option {
     const char* name;
@@ -63,7 +70,8 @@ void parse(QCommandLineParser& parser, const QStringList& arguments)
     if (!parser.parse(QStringList{QString()} + arguments))
         throw UsageError{parser.errorText()};
     if (!parser.positionalArguments().isEmpty())
-        throw UsageError{QStringLiteral("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst())};
+        throw UsageError{
+            QStringLiteral("Unexpected argument \"%1\".").arg(shown(parser.positionalArguments().constFirst()))};
 }
 
 /// One value and where it came from, for complaints.
@@ -128,7 +136,8 @@ QString webAddress(const Found& found)
     const QUrl url(found.value, QUrl::StrictMode);
     const bool isWeb = url.scheme() == u"http" || url.scheme() == u"https";
     if (!url.isValid() || !isWeb || url.host().isEmpty())
-        throw UsageError{QStringLiteral("%1: \"%2\" is not an http or https address.").arg(found.source, found.value)};
+        throw UsageError{
+            QStringLiteral("%1: \"%2\" is not an http or https address.").arg(found.source, shown(found.value))};
     return QString::fromLatin1(url.toEncoded());
 }
 

@@ -6,9 +6,12 @@
 
 namespace sonavel {
 
-std::string inQuotes(std::string_view text)
+std::string inQuotes(std::string_view bytes)
 {
     constexpr std::size_t longest = 120;
+    const bool hasAddress = bytes.find("://") != std::string_view::npos;
+    const Text whole = hasAddress ? withoutUserInformation(bytes) : Text(bytes);
+    std::string_view text = whole.view();
     const bool isLong = text.size() > longest;
     if (isLong) {
         std::size_t end = longest;
@@ -25,7 +28,8 @@ Text nameFromAddress(const Text& address)
     Text host = hostOfStreamAddress(address);
     if (isStationName(host.view()))
         return host;
-    return isStationName(address.view()) ? address : Text();
+    Text name = withoutUserInformation(address);
+    return isStationName(name.view()) ? name : Text();
 }
 
 } // namespace sonavel

@@ -34,8 +34,9 @@ struct ReadList {
     std::vector<Finding> findings;
 };
 
-/// The text in quotes to put into a finding: of any encoding, in one line, and short.
-[[nodiscard]] std::string inQuotes(std::string_view text);
+/// The text in quotes to put into a finding: of any encoding, in one line, short, and without the user information of
+/// an address in it.
+[[nodiscard]] std::string inQuotes(std::string_view bytes);
 
 /// What to call a station that has no name of its own: the host of its address, or else the address. Absent when no
 /// list keeps a station of that name either.

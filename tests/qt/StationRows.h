@@ -26,7 +26,7 @@ public:
         ++reads;
         if (objectValueForTableColumn == "radio")
             return names.at(static_cast<std::size_t>(row));
-        return {"http://host/" + std::to_string(row)};
+        return {"http://" + userInformation + "host/" + std::to_string(row)};
     }
     void tableView(const TableView&, const Text& setObjectValue, std::string_view, long row) override
     {
@@ -35,6 +35,7 @@ public:
     }
 
     std::vector<Text> names;
+    std::string userInformation;
     int edits = 0;
     mutable int reads = 0;
 };

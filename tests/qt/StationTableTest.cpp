@@ -5,8 +5,10 @@
 #include "qt/windows/StationCellDelegate.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -246,6 +248,23 @@ TEST_F(StationTableTest, ADoubleClickIsForTheSheetAndOpensNoCell)
     EXPECT_EQ(openField(), nullptr);
     QTest::mouseDClick(widget.viewport(), Qt::LeftButton, {}, widget.viewport()->rect().bottomLeft());
     EXPECT_EQ(doubleClicks, 1);
+}
+
+TEST_F(StationTableTest, AToolTipShowsNoPassword)
+{
+    rows.names.at(0) = Text("Someone@a very long station name that does not fit its narrow column");
+    rows.userInformation = "user:" + std::string(200, 'x') + "secret@";
+    table.reloadData();
+    const auto toolTip = [&](int column) {
+        const QPoint place = middleOf(0, column);
+        QHelpEvent asked(QEvent::ToolTip, place, widget.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(widget.viewport(), &asked);
+        return QToolTip::text();
+    };
+    widget.setColumnWidth(0, 60);
+    EXPECT_TRUE(toolTip(0).contains("Someone@a very long")) << toolTip(0).toStdString();
+    EXPECT_TRUE(toolTip(1).contains("http://host/0")) << toolTip(1).toStdString();
+    EXPECT_TRUE(widget.model()->index(0, 1).data().toString().contains("secret"));
 }
 
 TEST_F(StationTableTest, NamesFromOutsideAreDrawnOnOneLineAndNotToTheirEnd)

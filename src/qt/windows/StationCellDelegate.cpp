@@ -1,6 +1,9 @@
 #include "qt/windows/StationCellDelegate.h"
 
+#include "playback/StreamAddress.h"
+#include "qt/kit/TextConversion.h"
 #include "qt/kit/WrappedText.h"
+#include "qt/windows/StationTableModel.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -68,7 +71,9 @@ bool StationCellDelegate::helpEvent(
     if (event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const bool fits = sizeHint(option, index).width() <= option.rect.width();
-    const QString text = index.data(Qt::DisplayRole).toString();
+    QString text = index.data(Qt::DisplayRole).toString();
+    if (index.column() == StationTableModel::Address)
+        text = toQString(withoutUserInformation(toText(text)));
     showPlainToolTip(*event, fits ? QString() : text, *view);
     return true;
 }
