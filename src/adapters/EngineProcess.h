@@ -17,10 +17,11 @@ namespace sonavel {
 
 class NotificationCenter;
 
-/// The engine is a process of its own, so that a decoder which crashes or is taken over reaches nothing of the user's.
-/// One stream sounds at a time: the player that was last told to play has the engine; destroying it silences it. A
-/// stream that breaks is opened again, and an engine that is gone is started again, for as long as the player exists
-/// and is not held. Main thread; nothing blocks.
+/// The engine is a process of its own, so that a decoder which crashes takes nothing else with it, and none can open
+/// the user's files; engine/Confinement.h says what that keeps it from and what not. One stream sounds at a time: the
+/// player that was last told to play has the engine; destroying it silences it. A stream that breaks is opened again,
+/// and an engine that is gone is started again, for as long as the player exists and is not held. Main thread; nothing
+/// blocks.
 class EngineProcess : public StreamPlayers {
 public:
     using Observer = std::function<void(const NowPlaying&)>;
