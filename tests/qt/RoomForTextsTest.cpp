@@ -63,6 +63,9 @@ protected:
             const int text = field->fontMetrics().horizontalAdvance(field->placeholderText());
             EXPECT_GE(field->width(), text) << GetParam() << ", " << field->objectName().toStdString();
         }
+        const QFontMetrics metrics = window.fontMetrics();
+        EXPECT_GE(window.width(), metrics.horizontalAdvance(window.windowTitle()) + 8 * metrics.height())
+            << GetParam() << ", the title and the buttons beside it";
         for (auto* header : window.findChildren<QHeaderView*>()) {
             for (int column = 0; header->orientation() == Qt::Horizontal && column < header->count(); ++column)
                 EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column)) << GetParam();
@@ -130,6 +133,15 @@ TEST_P(RoomForTextsTest, IsThereForWhatIsFilledInLater)
         expectRoomIn(*notice);
         notice->show(); // the next one comes while it is open
     }
+}
+
+TEST(MirroredDialogs, BeginTheirTextsAtTheRight)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto update = ProgramDialog::from<Ui::UpdateWindow>();
+    for (const auto* label : update->findChildren<QLabel*>())
+        EXPECT_TRUE(label->alignment().testFlags(Qt::AlignRight | Qt::AlignAbsolute));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_P(RoomForTextsTest, IsThereForWhyAStreamCannotBePlayed)

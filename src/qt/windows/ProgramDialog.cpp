@@ -1,11 +1,13 @@
 #include "qt/windows/ProgramDialog.h"
 
+#include <QBoxLayout>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyle>
 #include <QVariant>
 
 namespace sonavel {
@@ -13,6 +15,7 @@ namespace sonavel {
 namespace {
 
 constexpr double headlineSize = 1.25; // times the usual size of the font
+constexpr int besideTitle = 9; // lines of text: what a window manager has beside it
 
 } // namespace
 
@@ -51,6 +54,8 @@ void ProgramDialog::arrangeButtons()
 void ProgramDialog::takeProportions()
 {
     const int line = fontMetrics().height();
+    if (auto* rows = qobject_cast<QBoxLayout*>(layout()))
+        rows->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + line * besideTitle);
     layout()->setContentsMargins(line, line, line, line);
     layout()->setSpacing(line * 3 / 4);
     for (auto* fields : findChildren<QFormLayout*>()) {
@@ -62,6 +67,8 @@ void ProgramDialog::takeProportions()
         field->setTextMargins(line / 4, 0, line / 4, 0);
     }
     for (auto* label : findChildren<QLabel*>()) {
+        // The toolkit aligns a label by the direction of its text, whichever that of the window is.
+        label->setAlignment(QStyle::visualAlignment(layoutDirection(), label->alignment()));
         QFont font = label->font();
         font.setPointSizeF(font.pointSizeF() * headlineSize);
         if (label->property("headline").toBool())
