@@ -7,6 +7,16 @@
 #include "qt/binders/SliderBinder.h"
 #include "qt/binders/WindowBinder.h"
 #include "qt/kit/HouseStyle.h"
+#include "qt/windows/EditSheetDialog.h"
+#include "qt/windows/MainWindow.h"
+#include "qt/windows/ProgramDialog.h"
+#include "qt/windows/ProgramMenus.h"
+#include "qt/windows/SplashScreen.h"
+#include "qt/windows/StationListWindow.h"
+#include "ui/Outlets.h"
+#include "ui_AboutWindow.h"
+#include "ui_PreferencesSheet.h"
+#include "ui_UpdateNotice.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -295,6 +305,48 @@ TEST(Connecting, AMissingOrMistakenWidgetIsNamed)
     } catch (const MissingOutlet& fault) {
         EXPECT_NE(std::string(fault.what()).find("popupbuttonRadioList"), std::string::npos);
     }
+}
+
+template <class... Controls> void expectConnected(const char* window, const Controls&... controls)
+{
+    for (const bool isConnected : {controls.isConnected()...})
+        EXPECT_TRUE(isConnected) << "a control of the window " << window;
+}
+
+TEST(Connecting, EveryControlOfEveryWindowHasItsWidget)
+{
+    Outlets outlets;
+    ProgramMenus menus([] {});
+    MainWindow main(&menus);
+    SplashScreen splash;
+    StationListWindow list(outlets.tableViewListRadio);
+    EditSheetDialog sheet(list);
+    const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
+    const auto about = ProgramDialog::from<Ui::AboutWindow>();
+    const auto notice = ProgramDialog::from<Ui::UpdateNotice>();
+    connectMainWindow(outlets, main);
+    connectSplashScreen(outlets, splash);
+    connectStationListWindow(outlets, list);
+    connectEditSheet(outlets, sheet);
+    connectPreferences(outlets, *preferences);
+    connectAboutWindow(outlets, *about);
+    connectUpdateNotice(outlets, *notice);
+
+    expectConnected("main", outlets.winSonavel, outlets.popupbuttonRadioList, outlets.buttonPlayPause,
+        outlets.buttonStop, outlets.buttonMute, outlets.buttonEditRadioList, outlets.sliderVolume, outlets.labelVolume);
+    expectConnected("splash", outlets.winSplashScreen);
+    expectConnected("list", outlets.winWebRadioListEdit, outlets.toolBar, outlets.radioAdd, outlets.radioEdit,
+        outlets.radioRemove, outlets.radioImport, outlets.radioExport, outlets.tableViewListRadio,
+        outlets.labelListStatus);
+    expectConnected("sheet", outlets.winEditData, outlets.textFieldRadioName, outlets.textFieldRadioLink,
+        outlets.buttonAction, outlets.buttonCancel);
+    expectConnected("preferences", outlets.winPreferences, outlets.checkBoxDefaultAutoPlayAtStartApp,
+        outlets.checkBoxDefaultAutoPlay, outlets.labelSetDeaultRadio, outlets.popupDefaultButtonListRadio,
+        outlets.labelSetDefaultVolume, outlets.sliderDefaultVolume, outlets.buttonClosePreferences);
+    expectConnected("about", outlets.winAbout, outlets.imageAppIcon, outlets.labelAppName, outlets.labelAppVersion,
+        outlets.labelAppLicense, outlets.labelAppCopytight, outlets.buttonCloseAbout);
+    expectConnected(
+        "notice", outlets.winUpdateNotification, outlets.labelUpdateNotification, outlets.buttonCloseNotification);
 }
 
 TEST(Connecting, WhenTheWindowGoesAwayItsOutletsLetGo)
