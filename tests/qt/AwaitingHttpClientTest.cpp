@@ -57,6 +57,7 @@ TEST(AwaitingHttp, TheWindowPaintsWhileAServerIsSlow)
     ASSERT_TRUE(handleEventsUntil([&] { return button.paintings > 0; }));
 
     int paintingsBefore = 0;
+    bool hasBegun = false;
     bool hasEnded = false;
     QTimer::singleShot(0, [&] {
         paintingsBefore = button.paintings;
@@ -66,12 +67,14 @@ TEST(AwaitingHttp, TheWindowPaintsWhileAServerIsSlow)
         [&](const HttpRequest& request) {
             EXPECT_EQ(request.address, Text("http://slow/"));
             EXPECT_GT(button.paintings, paintingsBefore);
+            hasBegun = true;
             server.release();
         },
         [&] { hasEnded = true; });
     HttpRequest request;
     request.address = "http://slow/";
     EXPECT_EQ(client.sendSynchronousRequest(request), "answer of http://slow/");
+    EXPECT_TRUE(hasBegun);
     EXPECT_TRUE(hasEnded);
 }
 

@@ -1,5 +1,6 @@
 // What the core says reaches the widgets and nothing comes back; what the user does reaches the core once.
 #include "UserInput.h"
+#include "platform/Interfaces.h"
 #include "qt/binders/ButtonBinder.h"
 #include "qt/binders/LabelBinder.h"
 #include "qt/binders/OutletConnector.h"
@@ -7,6 +8,7 @@
 #include "qt/binders/SliderBinder.h"
 #include "qt/binders/WindowBinder.h"
 #include "qt/kit/HouseStyle.h"
+#include "qt/kit/PrimaryButton.h"
 #include "qt/windows/EditSheetDialog.h"
 #include "qt/windows/MainWindow.h"
 #include "qt/windows/ProgramDialog.h"
@@ -17,6 +19,7 @@
 #include "ui_AboutWindow.h"
 #include "ui_PreferencesSheet.h"
 #include "ui_UpdateNotice.h"
+#include "ui_UpdateWindow.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -237,6 +240,19 @@ TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)
     EXPECT_EQ(widget.text(), "R&&B");
 }
 
+TEST(ButtonBinding, RoomForOtherWordsLeavesTheWordsAndThePictureThatAreShown)
+{
+    QPixmap picture(16, 16);
+    picture.fill(Qt::red);
+    PrimaryButton widget;
+    widget.setText("Play");
+    widget.setIcon(picture);
+    widget.reserveRoomFor({"Play", "Pause for a while"}, PrimaryButton::Picture::BesideWords);
+    EXPECT_GE(widget.minimumWidth(), widget.fontMetrics().horizontalAdvance("Pause for a while") + 16);
+    EXPECT_EQ(widget.text(), "Play");
+    EXPECT_EQ(widget.icon().pixmap(16).toImage().pixelColor(8, 8), QColor(Qt::red));
+}
+
 TEST(ButtonBinding, AButtonThatIsDisabledForAMomentKeepsTheKeyboard)
 {
     Button button;
@@ -324,6 +340,13 @@ TEST(Connecting, EveryControlOfEveryWindowHasItsWidget)
     const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
     const auto about = ProgramDialog::from<Ui::AboutWindow>();
     const auto notice = ProgramDialog::from<Ui::UpdateNotice>();
+    Window window;
+    TextField name;
+    TextField version;
+    TextField notes;
+    Button update;
+    Button remind;
+    const auto updater = ProgramDialog::from<Ui::UpdateWindow>();
     connectMainWindow(outlets, main);
     connectSplashScreen(outlets, splash);
     connectStationListWindow(outlets, list);
@@ -331,6 +354,7 @@ TEST(Connecting, EveryControlOfEveryWindowHasItsWidget)
     connectPreferences(outlets, *preferences);
     connectAboutWindow(outlets, *about);
     connectUpdateNotice(outlets, *notice);
+    connectUpdateWindow({window, name, version, notes, update, remind}, *updater);
 
     expectConnected("main", outlets.winSonavel, outlets.popupbuttonRadioList, outlets.buttonPlayPause,
         outlets.buttonStop, outlets.buttonMute, outlets.buttonEditRadioList, outlets.sliderVolume, outlets.labelVolume);
@@ -347,6 +371,7 @@ TEST(Connecting, EveryControlOfEveryWindowHasItsWidget)
         outlets.labelAppLicense, outlets.labelAppCopytight, outlets.buttonCloseAbout);
     expectConnected(
         "notice", outlets.winUpdateNotification, outlets.labelUpdateNotification, outlets.buttonCloseNotification);
+    expectConnected("updates", window, name, version, notes, update, remind);
 }
 
 TEST(Connecting, WhenTheWindowGoesAwayItsOutletsLetGo)

@@ -1,10 +1,13 @@
 #include "qt/kit/Palettes.h"
 
 #include "UserInput.h"
+#include "qt/desktop/DesktopAppearance.h"
 #include "qt/kit/PrimaryButton.h"
 #include "qt/windows/StationComboBox.h"
+#include "support/TemporaryFolder.h"
 
 #include <QCheckBox>
+#include <QDBusVariant>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSlider>
@@ -167,6 +170,38 @@ TEST(Palettes, TheKeyboardsPlaceIsSeenOnTheButtonThatMattersMost)
             greatest = std::max(greatest, contrast(looks.pixelColor(point), usualLooks.pixelColor(point)));
         }
         EXPECT_GE(greatest, 3.0) << name.toStdString();
+    }
+    QApplication::setPalette(usual);
+}
+
+TEST(Palettes, TheRememberedAppearanceIsShownAtTheStartAndFollowsTheDesktopFromThere)
+{
+    const QPalette usual = QApplication::palette();
+    const test::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path("sonavel"));
+    const auto expectShown = [](Appearance appearance) {
+        EXPECT_EQ(QGuiApplication::palette().color(QPalette::Base), paletteFor(appearance).color(QPalette::Base));
+        EXPECT_EQ(isHighContrast(QGuiApplication::palette()), isHighContrast(paletteFor(appearance)));
+    };
+    for (const QString& name : appearanceNames()) {
+        folder.put("sonavel/windows.ini", "[desktop]\nappearance=" + name.toStdString() + '\n');
+        DesktopAppearance desktop(QString::fromStdString(folder.path()));
+        desktop.applyRemembered();
+        expectShown(appearanceNamed(name).value());
+        const auto set = [&](const char* group, const char* key, uint value) {
+            QMetaObject::invokeMethod(&desktop, "settingChanged", Q_ARG(QString, QString::fromLatin1(group)),
+                Q_ARG(QString, QString::fromLatin1(key)), Q_ARG(QDBusVariant, QDBusVariant(value)));
+        };
+        const bool isDark = name.endsWith(QStringLiteral("dark"));
+        set("org.freedesktop.appearance", "contrast", 1);
+        expectShown(isDark ? Appearance::HighContrastDark : Appearance::HighContrastLight);
+        set("org.freedesktop.appearance", "contrast", 0);
+        set("elsewhere", "color-scheme", isDark ? 2 : 1);
+        expectShown(isDark ? Appearance::Dark : Appearance::Light);
+        set("org.freedesktop.appearance", "color-scheme", isDark ? 2 : 1);
+        expectShown(isDark ? Appearance::Light : Appearance::Dark);
+        DesktopAppearance(QString::fromStdString(folder.path())).applyRemembered();
+        expectShown(isDark ? Appearance::Light : Appearance::Dark);
     }
     QApplication::setPalette(usual);
 }

@@ -65,6 +65,7 @@ protected:
 TEST_F(StationTableTest, TheProgramsSelectionOutlivesAReloadAndIsNotReportedBack)
 {
     table.selectRowIndexes({1, 2, 4}, TableView::Extending::No);
+    EXPECT_EQ(widget.currentIndex().row(), table.selectedRow()); // where the arrow keys go on
     fill(4);
     EXPECT_EQ(table.selectedRowIndexes(), (IndexSet{1, 2}));
     EXPECT_EQ(widgetsSelection(), 2U);
@@ -78,6 +79,7 @@ TEST_F(StationTableTest, TheRowTouchedLastIsTheSelectedOne)
 {
     click(3);
     EXPECT_EQ(table.selectedRow(), 3);
+    EXPECT_TRUE(widget.selectionModel()->isRowSelected(3)); // with all its columns
     click(1, Qt::ControlModifier);
     EXPECT_EQ(table.selectedRow(), 1);
     EXPECT_EQ(table.selectedRowIndexes(), (IndexSet{1, 3}));
