@@ -18,6 +18,7 @@
 #include "qt/binders/OutletConnector.h"
 #include "qt/desktop/AwakeningSignals.h"
 #include "qt/desktop/MediaPlayerBus.h"
+#include "qt/desktop/Session.h"
 #include "qt/desktop/TerminationSignals.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/ports/AwaitingHttpClient.h"
@@ -150,6 +151,7 @@ struct Program::Parts {
     std::unique_ptr<SplashScreen> splashScreen;
     bool isInitialized = false;
     std::unique_ptr<TerminationSignals> terminationSignals;
+    std::unique_ptr<SessionEnd> sessionEnd;
     std::unique_ptr<MediaPlayerBus> mediaPlayerBus;
     std::unique_ptr<AwakeningSignals> awakeningSignals;
 };
@@ -188,6 +190,7 @@ Program::Program(std::unique_ptr<Parts> parts)
     : parts_(std::move(parts))
 {
     parts_->terminationSignals = std::make_unique<TerminationSignals>([this] { endAsTheSessionDoes(); });
+    parts_->sessionEnd = std::make_unique<SessionEnd>([this] { endAsTheSessionDoes(); });
     parts_->httpClient.setSlowRequestObserver(
         [this](const HttpRequest& request) { showWaiting(QUrl(toQString(request.address)).host()); },
         [this] { parts_->splashScreen.reset(); });

@@ -166,6 +166,20 @@ QString homeFolder(const Lookup& lookup, const QMap<QString, QString>& environme
     return folder({environment.value(QStringLiteral("HOME")), QStringLiteral("HOME")});
 }
 
+QStringList givenOptions(const Lookup& lookup, const QString& home)
+{
+    QStringList given;
+    for (const Option& option : options) {
+        const auto found = lookup.given(option.name);
+        if (!found)
+            continue;
+        given << QStringLiteral("--") + QLatin1String(option.name);
+        if (option.value)
+            given << (qstrcmp(option.name, "home") == 0 ? home : found->value);
+    }
+    return given;
+}
+
 Settings settingsOf(const Lookup& lookup, const QMap<QString, QString>& environment)
 {
     Settings settings;
@@ -187,6 +201,7 @@ Settings settingsOf(const Lookup& lookup, const QMap<QString, QString>& environm
         settings.probe = webAddress(*found);
     else if (!settings.isDemo)
         settings.probe = QString::fromLatin1(wellKnownPage);
+    settings.options = givenOptions(lookup, settings.home);
     return settings;
 }
 

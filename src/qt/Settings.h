@@ -27,6 +27,8 @@ struct Settings {
     QString language;
     /// Absent for the desktop's.
     std::optional<Appearance> appearance;
+    /// The options that were given, as they start the player the same way from any folder.
+    QStringList options;
 };
 
 /// The program is to end at once: with status 0 after `--help` and `--version`, with 2 after a usage error.

@@ -3,6 +3,7 @@
 #include "adapters/OneInstance.h"
 #include "qt/Program.h"
 #include "qt/desktop/DesktopAppearance.h"
+#include "qt/desktop/Session.h"
 #include "qt/kit/HouseStyle.h"
 #include "qt/kit/Images.h"
 #include "qt/windows/WindowMemory.h"
@@ -11,6 +12,7 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <array>
 #include <iostream>
 #include <thread>
 
@@ -43,6 +45,15 @@ void setUpNames()
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
+void restartWithSession(const sonavel::Settings& settings, bool isMirrored)
+{
+    QStringList command = QStringList(QApplication::applicationFilePath()) + settings.options;
+    if (isMirrored)
+        command << QStringLiteral("-reverse");
+    using sonavel::Restart;
+    sonavel::restartWithSession(command, settings.isDemo ? Restart::Never : Restart::WithSession);
+}
+
 /// Whether the desktop brings neither a style nor colours of its own.
 bool isPlain(const sonavel::HouseStyle& style)
 {
@@ -70,7 +81,9 @@ std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::Settings& 
 int main(int argumentCount, char** arguments)
 {
     QStringList given = withoutName(argumentCount, arguments);
-    const bool isMirrored = given.removeAll(QStringLiteral("-reverse")) > 0; // as for every program of the toolkit
+    // As for every program of the toolkit.
+    const bool isMirrored = given.removeAll(QStringLiteral("-reverse")) > 0;
+    QByteArray session = sonavel::takeSessionId(given).toLocal8Bit();
     const sonavel::SettingsOrEnd outcome =
         sonavel::settingsFrom(given, sonavel::readEnvironment(), sonavel::readConfiguration());
     if (const auto* end = std::get_if<sonavel::EndAtOnce>(&outcome))
@@ -88,8 +101,12 @@ int main(int argumentCount, char** arguments)
 
     // Reading the settings of the fonts takes a fifth of a start; it is done while Qt finds the display.
     std::jthread fonts([] { FcInit(); });
-    int ownArguments = 1; // the options are the program's own, not Qt's
-    QApplication application(ownArguments, arguments);
+    // The other options are the program's own, not Qt's.
+    QByteArray sessionOption("-session");
+    std::array toolkitArguments{arguments[0], sessionOption.data(), session.data()};
+    int toolkitArgumentCount = session.isEmpty() ? 1 : 3;
+    QApplication application(toolkitArgumentCount, toolkitArguments.data());
+    restartWithSession(settings, isMirrored);
     // And what the first request needs, while the main window is built.
     const std::jthread network([] { sonavel::CurlHttpClient::loadLibrary(); });
     setUpNames();

@@ -1,5 +1,6 @@
 // The ports of the core as Qt provides them.
 #include "UserInput.h"
+#include "qt/desktop/Session.h"
 #include "qt/desktop/TerminationSignals.h"
 #include "qt/ports/QtAlerts.h"
 #include "qt/ports/QtEventLoop.h"
@@ -228,6 +229,31 @@ TEST(RunLoop, TheNextTurnIsNotNow)
     loop.performOnNextTurn([&] { hasRun = true; });
     EXPECT_FALSE(hasRun);
     EXPECT_TRUE(handleEventsUntil([&] { return hasRun; }));
+}
+
+TEST(SessionManager, EndsTheProgramWithoutAskingItsWindows)
+{
+    int ends = 0;
+    const SessionEnd session([&] { ++ends; });
+    class : public QWidget {
+        void closeEvent(QCloseEvent*) override { ADD_FAILURE() << "asked to close"; }
+    } window;
+    window.show();
+    QEvent end(QEvent::Quit);
+    QApplication::sendEvent(qApp, &end);
+    EXPECT_EQ(ends, 1);
+}
+
+TEST(SessionManager, StartsThePlayerAgainWithTheOptionsThatWereGiven)
+{
+    const QStringList given{"--language", "de"};
+    for (const QStringList& added : {QStringList{"-session", "id_key"}, {"--session", "id_key"}, {"-session"}, {}}) {
+        QStringList arguments = added + (added.size() == 1 ? QStringList() : given);
+        EXPECT_EQ(takeSessionId(arguments), added.value(1));
+        EXPECT_EQ(arguments, added.size() == 1 ? QStringList() : given);
+    }
+    EXPECT_EQ(restartCommand(QStringList("/usr/bin/sonavel") + given, "id", "key").join(' '),
+        "/usr/bin/sonavel --language de -session id_key");
 }
 
 TEST(TerminationSignals, ArriveAsEventsOfTheLoop)

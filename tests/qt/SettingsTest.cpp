@@ -57,6 +57,14 @@ TEST(Settings, TheDemoTouchesNothingThatIsConfigured)
     EXPECT_EQ(accepted({"--demo", "--home", existing}).home, QDir::cleanPath(existing));
 }
 
+TEST(Settings, OptionsThatWereGivenStartThePlayerTheSameWayFromAnyFolder)
+{
+    const QString folder = QDir::current().relativeFilePath(existing);
+    EXPECT_EQ(accepted({"--language", "de", "--home=" + folder}, {{"SONAVEL_PROBE", "http://environment/"}}).options,
+        (QStringList{"--home", QDir::cleanPath(existing), "--language", "de"}));
+    EXPECT_EQ(accepted({"--demo-update", "--demo"}).options, (QStringList{"--demo", "--demo-update"}));
+}
+
 TEST(Settings, AMistakeIsOneLineAndStatusTwo)
 {
     const struct {

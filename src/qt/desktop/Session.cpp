@@ -1,0 +1,51 @@
+#include "qt/desktop/Session.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QSessionManager>
+
+#include <utility>
+
+namespace sonavel {
+
+QString takeSessionId(QStringList& arguments)
+{
+    const qsizetype at =
+        qMax(arguments.indexOf(QStringLiteral("-session")), arguments.indexOf(QStringLiteral("--session")));
+    if (at < 0)
+        return {};
+    arguments.removeAt(at);
+    return at < arguments.size() ? arguments.takeAt(at) : QString();
+}
+
+QStringList restartCommand(const QStringList& command, const QString& session, const QString& key)
+{
+    return command + QStringList{QStringLiteral("-session"), session + u'_' + key};
+}
+
+void restartWithSession(const QStringList& command, Restart restart)
+{
+    const auto tell = [command, restart](QSessionManager& manager) {
+        manager.setRestartHint(
+            restart == Restart::Never ? QSessionManager::RestartNever : QSessionManager::RestartIfRunning);
+        manager.setRestartCommand(restartCommand(command, manager.sessionId(), manager.sessionKey()));
+    };
+    QObject::connect(qGuiApp, &QGuiApplication::saveStateRequest, qGuiApp, tell, Qt::DirectConnection);
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp, tell, Qt::DirectConnection);
+}
+
+SessionEnd::SessionEnd(std::function<void()> requested)
+    : requested_(std::move(requested))
+{
+    qGuiApp->installEventFilter(this);
+}
+
+bool SessionEnd::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isEnd = watched == qGuiApp && event->type() == QEvent::Quit;
+    if (isEnd)
+        requested_();
+    return isEnd;
+}
+
+} // namespace sonavel
