@@ -107,6 +107,12 @@ void WinSonavelController::quitApp()
     outlets_.winSonavel.setIsVisible(true);
 }
 
+void WinSonavelController::keepWhatIsOpen()
+{
+    outlets_.tableViewListRadio.endEditing();
+    preferences.updatePreference();
+}
+
 void WinSonavelController::checkUpdateOnDemand()
 {
     const unsigned changesBefore = stationRefresh.changes();

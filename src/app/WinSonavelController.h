@@ -48,6 +48,9 @@ public:
     /// Stores the preferences, then asks whether to quit: ends the process with status 0, or shows the main window.
     void quitApp();
 
+    /// For a session that ends: stores what is typed in an open cell, and the preferences.
+    void keepWhatIsOpen();
+
     /// The check on demand. When it changed the list, what shows the list is brought up to date.
     void checkUpdateOnDemand();
 

@@ -226,8 +226,8 @@ void Program::joinDesktop()
     parts_->actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
     parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
     // A session that ends tells so before it sends a signal, if at all.
-    QObject::connect(
-        qGuiApp, &QGuiApplication::commitDataRequest, parts_->mediaPlayerBus.get(), [this] { keepWhatIsOpen(); });
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, parts_->mediaPlayerBus.get(),
+        [this] { parts_->controller.keepWhatIsOpen(); });
     if (parts_->instance)
         parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->mediaControls.raise(); });
 }
@@ -256,16 +256,9 @@ void Program::showWaiting(const QString& host)
 void Program::endAsTheSessionDoes()
 {
     if (parts_->isInitialized)
-        keepWhatIsOpen();
+        parts_->controller.keepWhatIsOpen();
     parts_->appDelegate.applicationWillTerminate();
     parts_->process.exit(0);
-}
-
-/// A cell in which somebody types, and the preferences.
-void Program::keepWhatIsOpen()
-{
-    parts_->outlets.tableViewListRadio.endEditing();
-    parts_->controller.preferences.updatePreference();
 }
 
 void Program::leaveWindows()

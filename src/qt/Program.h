@@ -36,7 +36,6 @@ private:
     void showNowPlaying(const NowPlaying& nowPlaying);
     void showWaiting(const QString& host);
     void endAsTheSessionDoes();
-    void keepWhatIsOpen();
     void leaveWindows();
 
     std::unique_ptr<Parts> parts_;

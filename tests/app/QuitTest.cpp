@@ -29,6 +29,14 @@ TEST_F(QuitTest, ThePreferencesAreStoredBeforeTheQuestionWhateverTheAnswer)
     EXPECT_EQ(statusOfEnd([&] { controller.quitApp(); }), 0);
 }
 
+TEST_F(QuitTest, ASessionThatEndsKeepsAnOpenCellAndThePreferences)
+{
+    const unsigned before = outlets.tableViewListRadio.state().endsOfEditing;
+    controller.keepWhatIsOpen();
+    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before + 1);
+    EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A"));
+}
+
 TEST_F(QuitTest, WhatTheUserDoesWhileTheQuestionIsOpenWaitsForTheAnswer)
 {
     platform.alerts.expect(question, secondButtonAnswer, [&] {
