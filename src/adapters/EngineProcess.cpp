@@ -54,8 +54,7 @@ public:
         engine_.sendSound(*this);
     }
 
-    [[nodiscard]] const Text& address() const { return item_->address; }
-    [[nodiscard]] Text name() const { return streamTitle(item_->name.view()); }
+    [[nodiscard]] const PlayerItem& item() const { return *item_; }
     [[nodiscard]] float volume() const { return volume_; }
     [[nodiscard]] bool isMuted() const { return isMuted_; }
 
@@ -75,8 +74,6 @@ EngineProcess::EngineProcess(EventLoop& eventLoop, NotificationCenter& notificat
 {
 }
 
-EngineProcess::~EngineProcess() = default;
-
 void EngineProcess::start()
 {
     if (engine_)
@@ -89,11 +86,6 @@ void EngineProcess::start()
 std::unique_ptr<StreamPlayer> EngineProcess::playerWithPlayerItem(std::shared_ptr<const PlayerItem> item)
 {
     return std::make_unique<Player>(*this, std::move(item));
-}
-
-void EngineProcess::setNowPlayingObserver(Observer observer)
-{
-    observer_ = std::move(observer);
 }
 
 void EngineProcess::renewAtOnce()
@@ -148,8 +140,9 @@ void EngineProcess::sendSound(const Player& player)
 /// All that an engine needs to know of the stream, whatever it played before.
 void EngineProcess::sendStream()
 {
+    const PlayerItem& item = stream_->player.item();
     sendSound(stream_->player);
-    engine_->send(LoadCommand{++load_, stream_->player.address(), stream_->player.name()});
+    engine_->send(LoadCommand{++load_, item.address, streamTitle(item.name.view())});
     if (stream_->isHeld)
         engine_->send(HoldCommand{});
 }
@@ -161,13 +154,16 @@ void EngineProcess::open()
     stream_->state = StreamState::Connecting;
     stream_->title = Text();
     stream_->supervisor.opened(now());
-    if (!engine_) {
-        breakDown(PlaybackFailure::EngineFailed);
-        return;
-    }
+    if (!engine_)
+        return breakDown(PlaybackFailure::EngineFailed);
     sendStream();
-    if (engineIsReady_)
-        stream_->patience = eventLoop_.after(longestChange, [this] { replaceStuckEngine(); });
+    if (engineIsReady_) {
+        // While a name server does not answer, the engine can let go of nothing.
+        stream_->patience = eventLoop_.after(longestChange, [this] {
+            engine_.reset();
+            open();
+        });
+    }
     show();
 }
 
@@ -218,13 +214,6 @@ void EngineProcess::receiveState(StreamState state)
         post(playbackStalledNotification);
 }
 
-/// While a name server does not answer, the engine can let go of nothing.
-void EngineProcess::replaceStuckEngine()
-{
-    engine_.reset();
-    open();
-}
-
 void EngineProcess::breakDown(PlaybackFailure failure)
 {
     if (failure != PlaybackFailure::Unknown || !stream_->failure)
@@ -259,10 +248,9 @@ void EngineProcess::watchTime()
         return;
     constexpr StreamSupervisor::Time second = std::chrono::seconds(1);
     const auto remaining = std::max(*deadline - now(), StreamSupervisor::Time(0));
-    const bool isCountedDown = stream_->supervisor.nextAttempt() && remaining > second;
     const auto toFullSecond = (remaining - StreamSupervisor::Time(1)) % second + StreamSupervisor::Time(1);
-    stream_->timer = eventLoop_.after(
-        isCountedDown ? toFullSecond : remaining, [this] { follow(stream_->supervisor.advice(now())); });
+    stream_->timer = eventLoop_.after(stream_->supervisor.nextAttempt() ? toFullSecond : remaining,
+        [this] { follow(stream_->supervisor.advice(now())); });
 }
 
 /// To be called after every change of the stream.

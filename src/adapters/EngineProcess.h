@@ -12,16 +12,16 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace sonavel {
 
 class NotificationCenter;
 
-/// The engine is a process of its own, so that a decoder which crashes takes nothing else with it, and none can open
-/// the user's files; engine/Confinement.h says what that keeps it from and what not. One stream sounds at a time: the
-/// player that was last told to play has the engine; destroying it silences it. A stream that breaks is opened again,
-/// and an engine that is gone is started again, for as long as the player exists and is not held. Main thread; nothing
-/// blocks.
+/// The engine is a process of its own, so that a decoder which crashes takes nothing else with it; engine/Confinement.h
+/// says what else it is kept from. One stream sounds at a time: the player that was last told to play has the engine;
+/// destroying it silences it. A stream that breaks is opened again, and an engine that is gone is started again, for as
+/// long as the player exists and is not held. Main thread; nothing blocks.
 class EngineProcess : public StreamPlayers {
 public:
     using Observer = std::function<void(const NowPlaying&)>;
@@ -31,7 +31,7 @@ public:
         const StreamSupervisor::Limits& limits = {});
     EngineProcess(const EngineProcess&) = delete;
     EngineProcess& operator=(const EngineProcess&) = delete;
-    ~EngineProcess() override;
+    ~EngineProcess() override = default;
 
     /// Starts the engine, so that the first stream need not wait for it. Does nothing when it runs.
     void start();
@@ -40,7 +40,7 @@ public:
 
     /// Calls `observer` at every change of what becomes of the present stream, about once a second while a broken one
     /// waits.
-    void setNowPlayingObserver(Observer observer);
+    void setNowPlayingObserver(Observer observer) { observer_ = std::move(observer); }
 
     /// A broken stream is opened again at once, and further attempts wait shortly again. For when the machine has
     /// slept, or the network has come back.
@@ -73,7 +73,6 @@ private:
     void follow(StreamSupervisor::Advice advice);
     void receive(const EngineEvent& event);
     void receiveState(StreamState state);
-    void replaceStuckEngine();
     void breakDown(PlaybackFailure failure);
     void loseEngine();
     void post(const char* notification) const;
