@@ -102,9 +102,20 @@ TEST(StreamSupervisor, AShortHoldGoesOnAndHasItsOwnTimeToSound)
     Stream stream;
     stream.playFor(5s);
     stream.supervisor.held(stream.now);
-    stream.now += 19s;
+    stream.now += 20s;
     EXPECT_EQ(stream.supervisor.continued(stream.now), Advice::Nothing);
     EXPECT_EQ(stream.adviceAfter(10s), Advice::GiveUp);
+}
+
+TEST(StreamSupervisor, AHoldLastsFromItsBeginningHoweverOftenItIsAskedFor)
+{
+    Stream stream;
+    stream.playFor(5s);
+    for (const Time passed : {15s, 6s}) {
+        stream.supervisor.held(stream.now);
+        stream.now += passed;
+    }
+    EXPECT_EQ(stream.supervisor.continued(stream.now), Advice::Open);
 }
 
 TEST(StreamSupervisor, AStreamThatBrokeIsOpenedAtOnceWhenItIsContinuedOrTheNetworkIsBack)

@@ -5,11 +5,13 @@
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/ElidedLabel.h"
 #include "qt/kit/PrimaryButton.h"
+#include "qt/windows/SplashScreen.h"
 #include "qt/windows/WindowMemory.h"
 
 #include <QAccessible>
 #include <QFile>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -199,6 +201,23 @@ TEST(MainWindow, TheKeyboardGoesThroughTheControlsInReadingOrder)
     EXPECT_EQ(order.join(' ').toStdString(),
         "popupbuttonRadioList sliderVolume buttonPlayPause buttonStop buttonMute "
         "buttonEditRadioList");
+}
+
+TEST(SplashScreen, StandsInTheMiddleOfTheScreenAndSaysWhatItWaitsFor)
+{
+    SplashScreen splash;
+    const QString longName("Waiting for a.long.name.example …");
+    splash.setWaitingFor(longName);
+    splash.show();
+    const QPoint apart = splash.geometry().center() - splash.screen()->availableGeometry().center();
+    EXPECT_LE(apart.manhattanLength(), 2);
+    const auto* line = splash.findChild<ElidedLabel*>();
+    EXPECT_EQ(line->text(), longName);
+    EXPECT_GE(line->width(), line->fontMetrics().horizontalAdvance(longName));
+    QStringList texts;
+    for (const QLabel* label : splash.findChildren<QLabel*>())
+        texts << (label->pixmap().isNull() ? label->text() : "picture");
+    EXPECT_TRUE(texts.contains("picture") && texts.contains("Sonavel")) << texts.join(' ').toStdString();
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "qt/windows/NowPlayingText.h"
 #include "qt/windows/ProgramDialog.h"
 #include "qt/windows/ProgramMenus.h"
+#include "qt/windows/SplashScreen.h"
 #include "qt/windows/StationComboBox.h"
 #include "qt/windows/StationListWindow.h"
 #include "qt/windows/StatusLine.h"
@@ -39,11 +40,27 @@ protected:
             || dynamic_cast<const StationComboBox*>(&widget) || widget.objectName().startsWith(QStringLiteral("qt_"));
     }
 
+    static void expectNothingOverlaps(const QWidget& parent)
+    {
+        const auto children = parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget* child : children) {
+            for (const QWidget* other : children)
+                EXPECT_TRUE(other == child || other->isHidden() || child->isHidden() || other->isWindow()
+                    || child->isWindow() || !child->geometry().intersects(other->geometry()))
+                    << GetParam() << ", " << child->objectName().toStdString() << " and "
+                    << other->objectName().toStdString();
+            if (child->layout() != nullptr)
+                expectNothingOverlaps(*child);
+        }
+    }
+
     static void expectRoomIn(QWidget& window)
     {
         window.show();
         QApplication::processEvents();
         window.resize(window.minimumSize());
+        QApplication::processEvents();
+        expectNothingOverlaps(window);
         for (auto* widget : window.findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
             const bool hasText = qobject_cast<QLabel*>(widget) || (button != nullptr && !button->text().isEmpty());
@@ -106,6 +123,9 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
         sheet.findChild<QPushButton*>(QStringLiteral("buttonAction"))->setText(qtTrId(word));
         expectRoomIn(sheet);
     }
+    SplashScreen splash;
+    splash.setWaitingFor(QStringLiteral("data.example"));
+    expectRoomIn(splash);
     const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
     menus.addTo(*preferences);
     expectRoomIn(*preferences);
