@@ -10,7 +10,7 @@ namespace sonavel {
 /// Nothing else about the stored stations changes.
 ///
 /// Answers whether anything was changed on the way, also when a later station of the same name undid it. Takes time in
-/// proportion to the number of stations. Names must be present.
+/// proportion to the number of stations, where no name is that of many in both lists. Names must be present.
 [[nodiscard]] bool mergeStations(StationRecords& stored, const StationRecords& downloaded);
 
 } // namespace sonavel

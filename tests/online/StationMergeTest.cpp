@@ -85,12 +85,5 @@ TEST(StationMerge, ResultsInWhatTheNestedScanResultsIn)
     }
 }
 
-TEST(StationMerge, ResultsInWhatTheNestedScanResultsInForLongLists)
-{
-    RandomLists lists;
-    const StationRecords stored = lists.next(6'000, 10'000);
-    expectTheNestedScansResult(stored, lists.next(7'000, 10'000));
-}
-
 } // namespace
 } // namespace sonavel
