@@ -85,7 +85,7 @@ void StationImport::importRadioListFromFileAtPath(const Text& path)
     if (stationList_.numberOfStations() > 0 && isToReplaceList()) {
         rescueCopy = stationDatabase_.keepListBeforeImport();
         if (rescueCopy.isAbsent())
-            return tell(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
+            return outlets_.labelListStatus.announce(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
         stationList_.listRadio = std::make_shared<StationRecords>();
     }
     const Text text = listTextOfPlainFile(files_, path);
@@ -156,14 +156,7 @@ void StationImport::tellOutcome(const Outcome& outcome, const Text& rescueCopy)
         const Text name = rescueCopy.view().substr(rescueCopy.view().rfind('/') + 1);
         status.append(" ").append(filledIn(strings.localizedStringForKey("STATUS_LIST_KEPT"), name).view());
     }
-    tell(status);
-}
-
-/// Emptied first, so that the same words are shown anew.
-void StationImport::tell(const Text& status)
-{
-    outlets_.labelListStatus.setStringValue("");
-    outlets_.labelListStatus.setStringValue(status);
+    outlets_.labelListStatus.announce(status);
 }
 
 } // namespace sonavel

@@ -48,7 +48,6 @@ private:
     void showList();
     void notify(std::string_view message) const;
     void tellOutcome(const Outcome& outcome, const Text& rescueCopy);
-    void tell(const Text& status);
 
     StationList& stationList_;
     StationDatabase& stationDatabase_;

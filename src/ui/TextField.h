@@ -8,6 +8,8 @@ namespace sonavel {
 
 struct TextFieldState {
     Text stringValue;
+    /// Counts the announcements.
+    unsigned announcements = 0;
 
     friend bool operator==(const TextFieldState&, const TextFieldState&) = default;
 };
@@ -19,6 +21,15 @@ public:
     void setStringValue(const Text& text)
     {
         update([&](TextFieldState& state) { state.stringValue = text; });
+    }
+
+    /// Shows the text as something new, also where the same words are there already.
+    void announce(const Text& text)
+    {
+        update([&](TextFieldState& state) {
+            state.stringValue = text;
+            ++state.announcements;
+        });
     }
 
     /// The user changed the text to this.

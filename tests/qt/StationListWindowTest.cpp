@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 
@@ -61,6 +62,17 @@ protected:
     }
     FindField& findField() { return *window.findChild<FindField*>(); }
     QString status() { return child<QLabel>(window, "labelListStatus").text(); }
+
+    enum class Message { Usual, Failure };
+
+    /// As if the user had had the time to read it.
+    void endTimeOf(Message message)
+    {
+        QTimer* time = child<QLabel>(window, "labelListStatus").findChildren<QTimer*>().at(static_cast<int>(message));
+        EXPECT_TRUE(time->isActive());
+        time->setInterval(0);
+        EXPECT_TRUE(handleEventsUntil([time] { return !time->isActive(); }));
+    }
     void openSheet()
     {
         outlets.winEditData.makeFirstResponder();
@@ -159,14 +171,30 @@ TEST_F(StationListWindowTest, FindingNothingIsToldAndChangesNothing)
     EXPECT_EQ(table().selectedRow(), -1);
 }
 
-TEST_F(StationListWindowTest, AFailureIsNotCoveredByWhatIsToldNext)
+TEST_F(StationListWindowTest, AFailureIsShownForItsWholeTimeWhateverIsSaidMeanwhile)
 {
     window.showNotice("disk full");
-    outlets.labelListStatus.setStringValue("3 stations were imported.");
+    for (int time = 0; time < 2; ++time) {
+        outlets.labelListStatus.announce("Stations imported: 4.");
+        EXPECT_EQ(status(), "disk full");
+    }
+    QTest::keyClicks(&findField(), "a");
+    QTest::keyClicks(&findField(), "zz");
     EXPECT_EQ(status(), "disk full");
-    outlets.labelListStatus.setStringValue("");
-    outlets.labelListStatus.setStringValue("3 stations were imported.");
-    EXPECT_EQ(status(), "3 stations were imported.");
+    endTimeOf(Message::Failure);
+    EXPECT_EQ(status(), "Not found") << "its own time is not over";
+    endTimeOf(Message::Usual);
+    EXPECT_EQ(status(), "");
+}
+
+TEST_F(StationListWindowTest, TheSameWordsAreShownAnewAfterTheyWentAway)
+{
+    for (int time = 0; time < 2; ++time) {
+        outlets.labelListStatus.announce("Stations imported: 4.");
+        EXPECT_EQ(status(), "Stations imported: 4.");
+        endTimeOf(Message::Usual);
+        EXPECT_EQ(status(), "");
+    }
 }
 
 TEST_F(StationListWindowTest, KeysOfTheTableUseTheToolsThatAreEnabled)

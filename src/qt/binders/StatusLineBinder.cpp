@@ -8,9 +8,8 @@ StatusLineBinder::StatusLineBinder(TextField& field, StatusLine& widget)
     : QObject(&widget)
     , field_(field)
 {
-    field_.connect(
-        {toText(widget.text())}, [&widget](const TextFieldState& state) { widget.tell(toQString(state.stringValue)); });
-    widget.whenGone([this] { field_.setStringValue(Text("")); });
+    field_.connect({toText(widget.text())},
+        [&widget](const TextFieldState& state) { widget.showText(toQString(state.stringValue)); });
 }
 
 StatusLineBinder::~StatusLineBinder()

@@ -1,4 +1,4 @@
-// Binds a text that the program tells to a line that forgets it after a while.
+// Binds a text that the program announces to a line that shows it for a while.
 #pragma once
 
 #include "qt/windows/StatusLine.h"
@@ -6,8 +6,8 @@
 
 namespace sonavel {
 
-/// Shows each text that the field is given. When the line has forgotten it the field is emptied too, so that the same
-/// text can be told again. Lives as long as the widget; the field must live longer.
+/// Shows each text that the field is given, for the line's usual time. Lives as long as the widget; the field must live
+/// longer.
 class StatusLineBinder : public QObject {
 public:
     StatusLineBinder(TextField& field, StatusLine& widget);

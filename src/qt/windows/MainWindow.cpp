@@ -112,7 +112,7 @@ void MainWindow::showNowPlaying(const QString& text, Emphasis emphasis)
 
 void MainWindow::showNotice(const QString& text)
 {
-    description_->labelNotice->tell(text, StatusLine::Tone::Failure);
+    description_->labelNotice->showFailure(text);
 }
 
 void MainWindow::changeEvent(QEvent* event)

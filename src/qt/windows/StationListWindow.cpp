@@ -122,14 +122,14 @@ void StationListWindow::find(From from, StationFinder::Direction direction)
     }
     const bool isMissed = !wanted.isEmpty() && !row;
     findField_->showOutcome(isMissed ? FindField::Outcome::Nothing : FindField::Outcome::Found);
-    description_->labelListStatus->tell(isMissed ? qtTrId("FIND_NOTHING") : QString());
+    description_->labelListStatus->showText(isMissed ? qtTrId("FIND_NOTHING") : QString());
     if (row)
         description_->tableViewListRadio->selectAndShow(static_cast<int>(*row));
 }
 
 void StationListWindow::showNotice(const QString& text)
 {
-    description_->labelListStatus->tell(text, StatusLine::Tone::Failure);
+    description_->labelListStatus->showFailure(text);
 }
 
 void StationListWindow::changeEvent(QEvent* event)

@@ -24,31 +24,24 @@ QFont scaled(QFont font, double factor)
 
 StatusLine::StatusLine(QWidget* parent)
     : ElidedLabel(parent)
-    , timeToRead_(new QTimer(this))
 {
     setFont(scaled(font(), textSize));
-    takeColor();
-    timeToRead_->setSingleShot(true);
-    timeToRead_->setInterval(timeToReadText);
-    connect(timeToRead_, &QTimer::timeout, this, [this] {
-        clear();
-        if (whenGone_)
-            whenGone_();
-    });
+    for (Message* message : {&usual_, &failure_}) {
+        message->time = new QTimer(this);
+        message->time->setInterval(timeToReadText);
+        connect(message->time, &QTimer::timeout, this, [this, message] { hold(*message, {}); });
+    }
 }
 
-void StatusLine::tell(const QString& text, Tone tone)
+void StatusLine::hold(Message& message, const QString& text)
 {
-    const bool coversFailure = tone_ == Tone::Failure && timeToRead_->isActive() && tone == Tone::Usual;
-    if (coversFailure && !text.isEmpty())
-        return;
-    setText(text);
-    tone_ = tone;
-    takeColor();
+    message.text = text;
     if (text.isEmpty())
-        timeToRead_->stop();
+        message.time->stop();
     else
-        timeToRead_->start();
+        message.time->start();
+    setText(failure_.text.isEmpty() ? usual_.text : failure_.text);
+    takeColor();
 }
 
 void StatusLine::changeEvent(QEvent* event)
@@ -61,7 +54,7 @@ void StatusLine::changeEvent(QEvent* event)
 void StatusLine::takeColor()
 {
     QPalette colors;
-    if (tone_ == Tone::Failure)
+    if (!failure_.text.isEmpty())
         colors.setColor(QPalette::WindowText, readableRed());
     setPalette(colors);
 }

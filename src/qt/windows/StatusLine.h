@@ -1,36 +1,37 @@
-// A line that tells what came of something, for as long as it takes to read it.
+// A line that says what came of something, for as long as it takes to read it.
 #pragma once
 
 #include "qt/kit/ElidedLabel.h"
-
-#include <functional>
 
 class QTimer;
 
 namespace sonavel {
 
-/// Moves nothing when its text changes; a text goes away by itself after some twenty seconds. Failures stand out.
+/// Holds a failure and a usual text, each for twenty seconds of its own, and shows the failure as long as there is one.
+/// Moves nothing when its text changes.
 class StatusLine : public ElidedLabel {
 public:
-    enum class Tone { Usual, Failure };
-
     explicit StatusLine(QWidget* parent = nullptr);
 
-    /// Takes the place of the text that is there, but of a failure only as another failure; an empty one clears the
-    /// line.
-    void tell(const QString& text, Tone tone = Tone::Usual);
-    /// Is called when a text has gone away by itself.
-    void whenGone(std::function<void()> action) { whenGone_ = std::move(action); }
+    /// Takes the place of the usual text; an empty one clears it.
+    void showText(const QString& text) { hold(usual_, text); }
+    /// Takes the place of the failure.
+    void showFailure(const QString& text) { hold(failure_, text); }
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    struct Message {
+        QString text;
+        QTimer* time;
+    };
+
+    void hold(Message& message, const QString& text);
     void takeColor();
 
-    QTimer* timeToRead_;
-    Tone tone_ = Tone::Usual;
-    std::function<void()> whenGone_;
+    Message usual_;
+    Message failure_;
 };
 
 } // namespace sonavel
