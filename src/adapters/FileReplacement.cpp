@@ -1,6 +1,7 @@
 #include "adapters/FileReplacement.h"
 
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <climits>
@@ -74,6 +75,18 @@ std::error_code FileReplacement::create(std::string_view bytes, mode_t mode)
     if (failure)
         calls_.unlink(at, isRenamed ? name_.c_str() : temporaryName_.c_str());
     return failure;
+}
+
+void FileReplacement::removeUnfinished()
+{
+    const OpenFile folder(calls_, openFolderOf(calls_, path_));
+    const OpenFile unfinished(calls_,
+        calls_.open(folder.descriptor(), temporaryName_.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0));
+    struct stat status { };
+    if (!unfinished.isOpen() || calls_.status(unfinished.descriptor(), status) != 0)
+        return;
+    if (S_ISREG(status.st_mode) && status.st_uid == ::geteuid() && status.st_nlink == 1)
+        calls_.unlink(folder.descriptor(), temporaryName_.c_str());
 }
 
 std::error_code FileReplacement::modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode)

@@ -11,8 +11,8 @@
 namespace sonavel {
 
 /// Writes one file so that its name always stands for a whole content. Its temporary file lies beside it under one
-/// fixed name, ".NAME.saving": what a crash left behind is replaced by the next write and never piles up. Two writers
-/// of the same file at once are not provided for.
+/// fixed name, ".NAME.saving": what a crash left behind is replaced by the next write, or removed, and never piles up.
+/// Two writers of the same file at once are not provided for.
 class FileReplacement {
 public:
     /// `path` is absolute, and itself no link.
@@ -25,6 +25,9 @@ public:
 
     /// Makes the file with the given mode. Fails when its name is taken; nothing has changed then.
     [[nodiscard]] std::error_code create(std::string_view bytes, mode_t mode);
+
+    /// Removes the temporary file, if there is one that a write of this user's can have left.
+    void removeUnfinished();
 
 private:
     [[nodiscard]] std::error_code modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode);

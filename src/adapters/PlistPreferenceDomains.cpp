@@ -26,6 +26,7 @@ PlistPreferenceDomains::StoredDomain& PlistPreferenceDomains::domainNamed(const 
 PlistPreferenceDomains::StoredDomain PlistPreferenceDomains::load(const Text& path) const
 {
     StoredDomain domain;
+    files_.removeUnfinishedWrite(path);
     if (const auto bytes = files_.contentsOfFile(path))
         domain.content = domainFromPropertyList(*bytes);
     domain.isFileDamaged = !domain.content && files_.fileExists(path);

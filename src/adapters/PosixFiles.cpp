@@ -86,6 +86,11 @@ bool PosixFiles::writeAtomically(const Text& path, std::string_view bytes, FileA
     return tell(failure, path);
 }
 
+void PosixFiles::removeUnfinishedWrite(const Text& path)
+{
+    FileReplacement(*calls_, path.view()).removeUnfinished();
+}
+
 /// Replaces `path` by what it leads to in the end, which need not be there: the rename of an atomic write would put a
 /// file in the place of the link.
 std::error_code PosixFiles::followLinks(std::string& path) const

@@ -29,6 +29,7 @@ public:
     /// Never waits for another program: what is not a regular file (a pipe, a device) cannot be read.
     [[nodiscard]] std::optional<std::string> contentsOfFile(const Text& path) const override;
     bool writeAtomically(const Text& path, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) override;
+    void removeUnfinishedWrite(const Text& path) override;
     bool keepCopy(const Text& path, const Text& copy) override;
     bool moveFile(const Text& path, const Text& newPath) override;
     bool removeFile(const Text& path) override;

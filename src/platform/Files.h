@@ -37,6 +37,10 @@ public:
     virtual bool writeAtomically(
         const Text& path, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) = 0;
 
+    /// Removes what an atomic write of this file left in its folder when its process was killed. Anything else of that
+    /// name, such as a link or another user's file, stays. Never while the file is being written.
+    virtual void removeUnfinishedWrite(const Text& path) = 0;
+
     /// Gives the content of `path` a second name, which keeps it when `path` is replaced. False when `copy` is taken or
     /// cannot be made; nothing has changed then.
     virtual bool keepCopy(const Text& path, const Text& copy) = 0;

@@ -40,6 +40,7 @@ Text StationDatabase::fileRadioDBreadCypted(bool crypted)
 {
     if (!crypted)
         return listTextOfPlainFile(files_, legacyPath_);
+    files_.removeUnfinishedWrite(databasePath_);
     Text text = databaseText(files_.contentsOfFile(databasePath_));
     databaseMayBeReplaced_ = !text.isAbsent();
     return text;

@@ -32,7 +32,8 @@ public:
     [[nodiscard]] bool fileRadioDBVerify(bool legacy) const;
 
     /// The list text from the database, decrypted, or else from the legacy file, without a byte order mark at its head.
-    /// Absent when the file is missing, unreadable or not valid UTF-8, or cannot be decrypted.
+    /// Absent when the file is missing, unreadable or not valid UTF-8, or cannot be decrypted. Before it reads the
+    /// database it removes what a write that was killed left beside it.
     [[nodiscard]] Text fileRadioDBreadCypted(bool crypted);
 
     /// Writes the list to the database. Does nothing while the list is absent. When it fails the database keeps its

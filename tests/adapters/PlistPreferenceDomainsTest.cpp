@@ -29,6 +29,14 @@ protected:
     const std::string copy = files.inPreferences("Mertzan-Software.Sonavel.damaged.plist");
 };
 
+TEST_F(PlistPreferenceDomainsTest, WhatAKilledWriteLeftGoesWhenTheDomainIsRead)
+{
+    files.files[files.inPreferences(".Mertzan-Software.Sonavel.plist.saving")] = "unfin";
+    files.files[files.inPreferences(".another.plist.saving")] = "another's";
+    EXPECT_EQ(storedOnDisk(), std::nullopt);
+    EXPECT_EQ(files.files.size(), 1);
+}
+
 TEST_F(PlistPreferenceDomainsTest, ADomainIsStoredOnceItIsSynchronized)
 {
     PlistPreferenceDomains domains(files);

@@ -235,6 +235,40 @@ TEST_F(PosixFilesTest, APlantedTemporaryFileIsNeitherFollowedNorWrittenTo)
     }
 }
 
+TEST_F(PosixFilesTest, OnlyWhatAKilledWriteCanHaveLeftIsRemoved)
+{
+    folder.put("file", "content");
+    folder.put("victim", "untouched");
+    folder.put(".file.saving", "unfin");
+    folder.put(".victim.saving", "another's");
+    for (int call = 1; call <= 4; ++call) {
+        calls.fail(call);
+        files.removeUnfinishedWrite(folder.path("file"));
+        EXPECT_TRUE(folder.names().contains(".file.saving")) << "where call " << call << " fails";
+    }
+    calls.fail(0);
+    files.removeUnfinishedWrite(folder.path("file"));
+    files.removeUnfinishedWrite(folder.path("missing/file"));
+    EXPECT_EQ(folder.names(), (Names{".victim.saving", "file", "victim"}));
+
+    const std::string temporary = folder.path(".file.saving");
+    const Names withPlanted{".file.saving", ".victim.saving", "file", "victim"};
+    for (const char* planted : {"symbolic link", "hard link", "pipe", "folder"}) {
+        if (planted == std::string_view("symbolic link"))
+            fs::create_symlink("victim", temporary);
+        else if (planted == std::string_view("hard link"))
+            fs::create_hard_link(folder.path("victim"), temporary);
+        else if (planted == std::string_view("pipe"))
+            ASSERT_EQ(::mkfifo(temporary.c_str(), 0600), 0);
+        else
+            fs::create_directory(temporary);
+        files.removeUnfinishedWrite(folder.path("file"));
+        EXPECT_EQ(folder.names(), withPlanted) << planted;
+        EXPECT_EQ(folder.read("victim"), "untouched") << planted;
+        fs::remove(temporary);
+    }
+}
+
 TEST_F(PosixFilesTest, ATemporaryFilePlantedInTheVeryMomentIsNotFollowedEither)
 {
     folder.put("victim", "untouched");

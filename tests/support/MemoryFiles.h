@@ -58,6 +58,13 @@ public:
         return true;
     }
 
+    void removeUnfinishedWrite(const Text& path) override
+    {
+        const std::string whole = path.string();
+        const std::size_t name = whole.rfind('/') + 1;
+        files.erase(whole.substr(0, name) + "." + whole.substr(name) + ".saving");
+    }
+
     bool keepCopy(const Text& path, const Text& copy) override
     {
         if (fails("keep " + path.string() + " " + copy.string()) || !files.contains(path.string()) || fileExists(copy))
