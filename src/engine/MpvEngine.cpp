@@ -155,7 +155,7 @@ void MpvEngine::handle(const mpv_event& event)
         noteStart(event);
         break;
     case MPV_EVENT_FILE_LOADED:
-        noteProgress(StreamState::Buffering);
+        noteProgress(StreamState::Recognised);
         break;
     case MPV_EVENT_END_FILE:
         noteEnd(event);
@@ -237,7 +237,10 @@ void MpvEngine::showState()
 {
     if (!load_ || !hasBegun_)
         return;
-    const StreamState state = flag("core-idle") ? progress_ : StreamState::Playing;
+    const bool sounds = !flag("core-idle");
+    const StreamState state = sounds ? StreamState::Playing : progress_;
+    if (sounds)
+        progress_ = StreamState::Buffering;
     if (state == shownState_)
         return;
     shownState_ = state;

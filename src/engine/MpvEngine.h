@@ -70,7 +70,7 @@ private:
     int attempts_ = 0;
     /// libmpv has let go of the former load and begun with the present one.
     bool hasBegun_ = false;
-    /// The present attempt's state as far as it goes without sound.
+    /// The present attempt's state while it does not sound.
     StreamState progress_ = StreamState::Connecting;
     /// The sound output is open and has its volume.
     bool soundIsSet_ = false;

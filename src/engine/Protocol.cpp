@@ -18,6 +18,7 @@ template <class Value> Word(const char*, Value) -> Word<Value>;
 constexpr std::array stateWords{
     Word<StreamState>{"connecting", StreamState::Connecting},
     Word<StreamState>{"answered", StreamState::Answered},
+    Word<StreamState>{"recognised", StreamState::Recognised},
     Word<StreamState>{"buffering", StreamState::Buffering},
     Word<StreamState>{"playing", StreamState::Playing},
 };

@@ -6,7 +6,7 @@
 // trusts the other.
 //
 //   player to engine                       engine to player
-//     load ID ADDRESS NAME                   state ID connecting|answered|buffering|playing
+//     load ID ADDRESS NAME                   state ID STATE
 //     hold, continue, stop                   failed ID REASON
 //     volume 0.7                             title ID TEXT
 //     muted yes|no
@@ -48,6 +48,8 @@ enum class StreamState {
     Connecting,
     /// The server has answered; what it sends is not recognised yet.
     Answered,
+    /// It is a stream, of which no sound has been heard yet.
+    Recognised,
     Buffering,
     Playing,
 };

@@ -87,7 +87,7 @@ TEST_F(EngineProcessTest, ATitleGoesWithItsStream)
     EXPECT_TRUE(shown_.title.isAbsent());
 }
 
-/// An engine that only writes down what it is told.
+/// An engine that writes down the commands that it gets, and does nothing else.
 class ListeningEngine {
 public:
     ListeningEngine()
