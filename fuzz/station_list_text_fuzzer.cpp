@@ -1,13 +1,14 @@
 // Fuzzes reading, writing and ordering station lists.
 
 #include "Require.h"
+#include "base/Numbers.h"
 #include "model/KVStationWebRadio.h"
-#include "model/NameOrder.h"
 #include "model/StationList.h"
 #include "model/StationListText.h"
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 namespace sonavel {
 namespace {
@@ -44,10 +45,31 @@ void checkRoundTrip(const StationRecords& records, Heading heading)
     }
 }
 
-void checkOrder(const Text& left, const Text& right)
+std::string_view takeNumber(std::string_view& name)
 {
-    const auto order = compareNames(left.view(), right.view());
-    require(std::is_lt(order) == std::is_gt(compareNames(right.view(), left.view())), "the order has two sides");
+    std::string_view digits = name.substr(0, name.find_first_not_of("0123456789"));
+    name.remove_prefix(digits.size());
+    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
+    return digits;
+}
+
+/// The rule as it reads.
+bool comesBefore(std::string_view left, std::string_view right)
+{
+    while (!left.empty() && !right.empty()) {
+        if (isDigit(left.front()) && isDigit(right.front())) {
+            const std::string_view one = takeNumber(left);
+            const std::string_view other = takeNumber(right);
+            if (one != other)
+                return std::pair(one.size(), one) < std::pair(other.size(), other);
+        } else if (left.front() != right.front()) {
+            return static_cast<unsigned char>(left.front()) < static_cast<unsigned char>(right.front());
+        } else {
+            left.remove_prefix(1);
+            right.remove_prefix(1);
+        }
+    }
+    return left.size() < right.size();
 }
 
 void checkSorting(const StationRecords& records)
@@ -56,14 +78,9 @@ void checkSorting(const StationRecords& records)
     list.listRadio = std::make_shared<StationRecords>(records);
     list.sortingRadioWithKey("radio");
     StationRecords expected = records;
-    std::stable_sort(expected.begin(), expected.end(), [](const auto& left, const auto& right) {
-        return std::is_lt(compareNames(left->radio().view(), right->radio().view()));
-    });
+    std::stable_sort(expected.begin(), expected.end(),
+        [](const auto& left, const auto& right) { return comesBefore(left->radio().view(), right->radio().view()); });
     require(*list.listRadio == expected, "sorting is stable and by name");
-    for (std::size_t index = 1; index < expected.size(); ++index) {
-        checkOrder(expected[index - 1]->radio(), expected[index]->radio());
-        checkOrder(records[index - 1]->radio(), records[index]->radio());
-    }
 }
 
 void checkJson(const StationRecords& records, const Text& text)

@@ -9,6 +9,9 @@
 
 namespace sonavel {
 
+namespace {
+
+/// Cuts the digits at the head of `name` off and returns them without leading zeros; none remain of the number 0.
 std::string_view takeNumber(std::string_view& name)
 {
     std::string_view digits = name.substr(0, name.find_first_not_of("0123456789"));
@@ -16,6 +19,8 @@ std::string_view takeNumber(std::string_view& name)
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
     return digits;
 }
+
+} // namespace
 
 NameKeys::NameKeys(const std::vector<std::string_view>& names)
 {

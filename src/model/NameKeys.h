@@ -9,9 +9,6 @@
 
 namespace sonavel {
 
-/// Cuts the digits at the head of `name` off and returns them without leading zeros; none remain of the number 0.
-[[nodiscard]] std::string_view takeNumber(std::string_view& name);
-
 /// The keys of many names. Two keys compare byte by byte, the shorter before its continuation, as their names do, and
 /// are equal for equivalent names. No key has a zero byte, so words filled up with zeros compare alike.
 class NameKeys {

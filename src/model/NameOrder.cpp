@@ -1,6 +1,5 @@
 #include "model/NameOrder.h"
 
-#include "base/Numbers.h"
 #include "model/NameKeys.h"
 
 #include <algorithm>
@@ -10,13 +9,6 @@
 namespace sonavel {
 
 namespace {
-
-std::weak_ordering compareNumbers(std::string_view left, std::string_view right)
-{
-    if (left.size() != right.size())
-        return left.size() <=> right.size();
-    return left <=> right;
-}
 
 /// A name's place, with the part of its key that is being looked at.
 struct Entry {
@@ -75,25 +67,16 @@ private:
     const NameKeys& keys_;
 };
 
-} // namespace
-
-std::weak_ordering compareNames(std::string_view left, std::string_view right)
+bool areInOrder(const std::vector<std::string_view>& names, const NameKeys& keys)
 {
-    while (!left.empty() && !right.empty()) {
-        if (isDigit(left.front()) && isDigit(right.front())) {
-            const std::string_view leftNumber = takeNumber(left);
-            if (const auto order = compareNumbers(leftNumber, takeNumber(right)); std::is_neq(order))
-                return order;
-            continue;
-        }
-        // The byte order of UTF-8 is the order of the Unicode values.
-        if (left.front() != right.front())
-            return static_cast<unsigned char>(left.front()) <=> static_cast<unsigned char>(right.front());
-        left.remove_prefix(1);
-        right.remove_prefix(1);
+    for (std::size_t place = 1; place < names.size(); ++place) {
+        if (keys.restAt(place, 0) < keys.restAt(place - 1, 0))
+            return false;
     }
-    return left.size() <=> right.size();
+    return true;
 }
+
+} // namespace
 
 std::vector<std::size_t> orderOfNames(const std::vector<std::string_view>& names)
 {
@@ -101,7 +84,9 @@ std::vector<std::size_t> orderOfNames(const std::vector<std::string_view>& names
     std::vector<Entry> entries(names.size());
     for (std::size_t place = 0; place < entries.size(); ++place)
         entries[place].place = place;
-    KeySorter(keys).sort(entries);
+    // A list is mostly read in the order in which it was written, and looking costs far less than sorting.
+    if (!areInOrder(names, keys))
+        KeySorter(keys).sort(entries);
 
     std::vector<std::size_t> places(entries.size());
     std::transform(entries.begin(), entries.end(), places.begin(), [](const Entry& entry) { return entry.place; });

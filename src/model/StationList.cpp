@@ -17,18 +17,8 @@ std::string_view valueOf(const KVStationWebRadio& record, Property property)
     return (record.*property)().view();
 }
 
-bool isSorted(const StationRecords& records, Property property)
-{
-    return std::is_sorted(records.begin(), records.end(), [property](const auto& left, const auto& right) {
-        return std::is_lt(compareNames(valueOf(*left, property), valueOf(*right, property)));
-    });
-}
-
 void sortRecords(StationRecords& records, Property property)
 {
-    // A list is mostly read in the order in which it was written, and looking costs far less than sorting.
-    if (isSorted(records, property))
-        return;
     std::vector<std::string_view> names;
     names.reserve(records.size());
     for (const auto& record : records)

@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 #include <httplib.h>
 
+#include <algorithm>
 #include <atomic>
 
 namespace sonavel {
@@ -60,12 +61,15 @@ TEST_F(DataServerTest, TheStarterListArrivesAsThePlayerReadsIt)
     const StationRecords records = recordsFromListText(AES256DecryptWithKey(body, stationDatabasePassphrase));
     ASSERT_EQ(records.size(), starterStations().size());
     EXPECT_GE(records.size(), 25U);
+    std::vector<std::string_view> names;
     for (std::size_t i = 0; i < records.size(); ++i) {
+        names.push_back(records[i]->radio().view());
         EXPECT_EQ(records[i]->radio(), Text(starterStations()[i].name));
         EXPECT_FALSE(usableStreamAddress(records[i]->link()).isAbsent()) << records[i]->link().view();
-        const std::string_view former = i > 0 ? records[i - 1]->radio().view() : "";
-        EXPECT_TRUE(compareNames(former, records[i]->radio().view()) < 0) << records[i]->radio().view();
     }
+    const std::vector<std::size_t> order = orderOfNames(names);
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+    EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
 }
 
 TEST_F(DataServerTest, TheVersionAnswerHasItsEightValuesInTheirPlaces)
