@@ -111,6 +111,9 @@ void Player::buttonMute()
 void Player::mute()
 {
     outlets_.buttonMute.setTitleColor(isMute ? TitleColor::Red : TitleColor::Black);
+    outlets_.buttonMute.setState(isMute);
+    outlets_.menuMute.setState(isMute);
+    outlets_.imageVolume.setImage(isMute ? "muted.png" : "volume.png");
     outlets_.sliderVolume.setEnabled(!isMute);
     if (mediaPlayer)
         mediaPlayer->setMuted(isMute);

@@ -15,7 +15,7 @@ struct ButtonState {
     /// The name of an image that is delivered with the program, such as "play.png"; absent for none.
     Text image;
     bool isEnabled = false;
-    /// Whether a check box is ticked.
+    /// Whether a check box is ticked, or a button that shows a state is pressed.
     bool isOn = false;
 
     friend bool operator==(const ButtonState&, const ButtonState&) = default;
@@ -53,7 +53,7 @@ public:
         if (state().isEnabled)
             action.send();
     }
-    /// The user ticked or cleared the check box.
+    /// The user changed the state.
     void toggledByUser(bool on)
     {
         store([&](ButtonState& state) { state.isOn = on; });

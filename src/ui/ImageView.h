@@ -13,6 +13,12 @@ struct ImageViewState {
     friend bool operator==(const ImageViewState&, const ImageViewState&) = default;
 };
 
-class ImageView : public Rendered<ImageViewState> { };
+class ImageView : public Rendered<ImageViewState> {
+public:
+    void setImage(const Text& name)
+    {
+        update([&](ImageViewState& state) { state.image = name; });
+    }
+};
 
 } // namespace sonavel

@@ -11,6 +11,8 @@ struct MenuItemState {
     /// Tells the items of all menus apart; −1 for none.
     int tag = -1;
     bool isEnabled = false;
+    /// Whether it bears a check mark.
+    bool isOn = false;
 
     friend bool operator==(const MenuItemState&, const MenuItemState&) = default;
 };
@@ -26,6 +28,10 @@ public:
     void setEnabled(bool enabled)
     {
         update([&](MenuItemState& state) { state.isEnabled = enabled; });
+    }
+    void setState(bool on)
+    {
+        update([&](MenuItemState& state) { state.isOn = on; });
     }
 
     /// The user chose it, or pressed its key.

@@ -41,6 +41,7 @@ struct Outlets {
     Button buttonStop;
     Button buttonMute;
     Button buttonEditRadioList;
+    ImageView imageVolume;
     Slider sliderVolume;
     TextField labelVolume;
 

@@ -30,7 +30,7 @@ class Program:
         def search():
             assert self.process.poll() is None, f"the program ended with status {self.process.returncode}"
             return self._search(role, name, description)
-        return Control(wait_until(search, f"{role.value_nick} {name or description}"))
+        return Control(wait_until(search, f"{role and role.value_nick} {name or description}"))
 
     def shows(self, role, name):
         return self._search(role, name, None) is not None
@@ -41,7 +41,7 @@ class Program:
             for application in _walk_children(Atspi.get_desktop(0)):
                 if application.get_process_id() == self.process.pid:
                     for node in _walk(application):
-                        if node.get_role() == role and name in (None, node.get_name()) \
+                        if role in (None, node.get_role()) and name in (None, node.get_name()) \
                                 and description in (None, node.get_description()) \
                                 and node.get_state_set().contains(Atspi.StateType.SHOWING):
                             return node

@@ -84,6 +84,7 @@ class PreferencesTest(unittest.TestCase):
         volume = program.find(self.Role.SLIDER, "Volume")
         self.desk.keys("ctrl+m")
         wait_until(lambda: not volume.enabled, "the sound to be muted beside the sheet")
+        self.assertTrue(program.find(None, "Mute").has(self.State.CHECKED))
         self.desk.keys("ctrl+m", "alt+s")
         program.find(self.Role.MENU_ITEM, "About Sonavel")
         self.desk.keys("Return")
@@ -122,7 +123,7 @@ class PreferencesTest(unittest.TestCase):
 
     def test_a_mirrored_and_enlarged_window_begins_at_the_right(self):
         program = self.start("--demo", "-reverse", QT_SCALE_FACTOR="2")
-        x = [program.find(self.Role.PUSH_BUTTON, name).center[0] for name in ("Play", "Stop", "Mute")]
+        x = [program.find(self.Role.PUSH_BUTTON, name).center[0] for name in ("Play", "Stop", "Station List…")]
         self.assertEqual(x, sorted(x, reverse=True))
         program.process.terminate()
         self.assertEqual(program.process.wait(10), 0)
@@ -167,11 +168,11 @@ class PreferencesTest(unittest.TestCase):
             menu = self.accessibility.Control(bar.node.get_child_at_index(1))
             for opening in (lambda: menu.node.do_action(0), lambda: self.desk.click(menu)):
                 opening()
-                item = program.find(self.Role.MENU_ITEM, "Mute")
+                item = program.find(self.Role.MENU_ITEM, "Stop")
                 x, y = (there - here for there, here in zip(item.center, frame.center))
                 self.assertTrue(abs(x) < 250 and abs(y) < 250, (frame.name, x, y))
                 self.desk.keys("Escape", "Escape")
-                self.wait_gone(program, self.Role.MENU_ITEM, "Mute")
+                self.wait_gone(program, self.Role.MENU_ITEM, "Stop")
         self.quit(program)
 
     def check_for_updates(self, program):

@@ -53,6 +53,8 @@ TEST_F(PlayerTest, PlayPauseGoesOnWithTheSamePlayer)
 
 TEST_F(PlayerTest, ANewPlayerSoundsAsTheControlsSayBeforeItStarts)
 {
+    outlets.imageVolume.connect({});
+    outlets.menuMute.connect({});
     outlets.buttonMute.pressedByUser();
     player.play();
     EXPECT_EQ(streams.last().said, (std::vector<std::string>{"volume", "muted", "play"}));
@@ -61,12 +63,18 @@ TEST_F(PlayerTest, ANewPlayerSoundsAsTheControlsSayBeforeItStarts)
     EXPECT_FALSE(outlets.sliderVolume.state().isEnabled);
     EXPECT_EQ(outlets.buttonMute.state().titleColor, TitleColor::Red);
     EXPECT_EQ(outlets.buttonMute.state().title, Text("Mute"));
+    EXPECT_TRUE(outlets.buttonMute.state().isOn);
+    EXPECT_TRUE(outlets.menuMute.state().isOn);
+    EXPECT_EQ(outlets.imageVolume.state().image, Text("muted.png"));
 
     outlets.buttonMute.pressedByUser();
     EXPECT_FALSE(streams.last().isMuted);
     EXPECT_EQ(streams.last().volume, 0.5F);
     EXPECT_TRUE(outlets.sliderVolume.state().isEnabled);
     EXPECT_EQ(outlets.buttonMute.state().titleColor, TitleColor::Black);
+    EXPECT_FALSE(outlets.buttonMute.state().isOn);
+    EXPECT_FALSE(outlets.menuMute.state().isOn);
+    EXPECT_EQ(outlets.imageVolume.state().image, Text("volume.png"));
 }
 
 TEST_F(PlayerTest, PlayWhilePlayingSilencesTheFormerPlayer)

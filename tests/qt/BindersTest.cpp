@@ -60,6 +60,7 @@ TEST_F(PopUpBinding, SelectingAndRefillingFromTheProgramChoosesNoStation)
 {
     popUp.selectItemAtIndex(2);
     EXPECT_EQ(widget.currentText(), "Second");
+    EXPECT_EQ(widget.view()->currentIndex().row(), 2) << "what a screen reader says";
     popUp.setItems(titles({"No stations"}));
     EXPECT_EQ(widget.currentText(), "No stations");
     popUp.setEnabled(false);
@@ -357,7 +358,8 @@ TEST(Connecting, EveryControlOfEveryWindowHasItsWidget)
     connectUpdateWindow({window, name, version, notes, update, remind}, *updater);
 
     expectConnected("main", outlets.winSonavel, outlets.popupbuttonRadioList, outlets.buttonPlayPause,
-        outlets.buttonStop, outlets.buttonMute, outlets.buttonEditRadioList, outlets.sliderVolume, outlets.labelVolume);
+        outlets.buttonStop, outlets.buttonMute, outlets.buttonEditRadioList, outlets.imageVolume, outlets.sliderVolume,
+        outlets.labelVolume);
     expectConnected("splash", outlets.winSplashScreen);
     expectConnected("list", outlets.winWebRadioListEdit, outlets.toolBar, outlets.radioAdd, outlets.radioEdit,
         outlets.radioRemove, outlets.radioImport, outlets.radioExport, outlets.tableViewListRadio,

@@ -4,6 +4,7 @@
 #include "UserInput.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/ElidedLabel.h"
+#include "qt/kit/Palettes.h"
 #include "qt/kit/PrimaryButton.h"
 #include "qt/windows/SplashScreen.h"
 #include "qt/windows/WindowMemory.h"
@@ -34,6 +35,7 @@ TEST(MainWindow, HasEveryOutletAndStartsStopped)
     EXPECT_FALSE(outlets.buttonStop.state().isEnabled);
     EXPECT_TRUE(outlets.buttonEditRadioList.state().isEnabled);
     EXPECT_EQ(outlets.buttonMute.title(), Text("Mute"));
+    EXPECT_EQ(outlets.imageVolume.state().image, Text("volume.png"));
     EXPECT_EQ(outlets.labelVolume.stringValue(), Text("Volume"));
     EXPECT_EQ(outlets.sliderVolume.state().maxValue, 1.0);
 }
@@ -151,6 +153,31 @@ TEST(MainWindow, AScreenReaderHearsTheTitleAndTheNameOfEveryControl)
     EXPECT_EQ(accessible(window, "buttonPlayPause", QAccessible::Name), "Pause");
     EXPECT_EQ(accessible(window, "sliderVolume", QAccessible::Name), "Volume");
     EXPECT_EQ(accessible(window, "buttonEditRadioList", QAccessible::Name), "Station List…");
+}
+
+TEST(MainWindow, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)
+{
+    Outlets outlets;
+    MainWindow window{nullptr};
+    connectMainWindow(outlets, window);
+    auto& button = *window.findChild<QPushButton*>("buttonMute");
+    const auto icon = [&] { return window.findChild<QLabel*>("imageVolume")->pixmap().toImage(); };
+    const QImage heard = icon();
+    EXPECT_FALSE(heard.isNull());
+    outlets.buttonMute.setEnabled(true);
+    outlets.buttonMute.setState(true);
+    outlets.imageVolume.setImage("muted.png");
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&button)->state().checked);
+    EXPECT_NE(icon(), heard);
+    const QImage light = icon();
+    window.setPalette(paletteFor(Appearance::Dark));
+    EXPECT_NE(icon(), light);
+
+    int presses = 0;
+    outlets.buttonMute.action.set([&] { ++presses; });
+    button.toggle();
+    EXPECT_EQ(presses, 1);
+    EXPECT_FALSE(outlets.buttonMute.state().isOn);
 }
 
 TEST(WindowMemory, AWindowComesBackWhereItWasAndRubbishIsForgotten)

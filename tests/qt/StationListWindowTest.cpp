@@ -432,6 +432,17 @@ TEST_F(StationListWindowTest, EveryItemHasTheTagOfWhatItSaysAndItsKeys)
     }
 }
 
+TEST_F(StationListWindowTest, ACheckMarkIsTheProgramsToSet)
+{
+    QAction& mute = *window.menuBar()->actions().at(1)->menu()->actions().at(2);
+    outlets.menuMute.setEnabled(true);
+    mute.trigger();
+    QApplication::processEvents();
+    EXPECT_FALSE(mute.isChecked());
+    outlets.menuMute.setState(true);
+    EXPECT_TRUE(mute.isChecked());
+}
+
 TEST_F(StationListWindowTest, AMenuTitleFromTheProgramIsShownAsItIs)
 {
     EXPECT_EQ(outlets.menuRadioAdd.state().title, Text("Add…"));

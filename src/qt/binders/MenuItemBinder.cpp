@@ -13,7 +13,12 @@ MenuItemBinder::MenuItemBinder(MenuItem& item, int tag, QAction& action)
     item_.connect({titleShown_, tag, action.isEnabled()}, [this](const MenuItemState& state) { render(state); });
     // Queued: a screen reader that chooses it waits for an answer, and must not wait for that of a question.
     connect(
-        &action, &QAction::triggered, this, [this] { item_.chosenByUser(); }, Qt::QueuedConnection);
+        &action, &QAction::triggered, this,
+        [this] {
+            render(item_.state()); // the toolkit has changed a check mark, which is the program's to set
+            item_.chosenByUser();
+        },
+        Qt::QueuedConnection);
 }
 
 MenuItemBinder::~MenuItemBinder()
@@ -27,6 +32,7 @@ void MenuItemBinder::render(const MenuItemState& state)
         action_.setText(withoutMnemonics(toQString(state.title)));
     titleShown_ = state.title;
     action_.setEnabled(state.isEnabled);
+    action_.setChecked(state.isOn);
 }
 
 } // namespace sonavel

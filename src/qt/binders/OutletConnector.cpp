@@ -3,6 +3,7 @@
 #include "app/Menus.h"
 #include "platform/Interfaces.h"
 #include "qt/binders/ButtonBinder.h"
+#include "qt/binders/ImageBinder.h"
 #include "qt/binders/LabelBinder.h"
 #include "qt/binders/MenuItemBinder.h"
 #include "qt/binders/NotesBinder.h"
@@ -67,11 +68,9 @@ void connect(TextField& outlet, QWidget& window, const char* name)
     else
         new LabelBinder(outlet, objectNamed<QLabel>(window, name));
 }
-/// The layout gives the picture, and no operation changes it.
 void connect(ImageView& outlet, QWidget& window, const char* name)
 {
-    objectNamed<QLabel>(window, name);
-    outlet.connect({});
+    new ImageBinder(outlet, objectNamed<QLabel>(window, name));
 }
 void connect(TableView& outlet, QWidget& window, const char* name)
 {
@@ -131,6 +130,7 @@ void connectMainWindow(Outlets& outlets, QWidget& window)
     connect(outlets.buttonStop, window, "buttonStop");
     connect(outlets.buttonMute, window, "buttonMute");
     connect(outlets.buttonEditRadioList, window, "buttonEditRadioList");
+    connect(outlets.imageVolume, window, "imageVolume");
     connect(outlets.sliderVolume, window, "sliderVolume");
     connect(outlets.labelVolume, window, "labelVolume");
 }

@@ -53,6 +53,7 @@ void MainWindow::setUpProportions()
     description_->controls->setHorizontalSpacing(line * 3 / 4);
     description_->controls->setVerticalSpacing(line * 5 / 8);
     description_->buttons->setSpacing(line / 2);
+    description_->volume->setSpacing(line / 2);
     description_->displayRows->setContentsMargins(line * 3 / 4, line * 5 / 8, line * 3 / 4, line * 5 / 8);
 
     description_->labelNowPlaying->setFont(scaled(font(), headlineSize));

@@ -21,6 +21,7 @@ struct Entry {
     MenuItem Outlets::*outlet; ///< null for a line between items
     const char* title = nullptr;
     QList<QKeySequence> keys = {};
+    bool bearsCheckMark = false;
 };
 
 struct Menu {
@@ -38,7 +39,7 @@ const QList<Menu>& layout()
         {"MENU_PLAYBACK",
             {{&Outlets::menuPlayPause, "MENU_PLAY_PAUSE", {Qt::CTRL | Qt::Key_P, Qt::Key_Space}},
                 {&Outlets::menuStop, "MENU_STOP", {Qt::CTRL | Qt::Key_Period}},
-                {&Outlets::menuMute, "MENU_MUTE", {Qt::CTRL | Qt::Key_M}}, {nullptr},
+                {&Outlets::menuMute, "MENU_MUTE", {Qt::CTRL | Qt::Key_M}, true}, {nullptr},
                 {&Outlets::menuPreviousStation, "MENU_PREVIOUS", {Qt::CTRL | Qt::Key_Left}},
                 {&Outlets::menuNextStation, "MENU_NEXT", {Qt::CTRL | Qt::Key_Right}}}},
         {"MENU_STATIONS",
@@ -56,9 +57,11 @@ void addItem(QMenu& menu, QAction& item)
     QAction* inWindow = menu.addAction(item.text());
     inWindow->setShortcuts(item.shortcuts());
     inWindow->setAutoRepeat(false);
+    inWindow->setCheckable(item.isCheckable());
     const auto follow = [&item, inWindow] {
         inWindow->setText(item.text());
         inWindow->setEnabled(item.isEnabled());
+        inWindow->setChecked(item.isChecked());
     };
     follow();
     QObject::connect(&item, &QAction::changed, inWindow, follow);
@@ -97,6 +100,7 @@ ProgramMenus::ProgramMenus(std::function<void()> validate)
             auto* action = new QAction(qtTrId(entry.title), this);
             action->setShortcuts(entry.keys);
             action->setAutoRepeat(false);
+            action->setCheckable(entry.bearsCheckMark);
             items_.emplace_back(entry.outlet, action);
         }
     }
