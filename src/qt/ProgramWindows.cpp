@@ -61,6 +61,8 @@ void ProgramWindows::buildStationListWindow()
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     connectStationListWindow(outlets_, window);
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    if (window.isVisible())
+        mainWindow_->raise(); // it keeps the keyboard, and is not to be covered
     window.whenFileDropped([this](const Text& path) {
         actions_.perform(stationListWindow_.get(), ListUse::Exclusive,
             [path](WinSonavelController& controller) { controller.stationImport.importRadioListFromFileAtPath(path); });

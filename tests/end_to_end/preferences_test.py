@@ -36,6 +36,11 @@ class PreferencesTest(unittest.TestCase):
         self.address = self.server.stdout.readline().split()[-1]
 
     def start(self, *options, **extra):
+        program = self.start_as_it_comes(*options, **extra)
+        self.desk.activate("Sonavel")
+        return program
+
+    def start_as_it_comes(self, *options, **extra):
         """With a web browser that writes down what it is to open."""
         browser = self.home / "bin/xdg-open"
         browser.parent.mkdir(exist_ok=True)
@@ -44,12 +49,17 @@ class PreferencesTest(unittest.TestCase):
         options = options or ("--data-server", self.address, "--probe", self.address)
         process = self.desk.start([BUILD / "sonavel", "--home", self.home, *options], stderr=None, extra={
             "SONAVEL_AUDIO_OUTPUT": "null", "PATH": f"{browser.parent}:{os.environ['PATH']}", **extra})
-        self.desk.activate("Sonavel")
         return self.accessibility.Program(process)
 
     def geometry(self):
         return subprocess.run(["xdotool", "getwindowgeometry", str(self.desk.window("Sonavel"))],
                               env=self.desk.environment, capture_output=True, text=True, check=True).stdout
+
+    def windows_in_order(self):
+        """The windows' identifiers, the front one last."""
+        listed = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"], env=self.desk.environment,
+                                capture_output=True, text=True, check=True).stdout
+        return [int(window, 16) for window in listed.partition("#")[2].split(",")]
 
     def quit(self, program):
         self.desk.activate("Sonavel")
@@ -120,6 +130,24 @@ class PreferencesTest(unittest.TestCase):
         program = self.start()
         wait_until(lambda: self.geometry().splitlines()[1:] == place.splitlines()[1:], "the window in its place")
         self.quit(program)
+
+    def test_a_restored_list_lies_behind_the_main_window_and_ctrl_w_closes_the_active_one(self):
+        program = self.start()
+        self.desk.keys("ctrl+e")
+        self.desk.activate("Station List.*")
+        subprocess.run(["xdotool", "windowmove", "--sync", str(self.desk.window("Station List.*")), "1", "1"],
+                       env=self.desk.environment, check=True)
+        self.quit(program)
+        program = self.start_as_it_comes()
+        self.desk.window("Station List.*")
+        wait_until(lambda: self.windows_in_order()[-1] == self.desk.window("Sonavel"), "the main window in front")
+        self.desk.activate("Station List.*")
+        self.desk.keys("ctrl+w")
+        wait_until(lambda: not self.desk.is_shown("Station List.*"), "the list to be closed")
+        self.desk.activate("Sonavel")
+        self.desk.keys("ctrl+w")
+        program.find(self.Role.PUSH_BUTTON, "Yes").press()
+        self.assertEqual(program.process.wait(10), 0)
 
     def test_a_mirrored_and_enlarged_window_begins_at_the_right(self):
         program = self.start("--demo", "-reverse", QT_SCALE_FACTOR="2")
