@@ -41,7 +41,6 @@ void setUpNames()
 {
     QApplication::setApplicationName(QStringLiteral("sonavel"));
     // No display name: it would be put behind the title of every window.
-    QApplication::setDesktopFileName(QStringLiteral("sonavel"));
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
