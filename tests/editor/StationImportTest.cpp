@@ -196,6 +196,17 @@ TEST_F(StationImportTest, OddFilesGiveTheStationsThatTheyHold)
     EXPECT_EQ(status(), "<STATUS_NOTHING_IMPORTED>");
 }
 
+TEST_F(StationImportTest, TheSameOutcomeIsAnnouncedAnew)
+{
+    start();
+    std::vector<Text> announced;
+    outlets.labelListStatus.connect({}, [&](const TextFieldState& state) { announced.push_back(state.stringValue); });
+    announced.clear();
+    import("");
+    import("");
+    EXPECT_EQ(announced, std::vector<Text>(2, "<STATUS_NOTHING_IMPORTED>"));
+}
+
 TEST_F(StationImportTest, ACancelledPanelAsksAndChangesNothing)
 {
     startWithStations("A;http://a/\r");
