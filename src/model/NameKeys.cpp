@@ -20,6 +20,12 @@ std::string_view takeNumber(std::string_view& name)
     return digits;
 }
 
+/// Every other byte stands for itself in a key.
+bool needsOtherForm(char character)
+{
+    return isDigit(character) || character == '\0' || character == '\1';
+}
+
 } // namespace
 
 NameKeys::NameKeys(const std::vector<std::string_view>& names)
@@ -52,10 +58,16 @@ std::string_view NameKeys::restAt(std::size_t place, std::size_t offset) const
 void NameKeys::append(std::string_view name)
 {
     while (!name.empty()) {
+        const auto* const special = std::find_if(name.begin(), name.end(), needsOtherForm);
+        const auto plain = static_cast<std::size_t>(special - name.begin());
+        bytes_ += name.substr(0, plain);
+        name.remove_prefix(plain);
+        if (name.empty())
+            break;
         if (isDigit(name.front())) {
             appendNumber(takeNumber(name));
         } else {
-            appendOther(name.front());
+            appendLowest(name.front());
             name.remove_prefix(1);
         }
     }
@@ -71,14 +83,11 @@ void NameKeys::appendNumber(std::string_view digits)
     bytes_ += digits;
 }
 
-/// Any other byte stands for itself, except that 0 and 1 become two bytes, as no key has a zero.
-void NameKeys::appendOther(char character)
+/// The bytes 0 and 1 become two bytes, as no key has a zero.
+void NameKeys::appendLowest(char character)
 {
-    if (character == '\0' || character == '\1') {
-        bytes_ += '\1';
-        ++character;
-    }
-    bytes_ += character;
+    bytes_ += '\1';
+    bytes_ += static_cast<char>(character + 1);
 }
 
 } // namespace sonavel

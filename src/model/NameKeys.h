@@ -29,7 +29,7 @@ public:
 private:
     void append(std::string_view name);
     void appendNumber(std::string_view digits);
-    void appendOther(char character);
+    void appendLowest(char character);
 
     std::string bytes_;
     std::vector<std::size_t> ends_;

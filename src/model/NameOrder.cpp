@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <numeric>
 #include <span>
 
 namespace sonavel {
@@ -81,14 +82,16 @@ bool areInOrder(const std::vector<std::string_view>& names, const NameKeys& keys
 std::vector<std::size_t> orderOfNames(const std::vector<std::string_view>& names)
 {
     const NameKeys keys(names);
+    std::vector<std::size_t> places(names.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
+    // A list is mostly read in the order in which it was written, and looking costs far less than sorting.
+    if (areInOrder(names, keys))
+        return places;
+
     std::vector<Entry> entries(names.size());
     for (std::size_t place = 0; place < entries.size(); ++place)
         entries[place].place = place;
-    // A list is mostly read in the order in which it was written, and looking costs far less than sorting.
-    if (!areInOrder(names, keys))
-        KeySorter(keys).sort(entries);
-
-    std::vector<std::size_t> places(entries.size());
+    KeySorter(keys).sort(entries);
     std::transform(entries.begin(), entries.end(), places.begin(), [](const Entry& entry) { return entry.place; });
     return places;
 }

@@ -23,9 +23,12 @@ void sortRecords(StationRecords& records, Property property)
     names.reserve(records.size());
     for (const auto& record : records)
         names.push_back(valueOf(*record, property));
+    const auto order = orderOfNames(names);
+    if (std::is_sorted(order.begin(), order.end()))
+        return;
     StationRecords sorted;
     sorted.reserve(records.size());
-    for (const std::size_t place : orderOfNames(names))
+    for (const std::size_t place : order)
         sorted.push_back(std::move(records[place]));
     records = std::move(sorted);
 }
