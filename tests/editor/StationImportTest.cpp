@@ -51,6 +51,7 @@ TEST_F(StationImportTest, AnEmptyListTakesEveryLineAsItStands)
 TEST_F(StationImportTest, AMergingImportNumbersWhatIsTaken)
 {
     startAnswering("A;http://a/\rB;http://b/\r", secondButtonAnswer);
+    platform.localizedStrings.texts = {{"STATUS_IMPORTED", "Imported: %li."}};
     platform.alerts.expect("<AS_DUPLICATED_DATA>", firstButtonAnswer, [&] {
         EXPECT_EQ(database(), Text(list()));
         EXPECT_EQ(items(), 8) << "the last line has no end: it is not shown yet";
@@ -58,6 +59,7 @@ TEST_F(StationImportTest, AMergingImportNumbersWhatIsTaken)
     import("A;1\ra;2\rC;3\rC;4\rA (3);5\rA;6");
     EXPECT_EQ(list(), "A;http://a/\rB;http://b/\rA (3);1\ra;2\rC;3\rC (6);4\rA (3) (7);5\rA (8);6\r");
     EXPECT_EQ(outlets.tableViewListRadio.numberOfRows(), 7);
+    EXPECT_EQ(status(), "Imported: 6.");
 }
 
 TEST_F(StationImportTest, MergingGivesWhatTheLiteralProcedureGives)
@@ -95,12 +97,13 @@ TEST_F(StationImportTest, MergingGivesWhatTheLiteralProcedureGives)
 TEST_F(StationImportTest, YesReplacesTheListAndKeepsTheFormerOne)
 {
     startAnswering("A;http://a/\rB;http://b/\r", firstButtonAnswer);
+    platform.localizedStrings.texts = {{"STATUS_LIST_KEPT", "Kept: %@."}};
     import("C;http://c/\r");
     EXPECT_EQ(list(), "C;http://c/\r");
     EXPECT_EQ(controller.stationList.listRadio->front()->idRadio(), 1U);
     const std::string copy = platform.files.files.at(platform.files.inPreferences("radiolist.before-import.rdb"));
     EXPECT_EQ(AES256DecryptWithKey(Text(copy), stationDatabasePassphrase), "A;http://a/\rB;http://b/\r");
-    EXPECT_EQ(status(), "<STATUS_IMPORTED> <STATUS_LIST_KEPT>");
+    EXPECT_EQ(status(), "<STATUS_IMPORTED> Kept: radiolist.before-import.rdb.");
 }
 
 TEST_F(StationImportTest, WithoutARescueCopyNothingIsReplaced)

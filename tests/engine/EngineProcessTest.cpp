@@ -43,6 +43,7 @@ TEST_F(EngineProcessTest, AShortHoldGoesOnAndALongOneIsOpenedAgain)
 {
     StreamSupervisor::Limits limits = shortDelays;
     limits.hold = 1s;
+    limits.silence = 1500ms;
     use(limits);
     const ScriptedServer server(playTone);
     play(server.address());
@@ -51,6 +52,7 @@ TEST_F(EngineProcessTest, AShortHoldGoesOnAndALongOneIsOpenedAgain)
     player_->pause();
     EXPECT_EQ(shown_.state, State::Held);
     player_->play();
+    loop_.runFor(1800ms);
     EXPECT_TRUE(comesTo(State::Playing));
     EXPECT_EQ(server.connectionCount(), 1);
 
