@@ -26,6 +26,7 @@ TEST_F(HostileStreams, WhatIsNoStreamSaysWhyAndTheNextOneStillPlays)
         {answer("audio/mpeg", ""), PlaybackFailure::NotAStream},
         {answer("audio/x-mpegurl", "#EXTM3U\n"), PlaybackFailure::NotAStream},
         {answer("audio/x-scpls", "[playlist]\nNumberOfEntries=0\n"), PlaybackFailure::NotAStream},
+        {answer("audio/x-mpegurl", "#EXTM3U\nhttp://127.0.0.1:1/\n"), PlaybackFailure::Refused},
         {"", PlaybackFailure::Unknown},
         {"no server of the web at all\r\n", PlaybackFailure::Unknown},
         {"HTTP/1.0 302 Found\r\nLocation: /\r\nContent-Length: 0\r\n\r\n", PlaybackFailure::Unknown},
