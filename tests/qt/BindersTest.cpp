@@ -3,6 +3,7 @@
 #include "platform/Interfaces.h"
 #include "qt/binders/ButtonBinder.h"
 #include "qt/binders/LabelBinder.h"
+#include "qt/binders/NotesBinder.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/binders/PopUpBinder.h"
 #include "qt/binders/SliderBinder.h"
@@ -24,6 +25,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QListView>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include <gtest/gtest.h>
@@ -103,7 +105,7 @@ TEST_F(PopUpBinding, KeysOfMenusAndWindowsAreNoTyping)
     popUp.selectItemAtIndex(2);
     const std::tuple<Qt::KeyboardModifier, Qt::Key, QString> commands[] = {{Qt::AltModifier, Qt::Key_T, "t"},
         {Qt::ControlModifier, Qt::Key_T, "t"}, {Qt::MetaModifier, Qt::Key_T, "t"}, {Qt::AltModifier, Qt::Key_End, {}},
-        {Qt::MetaModifier, Qt::Key_Down, {}}};
+        {Qt::MetaModifier, Qt::Key_Down, {}}, {Qt::NoModifier, Qt::Key_F6, {}}};
     for (const auto& [modifier, key, text] : commands) {
         EXPECT_FALSE(pressKey(widget, key, text, modifier)) << modifier << " " << key;
         EXPECT_FALSE(widget.view()->isVisible());
@@ -225,6 +227,11 @@ TEST(LabelBinding, WhatAServerSaysIsNoMarkup)
     field.setStringValue("<b>1</b>");
     EXPECT_EQ(widget.text(), "<b>1</b>");
     EXPECT_EQ(widget.textFormat(), Qt::PlainText);
+    TextField notes;
+    QPlainTextEdit lines;
+    new NotesBinder(notes, lines);
+    notes.setStringValue("<b>1</b>\n2");
+    EXPECT_EQ(lines.toPlainText(), "<b>1</b>\n2");
 }
 
 TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)

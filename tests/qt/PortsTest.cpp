@@ -105,6 +105,11 @@ TEST(FilePanels, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileW
         panel.reject();
     });
     EXPECT_TRUE(panels.runModal(OpenPanel{"csv"}).isAbsent());
+    whenPanelIsOpen({}, [&](QFileDialog& panel) {
+        EXPECT_EQ(panel.directory(), QDir::home());
+        panel.reject();
+    });
+    EXPECT_TRUE(QtFilePanels().runModal(OpenPanel{"csv"}).isAbsent());
 }
 
 TEST(FilePanels, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
