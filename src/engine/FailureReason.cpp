@@ -30,13 +30,16 @@ constexpr std::array signs{
     Sign{"Could not open/initialize audio device", PlaybackFailure::NoSoundOutput},
 };
 
+/// Such a line only repeats the address, which may contain any of the signs.
+constexpr std::string_view addressLine = "Failed to open ";
+
 } // namespace
 
 std::optional<PlaybackFailure> failureFromLogLine(std::string_view line)
 {
     const auto* const found = std::find_if(signs.begin(), signs.end(),
         [line](const Sign& sign) { return line.find(sign.part) != std::string_view::npos; });
-    if (found == signs.end())
+    if (found == signs.end() || line.starts_with(addressLine))
         return std::nullopt;
     return found->failure;
 }

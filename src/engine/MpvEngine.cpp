@@ -18,8 +18,9 @@ namespace {
 
 /// A server can make playlists lead to playlists for ever.
 constexpr int mostAttempts = 20;
-/// What libmpv logs as soon as a server has answered.
-constexpr std::string_view answerSign = "Trying demuxers";
+/// What libmpv logs as soon as a server has answered. Other levels choose a demuxer by the address, and for "rtsp" it
+/// is the demuxer that connects then.
+constexpr std::string_view answerSign = "Trying demuxers for level=normal";
 
 void endPlaying(mpv_handle* player)
 {

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <set>
 
 namespace sonavel::test {
 
@@ -40,7 +41,7 @@ protected:
         engine_.emplace(loop_, notifications_, program, limits);
         engine_->setNowPlayingObserver([this](const NowPlaying& shown) {
             shown_ = shown;
-            hasSounded_ |= shown.state == State::Playing;
+            states_.insert(shown.state);
             if (shown.state == State::Reconnecting)
                 lastFailure_ = shown.failure;
         });
@@ -50,7 +51,7 @@ protected:
     void play(const std::string& address)
     {
         lastFailure_.reset();
-        hasSounded_ = false;
+        states_.clear();
         auto next = engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{address, {}}));
         player_ = std::move(next);
         player_->setVolume(0.5F);
@@ -86,7 +87,8 @@ protected:
     int errors_ = 0;
     NowPlaying shown_;
     std::optional<PlaybackFailure> lastFailure_;
-    bool hasSounded_ = false;
+    /// Those of the present player.
+    std::set<State> states_;
     std::optional<EngineProcess> engine_;
     std::unique_ptr<StreamPlayer> player_;
 };

@@ -89,12 +89,12 @@ TEST_F(EngineProcessTest, ATitleGoesWithItsStream)
     EXPECT_TRUE(shown_.title.isAbsent());
 }
 
-/// An engine that writes down the commands that it gets, and does nothing else.
+/// An engine that begins with one line, and then only writes down the commands that it gets.
 class ListeningEngine {
 public:
-    ListeningEngine()
+    explicit ListeningEngine(const std::string& line = {})
     {
-        folder_.put("engine", "#!/bin/sh\nexec cat >" + folder_.path("heard") + "\n");
+        folder_.put("engine", "#!/bin/sh\necho '" + line + "' >&0\nexec cat >" + folder_.path("heard") + "\n");
         std::filesystem::permissions(program(), std::filesystem::perms::owner_all);
     }
 
@@ -113,6 +113,17 @@ public:
 private:
     TemporaryFolder folder_;
 };
+
+TEST_F(EngineProcessTest, AStreamThatIsRecognisedCountsAsConnectingUntilItIsGivenUpAsSilent)
+{
+    const ListeningEngine engine("state 1 recognised");
+    StreamSupervisor::Limits limits = shortDelays;
+    limits.opening = 1s;
+    use(limits, engine.program());
+    play("http://radio.example/");
+    EXPECT_TRUE(failsWith(PlaybackFailure::Silent));
+    EXPECT_EQ(states_, (std::set{State::Connecting, State::Reconnecting}));
+}
 
 TEST_F(EngineProcessTest, TheEngineIsGivenOnlyVolumesThatThereAre)
 {

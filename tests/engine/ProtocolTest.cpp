@@ -35,6 +35,26 @@ TEST(Protocol, EveryVolumeComesBackFromSilenceToFull)
     }
 }
 
+/// From the line that says it, without its line feed.
+std::optional<EngineEvent> readBack(const EngineEvent& event)
+{
+    std::string line = lineFromEvent(event);
+    line.pop_back();
+    return eventFromLine(line);
+}
+
+TEST(Protocol, EveryStateAndEveryReasonComesBack)
+{
+    for (int state = 0; state <= static_cast<int>(StreamState::Playing); ++state) {
+        const StateEvent event{7, static_cast<StreamState>(state)};
+        EXPECT_EQ(readBack(event), EngineEvent(event)) << state;
+    }
+    for (int reason = 0; reason <= static_cast<int>(PlaybackFailure::EngineFailed); ++reason) {
+        const FailedEvent event{7, static_cast<PlaybackFailure>(reason)};
+        EXPECT_EQ(readBack(event), EngineEvent(event)) << reason;
+    }
+}
+
 TEST(Protocol, LinesThatAreNotOfTheProtocolAreIgnored)
 {
     for (const char* line : {"", " ", "load", "loud 1 http://a/", "load -1 http://a/", "load 1x http://a/",
