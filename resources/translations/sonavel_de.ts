@@ -397,7 +397,7 @@
     </message>
     <message id="NOW_PLAYING_TRYING_IN">
         <source>%@. Trying again in %li s</source>
-        <translation>%@. Erneut in %li s</translation>
+        <translation>%@. Neuer Versuch in %li s</translation>
     </message>
     <message id="NOW_PLAYING_TRYING">
         <source>%@. Trying again…</source>
@@ -449,11 +449,11 @@
     </message>
     <message id="FAILURE_REFUSED">
         <source>Connection refused</source>
-        <translation>Verbindung abgelehnt</translation>
+        <translation>Server lehnt ab</translation>
     </message>
     <message id="FAILURE_UNREACHABLE">
         <source>Server unreachable</source>
-        <translation>Server nicht erreichbar</translation>
+        <translation>Nicht erreichbar</translation>
     </message>
     <message id="FAILURE_TIMED_OUT">
         <source>No answer</source>
@@ -461,7 +461,7 @@
     </message>
     <message id="FAILURE_CERTIFICATE">
         <source>Invalid certificate</source>
-        <translation>Kein gültiges Zertifikat</translation>
+        <translation>Zertifikat ungültig</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
         <source>404 Not Found</source>
@@ -473,7 +473,7 @@
     </message>
     <message id="FAILURE_REJECTED">
         <source>Request rejected</source>
-        <translation>Anfrage zurückgewiesen</translation>
+        <translation>Anfrage abgelehnt</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
         <source>Server error</source>
@@ -485,15 +485,15 @@
     </message>
     <message id="FAILURE_NOT_USABLE">
         <source>Unusable address</source>
-        <translation>Keine nutzbare Adresse</translation>
+        <translation>Adresse ungültig</translation>
     </message>
     <message id="FAILURE_ENDED">
         <source>Stream ended</source>
-        <translation>Der Stream ist zu Ende</translation>
+        <translation>Stream ist zu Ende</translation>
     </message>
     <message id="FAILURE_SILENT">
         <source>Stream is silent</source>
-        <translation>Der Stream ist stumm</translation>
+        <translation>Stream ist stumm</translation>
     </message>
     <message id="FAILURE_NO_SOUND_OUTPUT">
         <source>No sound output</source>
@@ -501,7 +501,7 @@
     </message>
     <message id="FAILURE_ENGINE_FAILED">
         <source>Sound engine failed</source>
-        <translation>Tonprogramm ausgefallen</translation>
+        <translation>Tonmodul gestört</translation>
     </message>
 </context>
 </TS>

@@ -501,7 +501,7 @@
     </message>
     <message id="FAILURE_ENGINE_FAILED">
         <source>Sound engine failed</source>
-        <translation>Sin motor de sonido</translation>
+        <translation>Falló el motor de sonido</translation>
     </message>
 </context>
 </TS>

@@ -397,11 +397,11 @@
     </message>
     <message id="NOW_PLAYING_TRYING_IN">
         <source>%@. Trying again in %li s</source>
-        <translation>%@. Réessai dans %li s</translation>
+        <translation>%@. Nouvel essai dans %li s</translation>
     </message>
     <message id="NOW_PLAYING_TRYING">
         <source>%@. Trying again…</source>
-        <translation>%@. Réessai…</translation>
+        <translation>%@. Nouvel essai…</translation>
     </message>
     <message id="NOTICE_STATIONS_NOT_SAVED">
         <source>The station list could not be saved: %@</source>
@@ -461,7 +461,7 @@
     </message>
     <message id="FAILURE_CERTIFICATE">
         <source>Invalid certificate</source>
-        <translation>Certificat non valide</translation>
+        <translation>Certificat invalide</translation>
     </message>
     <message id="FAILURE_NOT_FOUND">
         <source>404 Not Found</source>
@@ -473,7 +473,7 @@
     </message>
     <message id="FAILURE_REJECTED">
         <source>Request rejected</source>
-        <translation>Demande rejetée</translation>
+        <translation>Requête rejetée</translation>
     </message>
     <message id="FAILURE_SERVER_ERROR">
         <source>Server error</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="FAILURE_NOT_A_STREAM">
         <source>Not a stream</source>
-        <translation>Pas un flux audio</translation>
+        <translation>Ce n’est pas un flux</translation>
     </message>
     <message id="FAILURE_NOT_USABLE">
         <source>Unusable address</source>
