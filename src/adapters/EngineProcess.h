@@ -19,9 +19,9 @@ namespace sonavel {
 class NotificationCenter;
 
 /// The engine is a process of its own, so that a decoder which crashes takes nothing else with it; engine/Confinement.h
-/// says what else it is kept from. One stream sounds at a time: the player that was last told to play has the engine;
-/// destroying it silences it. A stream that breaks is opened again, and an engine that is gone is started again, for as
-/// long as the player exists and is not held. Main thread; nothing blocks.
+/// says what else it is kept from. One stream sounds at a time: the player on which `play` was called last has the
+/// engine; destroying it silences it. A stream that breaks is opened again, and an engine that is gone is started again,
+/// for as long as the player exists and is not held. Main thread; nothing blocks.
 class EngineProcess : public StreamPlayers {
 public:
     using Observer = std::function<void(const NowPlaying&)>;

@@ -122,7 +122,7 @@ void MediaControls::perform(const void* source, Actions::Operation operation)
     actions_.perform(source, ListUse::None, unlessLate(std::move(operation)));
 }
 
-/// Whoever pressed a media key and saw nothing happen does not expect it any more.
+/// After that, nobody who pressed a media key in vain expects its effect.
 Actions::Operation MediaControls::unlessLate(Actions::Operation operation) const
 {
     return [this, latest = clock_.now().advancedBySeconds(longestWait), answers = controller_.alerts.answers(),

@@ -25,11 +25,11 @@ struct PopUpButtonState {
     friend bool operator==(const PopUpButtonState&, const PopUpButtonState&) = default;
 };
 
-/// Items that stand for nothing any more stay in the state, and are shown, until the next `setItems`; what is asked
+/// Items that have come to stand for nothing stay in the state, and are shown, until the next `setItems`; what is asked
 /// about items and the selected one leaves them out.
 class PopUpButton : public Rendered<PopUpButtonState> {
 public:
-    /// `count` gives the number of items that stand for something now. Without it all do.
+    /// `count` gives the number of items that stand for something. Without it all do.
     void setPresentItems(std::function<std::size_t()> count) { presentItems_ = std::move(count); }
 
     [[nodiscard]] int numberOfItems() const

@@ -53,8 +53,8 @@ struct TableViewState {
 };
 
 /// Holds no data: rows are counted when it is reloaded, cells are read from the data source whenever they are drawn.
-/// Rows that the data source does not have any more stay in the state, and are shown, until the next reload; what is
-/// asked about rows and their selection leaves them out.
+/// Rows that the data source has dropped stay in the state, and are shown, until the next reload; what is asked about
+/// rows and their selection leaves them out.
 class TableView : public Rendered<TableViewState> {
 public:
     /// Borrowed; has to outlive the table's use.

@@ -6,14 +6,14 @@
 
 namespace sonavel {
 
-/// Shows its plain text on one line, or wrapped where it is higher than one, cut with an ellipsis where it does not
-/// fit, and whole as the tool tip then; before it a mark, if it has one. Its size hint depends on the font alone, so
-/// that a change of text moves nothing.
+/// Shows its plain text on one line, or wrapped where the label is higher than one line; before the text a mark, if it
+/// has one. A text that does not fit is cut with an ellipsis, and whole in the tool tip. The size hint depends on the
+/// font alone, so that a change of text moves nothing.
 class ElidedLabel : public QLabel {
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
-    /// A picture of the height of the text; an empty one takes no room.
+    /// Shown as high as the text. An empty one is no mark, and leaves no space.
     void setMark(const QIcon& mark);
     /// Where the text lies.
     [[nodiscard]] QRect textArea() const;

@@ -26,7 +26,7 @@ public:
     enum class Emphasis { Faded, Usual, Failure };
     void showNowPlaying(const QString& text, Emphasis emphasis);
 
-    /// A failure to tell, in one line that moves nothing and goes away by itself.
+    /// A failure that the user should know of, on a line whose height does not change; it goes away by itself.
     void showNotice(const QString& text);
 
 protected:
