@@ -107,6 +107,8 @@ TEST(HttpConnection, AClientWhoseRequestIsCutShortLearnsThatTheAnswerIsOverWhile
             EXPECT_EQ(::send(sockets[1], tooMuch.data(), tooMuch.size(), MSG_NOSIGNAL), std::ssize(tooMuch));
         char byte = 0;
         EXPECT_EQ(::recv(sockets[1], &byte, 1, 0), 0);
+        std::this_thread::sleep_for(
+            std::chrono::milliseconds(50)); // a connection that is closed at once is closed then
         const bool isTaken = ::send(sockets[1], "a", 1, MSG_NOSIGNAL) == 1;
         ::close(sockets[1]);
         server.join();
