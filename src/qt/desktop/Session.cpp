@@ -25,13 +25,13 @@ QStringList restartCommand(const QStringList& command, const QString& session, c
 
 void restartWithSession(const QStringList& command, Restart restart)
 {
-    const auto tell = [command, restart](QSessionManager& manager) {
+    const auto inform = [command, restart](QSessionManager& manager) {
         manager.setRestartHint(
             restart == Restart::Never ? QSessionManager::RestartNever : QSessionManager::RestartIfRunning);
         manager.setRestartCommand(restartCommand(command, manager.sessionId(), manager.sessionKey()));
     };
-    QObject::connect(qGuiApp, &QGuiApplication::saveStateRequest, qGuiApp, tell, Qt::DirectConnection);
-    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp, tell, Qt::DirectConnection);
+    QObject::connect(qGuiApp, &QGuiApplication::saveStateRequest, qGuiApp, inform, Qt::DirectConnection);
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp, inform, Qt::DirectConnection);
 }
 
 SessionEnd::SessionEnd(std::function<void()> requested)
