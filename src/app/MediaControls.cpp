@@ -17,6 +17,13 @@ constexpr std::int64_t longestWait = 2; // seconds
 
 } // namespace
 
+/// When a command was given.
+struct MediaControls::Command {
+    Moment latest; ///< at which it is done
+    unsigned answers;
+    unsigned interruptions;
+};
+
 MediaControls::MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions, const Clock& clock)
     : controller_(controller)
     , outlets_(outlets)
@@ -48,14 +55,17 @@ const MediaState& MediaControls::state()
 
 void MediaControls::play()
 {
-    perform(&outlets_.buttonPlayPause, [this](Controller& c) {
-        if (!c.player.isPlay && outlets_.buttonPlayPause.state().isEnabled)
+    const auto command = std::make_shared<const Command>(newCommand());
+    play_ = command;
+    actions_.perform(&outlets_.buttonPlayPause, ListUse::None, [this, command](Controller& c) {
+        if (isStillMeant(*command) && !c.player.isPlay && outlets_.buttonPlayPause.state().isEnabled)
             c.player.buttonPlayPause();
     });
 }
 
 void MediaControls::pause()
 {
+    ++interruptions_;
     actions_.performAtOnce(&outlets_.buttonPlayPause, unlessLate([this](Controller& c) {
         if (c.player.isPlay && outlets_.buttonPlayPause.state().isEnabled)
             c.player.buttonPlayPause();
@@ -64,7 +74,8 @@ void MediaControls::pause()
 
 void MediaControls::playPause()
 {
-    if (controller_.player.isPlay)
+    const auto waiting = play_.lock();
+    if (controller_.player.isPlay || (waiting && isStillMeant(*waiting)))
         pause();
     else
         play();
@@ -72,6 +83,7 @@ void MediaControls::playPause()
 
 void MediaControls::stop()
 {
+    ++interruptions_;
     actions_.performAtOnce(&outlets_.buttonStop, unlessLate([this](Controller& c) {
         if (outlets_.buttonStop.state().isEnabled)
             c.player.buttonStop();
@@ -90,20 +102,21 @@ void MediaControls::previous()
 
 void MediaControls::step(bool isPrevious)
 {
-    perform(&outlets_.popupbuttonRadioList, [isPrevious](Controller& c) {
-        if (c.stationList.numberOfStations() > 0)
-            c.stationSelection.changeStation(isPrevious);
-    });
+    actions_.perform(
+        &outlets_.popupbuttonRadioList, ListUse::None, [this, isPrevious, command = newCommand()](Controller& c) {
+            if (isStillMeant(command) && c.stationList.numberOfStations() > 0)
+                c.stationSelection.changeStation(isPrevious);
+        });
 }
 
 void MediaControls::setVolume(double volume)
 {
-    perform(&outlets_.sliderVolume, [this, volume](Controller& c) {
+    actions_.perform(&outlets_.sliderVolume, ListUse::None, unlessLate([this, volume](Controller& c) {
         if (!outlets_.sliderVolume.state().isEnabled)
             return;
         outlets_.sliderVolume.setDoubleValue(volume);
         c.player.sliderVolume();
-    });
+    }));
 }
 
 void MediaControls::raise()
@@ -117,17 +130,27 @@ void MediaControls::quit()
     actions_.perform(this, ListUse::AsShown, unlessLate([](Controller& c) { c.quitApp(); }));
 }
 
-void MediaControls::perform(const void* source, Actions::Operation operation)
+MediaControls::Command MediaControls::newCommand() const
 {
-    actions_.perform(source, ListUse::None, unlessLate(std::move(operation)));
+    return {clock_.now().advancedBySeconds(longestWait), controller_.alerts.answers(), interruptions_};
 }
 
 /// After that, nobody who pressed a media key in vain expects its effect.
+bool MediaControls::isLate(const Command& command) const
+{
+    return clock_.now() > command.latest || controller_.alerts.answers() != command.answers;
+}
+
+/// A later Pause or Stop, which does not wait, is not to be undone.
+bool MediaControls::isStillMeant(const Command& command) const
+{
+    return !isLate(command) && interruptions_ == command.interruptions;
+}
+
 Actions::Operation MediaControls::unlessLate(Actions::Operation operation) const
 {
-    return [this, latest = clock_.now().advancedBySeconds(longestWait), answers = controller_.alerts.answers(),
-               operation = std::move(operation)](Controller& c) {
-        if (clock_.now() <= latest && c.alerts.answers() == answers)
+    return [this, command = newCommand(), operation = std::move(operation)](Controller& c) {
+        if (!isLate(command))
             operation(c);
     };
 }

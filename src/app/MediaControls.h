@@ -34,8 +34,8 @@ struct MediaState {
 
 /// Every operation does what the control of the main window does, when that is enabled. While an action shows a
 /// question or waits for a server, Pause and Stop are done at once, unless it has the list for itself. What has to wait
-/// is done after that action, but not more than 2 s late, nor when the user answered a question meanwhile. `raise` is
-/// always done.
+/// is done after that action, but not more than 2 s late, nor when the user answered a question meanwhile; Play, Next
+/// and Previous not after a later Pause or Stop either. `raise` is always done.
 ///
 /// Main thread. Borrows everything it is given.
 class MediaControls {
@@ -52,6 +52,7 @@ public:
     void play();
     /// Nothing unless it plays.
     void pause();
+    /// Pauses when it plays; plays otherwise, unless that waits already: two presses cancel each other.
     void playPause();
     void stop();
     void next();
@@ -65,8 +66,12 @@ public:
     void quit();
 
 private:
+    struct Command;
+
     void step(bool isPrevious);
-    void perform(const void* source, Actions::Operation operation);
+    [[nodiscard]] Command newCommand() const;
+    [[nodiscard]] bool isLate(const Command& command) const;
+    [[nodiscard]] bool isStillMeant(const Command& command) const;
     [[nodiscard]] Actions::Operation unlessLate(Actions::Operation operation) const;
 
     WinSonavelController& controller_;
@@ -76,6 +81,8 @@ private:
     MediaState state_;
     std::uint64_t streams_ = 0;
     std::shared_ptr<const PlayerItem> item_;
+    unsigned interruptions_ = 0; ///< how often Pause or Stop was given
+    std::weak_ptr<const Command> play_; ///< while it waits
 };
 
 } // namespace sonavel

@@ -158,6 +158,74 @@ TEST_F(MediaControlsTest, WhatWaitsForAServerIsDoneWithinTwoSeconds)
     }
 }
 
+TEST_F(MediaControlsTest, NothingThatWaitsForAServerUndoesAPauseOrAStopThatCameAfterIt)
+{
+    using Command = void (MediaControls::*)();
+    struct Case {
+        Status before;
+        std::vector<Command> commands;
+        Status after;
+        int chosen;
+    };
+    constexpr Command play = &MediaControls::play;
+    constexpr Command pause = &MediaControls::pause;
+    constexpr Command playPause = &MediaControls::playPause;
+    constexpr Command stop = &MediaControls::stop;
+    constexpr Command next = &MediaControls::next;
+    const Case cases[] = {
+        {Status::Stopped, {play}, Status::Playing, 1},
+        {Status::Stopped, {play, stop}, Status::Stopped, 1},
+        {Status::Stopped, {play, pause}, Status::Stopped, 1},
+        {Status::Stopped, {stop, play}, Status::Playing, 1},
+        {Status::Playing, {next, stop}, Status::Stopped, 1},
+        {Status::Playing, {&MediaControls::previous, pause}, Status::Paused, 1},
+        {Status::Playing, {stop, next}, Status::Playing, 2},
+        {Status::Playing, {pause, play, stop}, Status::Stopped, 1},
+        {Status::Stopped, {playPause}, Status::Playing, 1},
+        {Status::Stopped, {playPause, playPause}, Status::Stopped, 1},
+        {Status::Stopped, {playPause, playPause, playPause}, Status::Playing, 1},
+        {Status::Paused, {playPause, playPause}, Status::Paused, 1},
+        {Status::Playing, {playPause, playPause}, Status::Playing, 1},
+    };
+    startWithStations("A;http://a/\rB;http://b/\r");
+    controller.preferences.PREF_IS_AUTOPLAY = true;
+    for (const Case& row : cases) {
+        choose(1);
+        if (row.before == Status::Stopped)
+            media.stop();
+        else if (row.before == Status::Paused)
+            media.pause();
+        ASSERT_EQ(media.state().status, row.before);
+        platform.httpClient.whileAsking = [&] {
+            for (const Command command : row.commands)
+                (media.*command)();
+            media.setVolume(0.25);
+            platform.httpClient.whileAsking = [] {};
+        };
+        outlets.sliderVolume.setDoubleValue(1.0);
+        outlets.menuCheckUpdates.chosenByUser();
+        const auto number = &row - cases;
+        EXPECT_EQ(media.state().status, row.after) << number;
+        EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), row.chosen) << number;
+        EXPECT_EQ(media.state().volume, 0.25) << number;
+    }
+}
+
+TEST_F(MediaControlsTest, APressThatComesWhenAnEarlierOneIsTooLateCounts)
+{
+    startWithStations("A;http://a/\r");
+    choose(1);
+    platform.clock.set("2016-10-05 12:00:00 +0000");
+    platform.httpClient.whileAsking = [&] {
+        media.playPause();
+        platform.clock.set("2016-10-05 12:00:03 +0000");
+        media.playPause();
+        platform.httpClient.whileAsking = [] {};
+    };
+    outlets.menuCheckUpdates.chosenByUser();
+    EXPECT_EQ(media.state().status, Status::Playing);
+}
+
 TEST_F(MediaControlsTest, WithoutStationsNothingSteps)
 {
     start();
