@@ -384,6 +384,9 @@ TEST_F(StationListWindowTest, AKeyIsHeardOnceInWhicheverWindowIsActive)
     for (QWidget* active : std::initializer_list<QWidget*>{&other, dialog.get(), &window})
         press(*active, *active, Qt::Key_W);
     EXPECT_FALSE(other.isVisible());
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_W, Qt::ControlModifier, {}, true);
+    QApplication::sendEvent(&window, &held);
+    QApplication::processEvents();
     EXPECT_EQ(heard.join(' '), "mute | mute | mute | mute mute | close dialog | close list |");
 }
 

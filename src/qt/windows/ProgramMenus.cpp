@@ -105,6 +105,7 @@ ProgramMenus::ProgramMenus(std::function<void()> validate)
         }
     }
     closing_.setShortcut(Qt::CTRL | Qt::Key_W);
+    closing_.setAutoRepeat(false);
     connect(
         &closing_, &QAction::triggered, this, [] { closeActiveWindow(); }, Qt::QueuedConnection);
     QApplication::instance()->installEventFilter(this);
