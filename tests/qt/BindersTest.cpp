@@ -65,6 +65,7 @@ TEST_F(PopUpBinding, SelectingAndRefillingFromTheProgramChoosesNoStation)
     EXPECT_EQ(widget.view()->currentIndex().row(), 2) << "what a screen reader says";
     popUp.setItems(titles({"No stations"}));
     EXPECT_EQ(widget.currentText(), "No stations");
+    EXPECT_EQ(widget.view()->currentIndex().row(), 0);
     popUp.setEnabled(false);
     EXPECT_FALSE(widget.isEnabled());
     EXPECT_TRUE(chosen.empty());
@@ -126,6 +127,17 @@ TEST_F(PopUpBinding, ReturnInTheOpenedListChoosesWhatIsHighlighted)
     EXPECT_EQ(widget.view()->currentIndex().row(), 3);
     pressKey(*widget.view(), Qt::Key_Return);
     EXPECT_EQ(chosen, std::vector<int>{3});
+}
+
+TEST_F(PopUpBinding, WhatWasHighlightedWhenTheListWasLeftIsNotWhatIsShown)
+{
+    popUp.selectItemAtIndex(1);
+    pressKey(widget, Qt::Key_T, "t");
+    pressKey(*widget.view(), Qt::Key_Escape);
+    ASSERT_EQ(widget.view()->currentIndex().row(), 3);
+    popUp.setEnabled(false);
+    EXPECT_EQ(widget.view()->currentIndex().row(), 1);
+    EXPECT_TRUE(chosen.empty());
 }
 
 TEST_F(PopUpBinding, NamesAreDrawnAsTheyAreOnOneLine)

@@ -26,7 +26,7 @@ void PopUpBinder::render(const PopUpButtonState& state)
     const QSignalBlocker silence(widget_);
     model_.setTitles(state.titles);
     // A screen reader that hears of a change asks which item of the list is selected.
-    if (widget_.currentIndex() != state.selectedIndex)
+    if (widget_.view()->currentIndex().row() != state.selectedIndex)
         widget_.view()->setCurrentIndex(model_.index(state.selectedIndex, 0));
     widget_.setCurrentIndex(state.selectedIndex);
     widget_.setEnabled(state.isEnabled);
