@@ -83,7 +83,7 @@ void StationSelection::validateControls()
 {
     if (outlets_.popupbuttonRadioList.indexOfSelectedItem() < 0 && player_.isStop)
         outlets_.buttonPlayPause.setEnabled(false);
-    if (outlets_.popupDefaultButtonListRadio.numberOfItems() < 2)
+    if (stationList_.numberOfStations() == 0)
         outlets_.popupDefaultButtonListRadio.setEnabled(false);
 }
 

@@ -102,5 +102,18 @@ TEST_F(PreferencesWindowTest, AListThatChangesMeanwhileKeepsTheDefaultThatWasCho
     EXPECT_FALSE(outlets.popupDefaultButtonListRadio.state().isEnabled);
 }
 
+TEST_F(PreferencesWindowTest, TheListAloneSaysWhetherADefaultStationCanBeChosen)
+{
+    start();
+    platform.files.files["/one-line.csv"] = "A;http://a/";
+    platform.filePanels.choice = "/one-line.csv";
+    outlets.radioImport.setEnabled(true);
+    outlets.radioImport.pressedByUser();
+    ASSERT_EQ(list(), "A;http://a/\r");
+    ASSERT_EQ(outlets.popupDefaultButtonListRadio.numberOfItems(), 1);
+    outlets.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(true);
+    EXPECT_TRUE(outlets.popupDefaultButtonListRadio.state().isEnabled);
+}
+
 } // namespace
 } // namespace sonavel
