@@ -207,9 +207,11 @@ Settings settingsOf(const Lookup& lookup, const QMap<QString, QString>& environm
 
 } // namespace
 
-SettingsOrEnd settingsFrom(const QStringList& arguments, const QMap<QString, QString>& environment,
-    const QMap<QString, QString>& configuration)
+SettingsOrEnd settingsFrom(
+    QStringList arguments, const QMap<QString, QString>& environment, const QMap<QString, QString>& configuration)
 {
+    const QString reverse = QStringLiteral("-reverse");
+    const bool isMirrored = arguments.removeAll(reverse) > 0;
     try {
         QCommandLineParser parser;
         parse(parser, arguments);
@@ -217,7 +219,11 @@ SettingsOrEnd settingsFrom(const QStringList& arguments, const QMap<QString, QSt
             return EndAtOnce{0, helpText()};
         if (parser.isSet(QStringLiteral("version")))
             return EndAtOnce{0, QStringLiteral("Sonavel ") + toQString(programBundle().shortVersion)};
-        return settingsOf(Lookup(parser, environment, configuration), environment);
+        Settings settings = settingsOf(Lookup(parser, environment, configuration), environment);
+        settings.isMirrored = isMirrored;
+        if (isMirrored)
+            settings.options << reverse;
+        return settings;
     } catch (const UsageError& error) {
         return EndAtOnce{2, QStringLiteral("sonavel: ") + error.text};
     }

@@ -27,6 +27,8 @@ struct Settings {
     QString language;
     /// Absent for the desktop's.
     std::optional<Appearance> appearance;
+    /// The windows begin at the right.
+    bool isMirrored = false;
     /// The options that were given, as they start the player the same way from any folder.
     QStringList options;
 };
@@ -41,10 +43,11 @@ struct EndAtOnce {
 using SettingsOrEnd = std::variant<Settings, EndAtOnce>;
 
 /// Options win over the environment, which wins over the configuration file, which wins over the built-in value; with
-/// `--demo` the addresses and the home folder come from the options or are embedded. `arguments` are without the name
-/// of the program; `configuration` maps the long names of options to values.
-[[nodiscard]] SettingsOrEnd settingsFrom(const QStringList& arguments, const QMap<QString, QString>& environment,
-    const QMap<QString, QString>& configuration);
+/// `--demo` the addresses and the home folder come from the options or are embedded. `-reverse` mirrors the windows, as
+/// in every program of the toolkit. `arguments` are without the name of the program; `configuration` maps the long
+/// names of options to values.
+[[nodiscard]] SettingsOrEnd settingsFrom(
+    QStringList arguments, const QMap<QString, QString>& environment, const QMap<QString, QString>& configuration);
 
 /// What stands in `sonavel/sonavel.conf` of the user's and the system's configuration folders; the user's wins, key by
 /// key.

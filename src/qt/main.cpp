@@ -2,6 +2,7 @@
 #include "adapters/CurlHttpClient.h"
 #include "adapters/OneInstance.h"
 #include "qt/Program.h"
+#include "qt/SessionRestart.h"
 #include "qt/desktop/DesktopAppearance.h"
 #include "qt/desktop/Session.h"
 #include "qt/kit/HouseStyle.h"
@@ -44,15 +45,6 @@ void setUpNames()
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
-void restartWithSession(const sonavel::Settings& settings, bool isMirrored)
-{
-    QStringList command = QStringList(QApplication::applicationFilePath()) + settings.options;
-    if (isMirrored)
-        command << QStringLiteral("-reverse");
-    using sonavel::Restart;
-    sonavel::restartWithSession(command, settings.isDemo ? Restart::Never : Restart::WithSession);
-}
-
 /// Whether the desktop brings neither a style nor colours of its own.
 bool isPlain(const sonavel::HouseStyle& style)
 {
@@ -80,8 +72,6 @@ std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::Settings& 
 int main(int argumentCount, char** arguments)
 {
     QStringList given = withoutName(argumentCount, arguments);
-    // As for every program of the toolkit.
-    const bool isMirrored = given.removeAll(QStringLiteral("-reverse")) > 0;
     QByteArray session = sonavel::takeSessionId(given).toLocal8Bit();
     const sonavel::SettingsOrEnd outcome =
         sonavel::settingsFrom(given, sonavel::readEnvironment(), sonavel::readConfiguration());
@@ -105,11 +95,11 @@ int main(int argumentCount, char** arguments)
     std::array toolkitArguments{arguments[0], sessionOption.data(), session.data()};
     int toolkitArgumentCount = session.isEmpty() ? 1 : 3;
     QApplication application(toolkitArgumentCount, toolkitArguments.data());
-    restartWithSession(settings, isMirrored);
+    sonavel::restartWithSession(settings);
     // And what the first request needs, while the main window is built.
     const std::jthread network([] { sonavel::CurlHttpClient::loadLibrary(); });
     setUpNames();
-    if (isMirrored)
+    if (settings.isMirrored)
         QApplication::setLayoutDirection(Qt::RightToLeft);
     const auto desktop = setUpLooks(settings);
 

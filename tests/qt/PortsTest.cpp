@@ -1,5 +1,7 @@
 // The ports of the core as Qt provides them.
 #include "UserInput.h"
+#include "qt/SessionRestart.h"
+#include "qt/Settings.h"
 #include "qt/desktop/Session.h"
 #include "qt/desktop/TerminationSignals.h"
 #include "qt/ports/QtAlerts.h"
@@ -12,6 +14,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSessionManager>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -259,6 +262,27 @@ TEST(SessionManager, StartsThePlayerAgainWithTheOptionsThatWereGiven)
     }
     EXPECT_EQ(restartCommand(QStringList("/usr/bin/sonavel") + given, "id", "key").join(' '),
         "/usr/bin/sonavel --language de -session id_key");
+}
+
+TEST(SessionManager, HearsAtEachSaveHowThePlayerIsToComeBackAndThatTheDemoIsNot)
+{
+    auto* manager = qApp->findChild<QSessionManager*>();
+    ASSERT_NE(manager, nullptr);
+    Settings settings;
+    settings.options = QStringList{"--language", "de", "-reverse"};
+    for (const bool isDemo : {true, false}) {
+        settings.isDemo = isDemo;
+        restartWithSession(settings);
+        for (const auto signal : {&QGuiApplication::saveStateRequest, &QGuiApplication::commitDataRequest}) {
+            manager->setRestartHint(QSessionManager::RestartAnyway);
+            manager->setRestartCommand(QStringList());
+            emit(qApp->*signal)(*manager);
+            EXPECT_EQ(
+                manager->restartHint(), isDemo ? QSessionManager::RestartNever : QSessionManager::RestartIfRunning);
+            EXPECT_EQ(manager->restartCommand().mid(0, 4), QStringList(qApp->applicationFilePath()) + settings.options);
+            EXPECT_EQ(manager->restartCommand().value(4), "-session");
+        }
+    }
 }
 
 TEST(TerminationSignals, ArriveAsEventsOfTheLoop)

@@ -63,6 +63,10 @@ TEST(Settings, OptionsThatWereGivenStartThePlayerTheSameWayFromAnyFolder)
     EXPECT_EQ(accepted({"--language", "de", "--home=" + folder}, {{"SONAVEL_PROBE", "http://environment/"}}).options,
         (QStringList{"--home", QDir::cleanPath(existing), "--language", "de"}));
     EXPECT_EQ(accepted({"--demo-update", "--demo"}).options, (QStringList{"--demo", "--demo-update"}));
+    const Settings mirrored = accepted({"-reverse", "--language", "de"});
+    EXPECT_TRUE(mirrored.isMirrored);
+    EXPECT_EQ(mirrored.options, (QStringList{"--language", "de", "-reverse"}));
+    EXPECT_FALSE(accepted({}).isMirrored);
 }
 
 TEST(Settings, AMistakeIsOneLineAndStatusTwo)
