@@ -14,7 +14,7 @@ struct Outlets;
 enum class ListUse {
     None, ///< a cell that is being edited stays open
     AsShown, ///< a cell that is being edited is closed first, and what was typed counts
-    Exclusive, ///< so it is here, and the action has the list for itself until it ends
+    Exclusive, ///< as AsShown; besides, no other action reads or changes the list until this one ends
 };
 
 /// An item that has a tag.

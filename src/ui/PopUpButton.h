@@ -29,7 +29,8 @@ struct PopUpButtonState {
 /// about items and the selected one leaves them out.
 class PopUpButton : public Rendered<PopUpButtonState> {
 public:
-    /// `count` gives the number of items that stand for something. Without it all do.
+    /// `count` gives the number of items that stand for something. Without it all do. It is kept; what it borrows
+    /// has to outlive the pop-up's use.
     void setPresentItems(std::function<std::size_t()> count) { presentItems_ = std::move(count); }
 
     [[nodiscard]] int numberOfItems() const
