@@ -61,7 +61,7 @@ void ProgramWindows::buildStationListWindow()
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     connectStationListWindow(outlets_, window);
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
-    if (window.isVisible())
+    if (window.isVisible() && mainWindow_->isActiveWindow())
         mainWindow_->raise(); // it keeps the keyboard, and is not to be covered
     window.whenFileDropped([this](const Text& path) {
         actions_.perform(stationListWindow_.get(), ListUse::Exclusive,
