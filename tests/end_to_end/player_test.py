@@ -49,6 +49,10 @@ class PlayerTest(unittest.TestCase):
         self.desk.keys("Down", "Return")
         return wait_until(lambda: pop_up.name != "Choose a station" and pop_up.name, "the chosen station")
 
+    def window_class(self):
+        return subprocess.run(["xprop", "-id", str(self.desk.window("Sonavel")), "WM_CLASS"], check=True,
+                              env=self.desk.environment, capture_output=True, text=True).stdout
+
     def quit_through_the_question(self, program):
         self.desk.activate("Sonavel")
         self.desk.keys("alt+F4")
@@ -61,6 +65,7 @@ class PlayerTest(unittest.TestCase):
         play = program.find(button, "Play")
         self.assertFalse(play.enabled)
         self.assertFalse(program.find(button, "Stop").enabled)
+        self.assertIn('= "sonavel", "sonavel"', self.window_class(), "which the desktop finds the desktop entry by")
         name = self.choose_first_station(program)
 
         with self.desk.record() as recording:
