@@ -88,7 +88,9 @@ bool PosixFiles::writeAtomically(const Text& path, std::string_view bytes, FileA
 
 void PosixFiles::removeUnfinishedWrite(const Text& path)
 {
-    FileReplacement(*calls_, path.view()).removeUnfinished();
+    std::string target = path.string();
+    if (!followLinks(target))
+        FileReplacement(*calls_, target).removeUnfinished();
 }
 
 /// Replaces `path` by what it leads to in the end, which need not be there: the rename of an atomic write would put a

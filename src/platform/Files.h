@@ -37,8 +37,9 @@ public:
     virtual bool writeAtomically(
         const Text& path, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) = 0;
 
-    /// Removes what an atomic write of this file left in its folder when its process was killed. Anything else of that
-    /// name, such as a link or another user's file, stays. Never while the file is being written.
+    /// Removes what an atomic write of this file left beside it when its process was killed; where `path` is a link,
+    /// beside what it leads to. Anything else of the left-over's name, such as a link or another user's file, stays.
+    /// Never while the file is being written.
     virtual void removeUnfinishedWrite(const Text& path) = 0;
 
     /// Gives the content of `path` a second name, which keeps it when `path` is replaced. False when `copy` is taken or

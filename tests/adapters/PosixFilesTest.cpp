@@ -241,7 +241,7 @@ TEST_F(PosixFilesTest, OnlyWhatAKilledWriteCanHaveLeftIsRemoved)
     folder.put("victim", "untouched");
     folder.put(".file.saving", "unfin");
     folder.put(".victim.saving", "another's");
-    for (int call = 1; call <= 4; ++call) {
+    for (int call = 1; call <= 5; ++call) {
         calls.fail(call);
         files.removeUnfinishedWrite(folder.path("file"));
         EXPECT_TRUE(folder.names().contains(".file.saving")) << "where call " << call << " fails";
@@ -250,6 +250,14 @@ TEST_F(PosixFilesTest, OnlyWhatAKilledWriteCanHaveLeftIsRemoved)
     files.removeUnfinishedWrite(folder.path("file"));
     files.removeUnfinishedWrite(folder.path("missing/file"));
     EXPECT_EQ(folder.names(), (Names{".victim.saving", "file", "victim"}));
+
+    fs::create_directory(folder.path("elsewhere"));
+    folder.put("elsewhere/.list.saving", "unfin");
+    fs::create_symlink("elsewhere/list", folder.path("link"));
+    files.removeUnfinishedWrite(folder.path("link"));
+    EXPECT_FALSE(fs::exists(folder.path("elsewhere/.list.saving"))) << "a save through a link writes beside its target";
+    fs::remove(folder.path("link"));
+    fs::remove(folder.path("elsewhere"));
 
     const std::string temporary = folder.path(".file.saving");
     const Names withPlanted{".file.saving", ".victim.saving", "file", "victim"};
