@@ -43,6 +43,36 @@ std::string_view hostOf(std::string_view address)
                                                : hostIn(address.substr(schemeEnd + schemeEnding.size()));
 }
 
+/// With its colon; 0 where the first colon is that of a port or password.
+std::size_t sizeOfScheme(std::string_view address)
+{
+    const std::size_t colon = address.find_first_of(":/?#@");
+    return colon != std::string_view::npos && address.substr(colon).starts_with(":/") ? colon + 1 : 0;
+}
+
+/// Whether a host, with user or not, has a port or none, but nothing else behind a colon.
+bool endsAsAnAuthority(std::string_view authority)
+{
+    const std::size_t host = authority.rfind(']') + 1;
+    const std::size_t colon = authority.find(':', host);
+    return colon == std::string_view::npos
+        || authority.find_first_not_of("0123456789", colon + 1) == std::string_view::npos;
+}
+
+/// What follows the scheme, from the host on.
+std::string_view withoutUser(std::string_view rest)
+{
+    for (;;) {
+        const std::string_view authority = rest.substr(0, rest.find_first_of("/?#"));
+        std::size_t at = authority.rfind('@');
+        if (at == std::string_view::npos && !endsAsAnAuthority(authority))
+            at = rest.find('@');
+        if (at == std::string_view::npos)
+            return rest;
+        rest.remove_prefix(at + 1);
+    }
+}
+
 bool isUsable(std::string_view address)
 {
     const std::string_view host = hostOf(address);
@@ -70,14 +100,11 @@ Text hostOfStreamAddress(const Text& address)
 Text withoutUserInformation(const Text& address)
 {
     const std::string_view text = address.view();
-    const std::size_t schemeEnd = text.find(":/");
-    const std::size_t begin =
-        std::min(text.find_first_not_of('/', schemeEnd == std::string_view::npos ? 0 : schemeEnd + 1), text.size());
-    const std::string_view authority = text.substr(begin, text.find_first_of("/?#", begin) - begin);
-    const std::size_t at = authority.rfind('@');
-    if (at == std::string_view::npos)
+    const std::size_t begin = std::min(text.find_first_not_of('/', sizeOfScheme(text)), text.size());
+    const std::string_view shown = withoutUser(text.substr(begin));
+    if (begin + shown.size() == text.size())
         return address;
-    return std::string(text.substr(0, begin)).append(text.substr(begin + at + 1));
+    return std::string(text.substr(0, begin)).append(shown);
 }
 
 } // namespace sonavel

@@ -22,7 +22,9 @@ inline constexpr std::size_t longestStreamAddress = 8192;
 [[nodiscard]] Text hostOfStreamAddress(const Text& address);
 
 /// The address without the user and password that may stand before its host, for messages, tool tips and other
-/// programs. It may be of any form, as what a user mistyped; an absent one stays absent.
+/// programs. It may be without a scheme or with one slash, as what a user mistyped, and the password may hold "/", "?"
+/// or "#" as they are, except behind a beginning that reads as a host ("http://user/x:password@host") or as a host and
+/// port ("http://user:12/3@host"): what follows it is a path there, which stays. An absent address stays absent.
 [[nodiscard]] Text withoutUserInformation(const Text& address);
 
 } // namespace sonavel

@@ -6,12 +6,33 @@
 
 namespace sonavel {
 
+namespace {
+
+constexpr const char* schemeEnding = "://";
+
+/// Without user and password in any address. A field that holds one reaches to the next such field, as a password may
+/// hold the separator.
+std::string withoutPasswords(std::string_view line)
+{
+    std::string result;
+    for (std::size_t address = line.find(schemeEnding); address != std::string_view::npos;
+         address = line.find(schemeEnding)) {
+        const std::size_t begin = line.rfind(';', address) + 1;
+        const std::size_t next = line.find(schemeEnding, line.find(';', address));
+        const std::size_t end = next == std::string_view::npos ? line.size() : line.rfind(';', next);
+        result.append(line.substr(0, begin)).append(withoutUserInformation(line.substr(begin, end - begin)).view());
+        line.remove_prefix(end);
+    }
+    return result.append(line);
+}
+
+} // namespace
+
 std::string inQuotes(std::string_view bytes)
 {
     constexpr std::size_t longest = 120;
-    const bool hasAddress = bytes.find("://") != std::string_view::npos;
-    const Text whole = hasAddress ? withoutUserInformation(bytes) : Text(bytes);
-    std::string_view text = whole.view();
+    const std::string whole = withoutPasswords(bytes);
+    std::string_view text = whole;
     const bool isLong = text.size() > longest;
     if (isLong) {
         std::size_t end = longest;
