@@ -14,7 +14,7 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
     , stationDatabase(ports.files, stationList)
     , preferences(ports.preferenceDomains, ports.bundle, outlets.winWebRadioListEdit)
     , preferencesWindow(preferences, stationList, outlets)
-    , player(stationList, ports.streamPlayers, ports.notificationCenter, outlets)
+    , player(ports.streamPlayers, ports.notificationCenter, outlets)
     , stationSelection(stationList, preferences, player, ports.localizedStrings, outlets)
     , connectivity(ports.httpClient)
     , calendarDays(ports.clock)

@@ -1,18 +1,13 @@
 #include "playback/Player.h"
 
-#include "model/StationList.h"
 #include "platform/NotificationCenter.h"
 #include "playback/StreamAddress.h"
 #include "ui/Outlets.h"
 
-#include <algorithm>
-
 namespace sonavel {
 
-Player::Player(const StationList& stationList, StreamPlayers& streamPlayers, NotificationCenter& notificationCenter,
-    Outlets& outlets)
-    : stationList_(stationList)
-    , streamPlayers_(streamPlayers)
+Player::Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, Outlets& outlets)
+    : streamPlayers_(streamPlayers)
     , notificationCenter_(notificationCenter)
     , outlets_(outlets)
 {
@@ -40,21 +35,13 @@ void Player::play()
         stop();
         return;
     }
-    playerItem = std::make_shared<PlayerItem>(PlayerItem{address, nameOf(address)});
+    const Text name = playRadioName.view().empty() ? hostOfStreamAddress(address) : playRadioName;
+    playerItem = std::make_shared<PlayerItem>(PlayerItem{address, name});
     mediaPlayer = streamPlayers_.playerWithPlayerItem(playerItem);
     sliderVolume();
     mute();
     mediaPlayer->play();
     becomePlaying();
-}
-
-Text Player::nameOf(const Text& address) const
-{
-    const StationRecords none;
-    const StationRecords& stations = stationList_.listRadio ? *stationList_.listRadio : none;
-    const auto found = std::find_if(
-        stations.begin(), stations.end(), [&](const auto& station) { return station->link() == playRadioLink; });
-    return found == stations.end() ? hostOfStreamAddress(address) : (*found)->radio();
 }
 
 void Player::playIntoBackgroundProcess()

@@ -9,7 +9,6 @@
 namespace sonavel {
 
 class NotificationCenter;
-class StationList;
 struct Outlets;
 
 /// Three states: Stopped (`isStop`, no `mediaPlayer`), Playing (`isPlay`) and Paused (neither), in each of them muted
@@ -18,8 +17,7 @@ struct Outlets;
 /// Main thread. Borrows everything it is given.
 class Player {
 public:
-    Player(const StationList& stationList, StreamPlayers& streamPlayers, NotificationCenter& notificationCenter,
-        Outlets& outlets);
+    Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, Outlets& outlets);
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
     ~Player() = default;
@@ -31,13 +29,15 @@ public:
     float sliderValue = 0.0F;
     /// The address of the chosen station; absent when none is chosen.
     Text playRadioLink;
+    /// Its name when it was chosen; absent when none is chosen.
+    Text playRadioName;
     /// What the most recently made player plays; kept when that stops.
     std::shared_ptr<const PlayerItem> playerItem;
     std::unique_ptr<StreamPlayer> mediaPlayer;
 
     /// Plays `playRadioLink` with a new player, whatever the state; the former one falls silent. The stream is called
-    /// as the first station with that address is at that moment, or by its host where the list has none. When the
-    /// address cannot be played (see `usableStreamAddress`), stops instead.
+    /// `playRadioName`, or by its host where that is absent or empty. When the address cannot be played (see
+    /// `usableStreamAddress`), stops instead.
     void play();
     /// The same steps as `play`, on the calling thread.
     void playIntoBackgroundProcess();
@@ -66,9 +66,7 @@ public:
 
 private:
     void becomePlaying();
-    [[nodiscard]] Text nameOf(const Text& address) const;
 
-    const StationList& stationList_;
     StreamPlayers& streamPlayers_;
     NotificationCenter& notificationCenter_;
     Outlets& outlets_;

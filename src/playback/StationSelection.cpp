@@ -49,7 +49,7 @@ void StationSelection::changeStation(bool previous)
     outlets_.buttonPlayPause.setImage("play.png");
     player_.isPlay = false;
     player_.isStop = true;
-    player_.playRadioLink = Text();
+    choose(0);
 
     const int item = selectedItem();
     const int last = std::max(outlets_.popupbuttonRadioList.numberOfItems() - 1, 0);
@@ -64,13 +64,21 @@ void StationSelection::changeStation(bool previous)
 void StationSelection::popupRadioList()
 {
     const int item = selectedItem();
-    player_.playRadioLink = item > 0 ? stationList_.listRadio->at(static_cast<std::size_t>(item - 1))->link() : Text();
+    choose(item);
     outlets_.buttonPlayPause.setEnabled(item > 0);
     outlets_.buttonPlayPause.setImage("play.png");
     if (item > 0 && preferences_.PREF_IS_AUTOPLAY)
         player_.play();
     else
         player_.stop();
+}
+
+/// Makes the station that the item stands for the player's; none for the placeholder.
+void StationSelection::choose(int item)
+{
+    const auto station = item > 0 ? stationList_.listRadio->at(static_cast<std::size_t>(item - 1)) : nullptr;
+    player_.playRadioLink = station ? station->link() : Text();
+    player_.playRadioName = station ? station->radio() : Text();
 }
 
 /// The selected item, 0 when it stands for no station.
@@ -100,7 +108,7 @@ void StationSelection::selectDefaultStation()
     const int item = static_cast<int>(found - stations.begin()) + 1;
     outlets_.popupDefaultButtonListRadio.selectItemAtIndex(item);
     outlets_.popupbuttonRadioList.selectItemAtIndex(item);
-    player_.playRadioLink = (*found)->link();
+    choose(item);
     outlets_.buttonPlayPause.setEnabled(true);
     if (preferences_.PREF_IS_AUTOPLAY_OPEN_APP)
         player_.play();

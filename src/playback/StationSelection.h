@@ -42,6 +42,7 @@ public:
     void validateControls();
 
 private:
+    void choose(int item);
     [[nodiscard]] int selectedItem() const;
 
     const StationList& stationList_;

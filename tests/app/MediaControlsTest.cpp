@@ -52,17 +52,17 @@ TEST_F(MediaControlsTest, FollowTheButtonsOfTheMainWindow)
     EXPECT_EQ(media.state().stream, 2U);
 }
 
-TEST_F(MediaControlsTest, AStationKeepsTheNameThatItHadWhenItBeganToPlay)
+TEST_F(MediaControlsTest, AStationKeepsTheNameThatItHadWhenItWasChosen)
 {
-    startWithStations("A;http://a/\rB;http://b.example:8000/x\r");
-    choose(1);
+    startWithStations("A;http://a/\rB;http://a/\rC;http://b.example:8000/x\r");
+    controller.stationList.listRadio->back()->setRadio("");
+    choose(2);
     media.play();
     (void)media.state();
-    controller.stationList.listRadio->front()->setRadio("Renamed");
-    controller.stationList.listRadio->pop_back();
-    EXPECT_EQ(media.state().station, "A");
+    controller.stationList.listRadio->at(1)->setRadio("Renamed");
+    EXPECT_EQ(media.state().station, "B");
     media.stop();
-    controller.player.playRadioLink = "http://b.example:8000/x";
+    choose(3);
     media.play();
     EXPECT_EQ(media.state().station, "b.example");
 }

@@ -81,6 +81,7 @@ TEST_F(PlayerTest, PlayWhilePlayingSilencesTheFormerPlayer)
 {
     player.play();
     player.playRadioLink = "http://beta.example/";
+    player.playRadioName = "Beta";
     player.playIntoBackgroundProcess();
     ASSERT_EQ(streams.players.size(), 2U);
     EXPECT_TRUE(streams.players.front()->isGone);
@@ -88,6 +89,15 @@ TEST_F(PlayerTest, PlayWhilePlayingSilencesTheFormerPlayer)
     EXPECT_EQ(streams.last().address, Text("http://beta.example/"));
     EXPECT_EQ(streams.last().name, Text("Beta"));
     expectPlaying();
+}
+
+TEST_F(PlayerTest, AStreamIsNamedAsTheChosenStationOrByItsHost)
+{
+    for (const Text& name : {Text("Second"), Text(""), Text()}) {
+        player.playRadioName = name;
+        player.play();
+        EXPECT_EQ(streams.last().name, name == Text("Second") ? name : Text("alpha.example"));
+    }
 }
 
 TEST_F(PlayerTest, StopSilencesAndKeepsTheItem)

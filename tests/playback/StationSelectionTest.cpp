@@ -19,6 +19,7 @@ protected:
     {
         EXPECT_EQ(popUp.indexOfSelectedItem(), 0);
         EXPECT_TRUE(player.playRadioLink.isAbsent());
+        EXPECT_TRUE(player.playRadioName.isAbsent());
         EXPECT_TRUE(player.isStop);
         EXPECT_EQ(player.mediaPlayer, nullptr);
         EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
@@ -75,6 +76,17 @@ TEST_F(StationSelectionTest, ChoosingWithAutoPlayPlaysAtOnceAndThePlaceholderSto
     EXPECT_EQ(outlets.buttonPlayPause.state().image, Text("pause.png"));
     popUp.chosenByUser(0);
     expectPlaceholder();
+}
+
+TEST_F(StationSelectionTest, OfStationsWithOneAddressTheChosenOneGivesTheName)
+{
+    putPreferences({{"isAutoPlay", "YES"}, {"isAutoPlayOpenApp", "YES"}, {"defaultStation", "S2"}});
+    startWithStations("S1;http://s/\rS2;http://s/\rS3;http://s/\r");
+    EXPECT_EQ(platform.streamPlayers.last().name, Text("S2")) << "the default station";
+    popUp.chosenByUser(3);
+    EXPECT_EQ(platform.streamPlayers.last().name, Text("S3"));
+    selection.changeStation(true);
+    EXPECT_EQ(platform.streamPlayers.last().name, Text("S2"));
 }
 
 TEST_F(StationSelectionTest, SteppingWrapsAroundFromEitherEnd)
