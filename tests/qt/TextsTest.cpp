@@ -84,6 +84,11 @@ TEST(WrappedText, BreaksWhatIsTooLongAndElidesTheLastLine)
     EXPECT_EQ(wrappedLines(QStringLiteral("short"), font, width, 3), QStringList{QStringLiteral("short")});
     EXPECT_EQ(wrappedLines(QString(), font, width, 3).join(u' '), QString());
     EXPECT_EQ(wrappedLines(word, font, width, 9).join(QString()), word);
+    const QString longest(4'000, u'w');
+    const QString almost = longest.chopped(1);
+    for (const auto& [text, shown] :
+        {std::pair(longest, longest), {longest + u'w', longest + u'…'}, {almost + QStringLiteral("😀"), almost + u'…'}})
+        EXPECT_EQ(wrappedLines(text, font, width, 999).join(QString()), shown) << text.size();
     const QStringList lines = wrappedLines(QStringLiteral("Two words ") + word, font, width, 3);
     ASSERT_EQ(lines.size(), 3);
     EXPECT_EQ(lines.at(0), QStringLiteral("Two words"));

@@ -15,11 +15,19 @@ namespace {
 constexpr int mostCharactersLaidOut = 4'000; // laying out a very long text takes seconds
 constexpr int mostLinesOfToolTip = 20;
 
+QString withoutExcess(const QString& text)
+{
+    if (text.size() <= mostCharactersLaidOut)
+        return text;
+    const bool isInsideCharacter = text.at(mostCharactersLaidOut).isLowSurrogate();
+    return text.left(mostCharactersLaidOut - (isInsideCharacter ? 1 : 0)) + u'…';
+}
+
 } // namespace
 
 QStringList wrappedLines(const QString& text, const QFont& font, int width, int most)
 {
-    const QString line = onOneLine(text.left(mostCharactersLaidOut));
+    const QString line = onOneLine(withoutExcess(text));
     QTextLayout layout(line, font);
     QTextOption wrapping;
     wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
