@@ -83,6 +83,11 @@ TEST(StationMerge, ResultsInWhatTheNestedScanResultsIn)
         const StationRecords stored = lists.next(lists.below(8), 5);
         expectTheNestedScansResult(stored, lists.next(lists.below(8), 5));
     }
+    for (const unsigned names : {700, 3}) {
+        SCOPED_TRACE(names);
+        const StationRecords stored = lists.next(400, names);
+        expectTheNestedScansResult(stored, lists.next(500, names));
+    }
 }
 
 } // namespace
