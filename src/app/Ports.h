@@ -6,8 +6,8 @@
 
 namespace sonavel {
 
-class Alerts;
 class Clock;
+class CountedAlerts;
 class FilePanels;
 class Files;
 class HttpClient;
@@ -22,7 +22,7 @@ class WebBrowser;
 
 /// Borrowed: they outlive the controller that is made with them.
 struct Ports {
-    Alerts& alerts;
+    CountedAlerts& alerts;
     FilePanels& filePanels;
     Files& files;
     HttpClient& httpClient;

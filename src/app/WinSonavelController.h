@@ -57,7 +57,7 @@ public:
     /// Closes the notice of the update check.
     void buttonClose();
 
-    CountedAlerts alerts;
+    CountedAlerts& alerts;
     StationList stationList;
     StationDatabase stationDatabase;
     Preferences preferences;

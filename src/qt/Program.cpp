@@ -8,6 +8,7 @@
 #include "adapters/SystemClock.h"
 #include "app/Actions.h"
 #include "app/AppDelegate.h"
+#include "app/CountedAlerts.h"
 #include "app/Gate.h"
 #include "app/MediaControls.h"
 #include "app/Ports.h"
@@ -86,7 +87,7 @@ struct Program::Parts {
         : instance(std::move(claim))
         , throwAwayHome(std::move(temporaryHome))
         , dataServer(std::move(server))
-        , filePanels(throwAwayHome ? throwAwayHome->path() : QString())
+        , filePanels(alerts, throwAwayHome ? throwAwayHome->path() : QString())
         , strings(localeOf(settings))
         , files(toText(settings.home))
         , preferenceDomains(files)
@@ -125,7 +126,8 @@ struct Program::Parts {
     std::unique_ptr<DataServer> dataServer; ///< null when others are asked
 
     QtProcess process;
-    QtAlerts alerts;
+    QtAlerts messageBoxes;
+    CountedAlerts alerts{messageBoxes};
     QtFilePanels filePanels;
     QtInterfaces interfaces;
     QtWebBrowser webBrowser;

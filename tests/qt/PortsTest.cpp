@@ -8,6 +8,7 @@
 #include "qt/ports/QtEventLoop.h"
 #include "qt/ports/QtFilePanels.h"
 #include "qt/ports/QtRunLoop.h"
+#include "support/ScriptedAlerts.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -65,27 +66,50 @@ TEST(Alerts, AStationNamedWithMarkupIsNotTakenAsMarkup)
     alerts.runModal({"Remove “<h1>R & B</h1>”?", {"Yes & go"}});
 }
 
-/// Types a name into the panel and confirms it; `then` runs once what the panel asks is open.
-void enter(
-    const QString& name, QFileDialog& panel, const std::function<void()>& then = [] {})
+using Confirm = std::function<void(QFileDialog&, const QString&)>;
+
+void enter(QFileDialog& panel, const QString& name)
 {
     auto* field = panel.findChild<QLineEdit*>("fileNameEdit");
     panel.activateWindow();
     field->setFocus();
     EXPECT_TRUE(handleEventsUntil([field] { return field->hasFocus(); }));
     field->setText(name);
-    QTimer::singleShot(0, qApp, then);
     pressKey(*field, Qt::Key_Return);
+}
+
+/// Ends the panel with whatever was chosen, as a desktop's own panel does.
+void endWith(QFileDialog& panel, const QString& name)
+{
+    panel.selectFile(name);
+    panel.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+    static_cast<QDialog&>(panel).done(QDialog::Accepted);
+}
+
+/// Does something to the file panel as soon as it is open.
+void whenPanelIsOpen(const std::function<void(QFileDialog&)>& act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(panel, nullptr);
+        act(*panel);
+    });
 }
 
 /// Types a name into the open file panel and confirms it; what happens next is looked at by `then`.
 void whenPanelIsOpen(const QString& typed, const std::function<void(QFileDialog&)>& then)
 {
-    QTimer::singleShot(0, qApp, [typed, then] {
-        auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(panel, nullptr);
-        enter(typed, *panel);
-        then(*panel);
+    whenPanelIsOpen([typed, then](QFileDialog& panel) {
+        enter(panel, typed);
+        then(panel);
+    });
+}
+
+void cancelPanelThatComesBack()
+{
+    whenPanelIsOpen([](QFileDialog& panel) {
+        EXPECT_TRUE(panel.isVisible());
+        panel.reject();
     });
 }
 
@@ -95,7 +119,8 @@ TEST(FilePanels, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileW
     ASSERT_TRUE(QDir(folder.path()).mkpath("x.csv/deep"));
     QFile file(folder.filePath("x.csv/list.csv"));
     ASSERT_TRUE(file.open(QFile::WriteOnly));
-    QtFilePanels panels;
+    ScriptedAlerts alerts;
+    QtFilePanels panels(alerts);
     whenPanelIsOpen(folder.filePath("x.csv"), [](QFileDialog& panel) {
         EXPECT_TRUE(panel.isVisible());
         panel.reject();
@@ -112,13 +137,14 @@ TEST(FilePanels, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileW
         EXPECT_EQ(panel.directory(), QDir::home());
         panel.reject();
     });
-    EXPECT_TRUE(QtFilePanels().runModal(OpenPanel{"csv"}).isAbsent());
+    EXPECT_TRUE(QtFilePanels(alerts).runModal(OpenPanel{"csv"}).isAbsent());
 }
 
 TEST(FilePanels, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
 {
     const QTemporaryDir folder;
-    QtFilePanels panels(folder.path());
+    ScriptedAlerts alerts;
+    QtFilePanels panels(alerts, folder.path());
     whenPanelIsOpen({}, [](QFileDialog& panel) {
         EXPECT_EQ(panel.directory(), QDir::home());
         panel.reject();
@@ -126,37 +152,40 @@ TEST(FilePanels, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
     EXPECT_TRUE(panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())}).isAbsent());
 }
 
-/// The question or sentence of a panel that was confirmed; null when it has none.
-QMessageBox* panelsBox()
-{
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-}
-
-TEST(FilePanels, OnlyAFileOfTheOfferedKindIsOpenedHoweverItsNameIsEntered)
+TEST(FilePanels, OnlyAFileOfTheOfferedKindIsOpenedHoweverItIsChosen)
 {
     const QTemporaryDir folder;
-    QtFilePanels panels;
-    for (const auto& [name, isOpened] :
-        {std::pair("list.csv", true), {"LIST.CSV", true}, {"list.txt", false}, {"csv", false}, {"list.csv~", false}}) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-        bool isRefused = false;
-        QTimer::singleShot(0, qApp, [&] {
-            auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(panel, nullptr);
-            enter(file.fileName(), *panel, [&isRefused, panel] {
-                QMessageBox* sentence = panelsBox();
-                isRefused = sentence != nullptr;
-                if (!isRefused)
-                    return;
-                EXPECT_TRUE(panel->isVisible());
-                sentence->close();
-                panel->reject();
-            });
-        });
-        const Text chosen = panels.runModal(OpenPanel{"csv"});
-        EXPECT_EQ(chosen, isOpened ? Text(file.fileName().toStdString()) : Text()) << name;
-        EXPECT_EQ(isRefused, !isOpened) << name;
+    ScriptedAlerts alerts;
+    QtFilePanels panels(alerts);
+    for (const Confirm& confirm : {Confirm(enter), Confirm(endWith)}) {
+        for (const auto& [name, isOpened] : {std::pair("list.csv", true), {"LIST.CSV", true}, {"list.txt", false},
+                 {"csv", false}, {"list.csv~", false}}) {
+            QFile file(folder.filePath(name));
+            ASSERT_TRUE(file.open(QFile::WriteOnly));
+            if (!isOpened)
+                alerts.expect("Only files whose names end in “.csv” can be imported.", firstButtonAnswer,
+                    cancelPanelThatComesBack);
+            whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, file.fileName()); });
+            const Text chosen = panels.runModal(OpenPanel{"csv"});
+            EXPECT_EQ(chosen, isOpened ? Text(file.fileName().toStdString()) : Text()) << name;
+        }
+    }
+    EXPECT_EQ(alerts.shown.back().buttonTitles, std::vector<Text>{"Continue"});
+}
+
+TEST(FilePanels, ARefusedChoiceMayBeFollowedByABetterOne)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("taken.csv"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    ScriptedAlerts alerts;
+    QtFilePanels panels(alerts);
+    for (const Confirm& confirm : {Confirm(enter), Confirm(endWith)}) {
+        alerts.expect("“taken.csv” already exists. Do you want to replace it?", secondButtonAnswer,
+            [&] { whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, "free"); }); });
+        whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, "taken"); });
+        EXPECT_EQ(panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())}),
+            Text(folder.filePath("free.csv").toStdString()));
     }
 }
 
@@ -168,42 +197,38 @@ TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestionAboutItsWholeName)
         QFile file(folder.filePath(name));
         ASSERT_TRUE(file.open(QFile::WriteOnly));
     }
+    constexpr int yes = firstButtonAnswer;
+    constexpr int no = secondButtonAnswer;
     const struct {
         const char* entered;
         const char* asked; ///< null for no question
-        QMessageBox::StandardButton answer;
+        int answer;
         const char* chosen; ///< null for none
     } cases[] = {
-        {"Radio List.csv", "Radio List.csv", QMessageBox::No, nullptr},
-        {"Radio List.csv", "Radio List.csv", QMessageBox::Yes, "Radio List.csv"},
-        {"taken", "taken.csv", QMessageBox::No, nullptr},
-        {"taken", "taken.csv", QMessageBox::Yes, "taken.csv"},
-        {"my.lists/taken", "taken.csv", QMessageBox::Yes, "my.lists/taken.csv"},
-        {"taken.txt", "taken.txt", QMessageBox::Yes, "taken.txt"},
-        {"free", nullptr, QMessageBox::No, "free.csv"},
-        {"plain", nullptr, QMessageBox::No, "plain.csv"},
-        {"free.m3u", nullptr, QMessageBox::No, "free.m3u"},
+        {"Radio List.csv", "Radio List.csv", no, nullptr},
+        {"Radio List.csv", "Radio List.csv", yes, "Radio List.csv"},
+        {"taken", "taken.csv", no, nullptr},
+        {"taken", "taken.csv", yes, "taken.csv"},
+        {"my.lists/taken", "taken.csv", yes, "my.lists/taken.csv"},
+        {"taken.txt", "taken.txt", yes, "taken.txt"},
+        {"free", nullptr, no, "free.csv"},
+        {"plain", nullptr, no, "plain.csv"},
+        {"free.m3u", nullptr, no, "free.m3u"},
     };
-    QtFilePanels panels;
-    for (const auto& [entered, asked, answer, chosen] : cases) {
-        QTimer::singleShot(0, qApp, [&, name = entered, button = answer, question = asked] {
-            auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(panel, nullptr);
-            enter(QString::fromLatin1(name), *panel, [=] {
-                QMessageBox* box = panelsBox();
-                EXPECT_EQ(box != nullptr, question != nullptr) << name;
-                if (box == nullptr)
-                    return;
-                EXPECT_TRUE(box->text().startsWith(QStringLiteral("“%1”").arg(QString::fromLatin1(question))))
-                    << qPrintable(box->text());
-                box->button(button)->click();
-                if (button == QMessageBox::No)
-                    panel->reject();
-            });
-        });
-        const Text answered = panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())});
-        EXPECT_EQ(answered, chosen ? Text(folder.filePath(chosen).toStdString()) : Text()) << entered;
+    ScriptedAlerts alerts;
+    QtFilePanels panels(alerts);
+    for (const Confirm& confirm : {Confirm(enter), Confirm(endWith)}) {
+        for (const auto& row : cases) {
+            SCOPED_TRACE(row.entered);
+            if (row.asked)
+                alerts.expect("“" + std::string(row.asked) + "” already exists. Do you want to replace it?", row.answer,
+                    row.chosen ? [] {} : cancelPanelThatComesBack);
+            whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, QString::fromLatin1(row.entered)); });
+            const Text answered = panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())});
+            EXPECT_EQ(answered, row.chosen ? Text(folder.filePath(row.chosen).toStdString()) : Text());
+        }
     }
+    EXPECT_EQ(alerts.shown.back().buttonTitles, (std::vector<Text>{"Yes", "No"}));
 }
 
 TEST(EventLoop, ARegistrationMayEndItselfFromInsideItsCallback)

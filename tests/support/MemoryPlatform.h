@@ -1,6 +1,7 @@
 // The whole world around the controller, in memory.
 #pragma once
 
+#include "app/CountedAlerts.h"
 #include "app/Ports.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/NotificationCenter.h"
@@ -67,6 +68,7 @@ struct MemoryPlatform {
     /// What was done to files, servers and preferences, in order.
     std::vector<std::string>& log = files.log;
     ScriptedAlerts alerts;
+    CountedAlerts countedAlerts{alerts};
     ScriptedFilePanels filePanels;
     ScriptedHttpClient httpClient{log};
     MemoryInterfaces interfaces;
@@ -85,7 +87,7 @@ struct MemoryPlatform {
     [[nodiscard]] Ports ports()
     {
         return {
-            .alerts = alerts,
+            .alerts = countedAlerts,
             .filePanels = filePanels,
             .files = files,
             .httpClient = httpClient,
