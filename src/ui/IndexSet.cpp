@@ -67,6 +67,8 @@ IndexSet IndexSet::without(const IndexSet& other) const
 
 IndexSet IndexSet::below(std::size_t count) const
 {
+    if (isEmpty() || last() < count)
+        return *this;
     IndexSet all;
     all.insert({0, count});
     return intersectedWith(all);
