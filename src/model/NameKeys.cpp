@@ -20,10 +20,34 @@ std::string_view takeNumber(std::string_view& name)
     return digits;
 }
 
-/// Every other byte stands for itself in a key.
-bool needsOtherForm(char character)
+/// How many digits there are, then the digits: so more digits make a greater number. The count is itself written in
+/// digits, nine at a time, so that beside any other byte a number keeps the place that its digits have.
+char* writeNumber(std::string_view digits, char* end)
 {
-    return isDigit(character) || character == '\0' || character == '\1';
+    end = std::fill_n(end, digits.size() / 9, '9');
+    *end++ = static_cast<char>('0' + digits.size() % 9);
+    return std::copy(digits.begin(), digits.end(), end);
+}
+
+/// Writes the key of a name, at most two bytes for each of its own, and returns where it ends.
+char* writeKey(std::string_view name, char* end)
+{
+    while (!name.empty()) {
+        const char character = name.front();
+        if (isDigit(character)) {
+            end = writeNumber(takeNumber(name), end);
+            continue;
+        }
+        name.remove_prefix(1);
+        if (character == '\0' || character == '\1') {
+            // Two bytes, as no key has a zero.
+            *end++ = '\1';
+            *end++ = static_cast<char>(character + 1);
+        } else {
+            *end++ = character;
+        }
+    }
+    return end;
 }
 
 } // namespace
@@ -32,10 +56,13 @@ NameKeys::NameKeys(const std::vector<std::string_view>& names)
 {
     const std::size_t length = std::accumulate(names.begin(), names.end(), std::size_t{0},
         [](std::size_t sum, std::string_view name) { return sum + name.size(); });
-    bytes_.reserve(length + length / 8);
+    bytes_ = std::make_unique_for_overwrite<char[]>(2 * length);
     ends_.reserve(names.size());
-    for (const std::string_view name : names)
-        append(name);
+    char* end = bytes_.get();
+    for (const std::string_view name : names) {
+        end = writeKey(name, end);
+        ends_.push_back(static_cast<std::size_t>(end - bytes_.get()));
+    }
 }
 
 std::uint64_t NameKeys::wordAt(std::size_t place, std::size_t offset) const
@@ -51,43 +78,8 @@ std::uint64_t NameKeys::wordAt(std::size_t place, std::size_t offset) const
 std::string_view NameKeys::restAt(std::size_t place, std::size_t offset) const
 {
     const std::size_t start = place == 0 ? 0 : ends_[place - 1];
-    const std::string_view key = std::string_view(bytes_).substr(start, ends_[place] - start);
+    const std::string_view key = std::string_view(bytes_.get() + start, ends_[place] - start);
     return key.substr(std::min(offset, key.size()));
-}
-
-void NameKeys::append(std::string_view name)
-{
-    while (!name.empty()) {
-        const auto* const special = std::find_if(name.begin(), name.end(), needsOtherForm);
-        const auto plain = static_cast<std::size_t>(special - name.begin());
-        bytes_ += name.substr(0, plain);
-        name.remove_prefix(plain);
-        if (name.empty())
-            break;
-        if (isDigit(name.front())) {
-            appendNumber(takeNumber(name));
-        } else {
-            appendLowest(name.front());
-            name.remove_prefix(1);
-        }
-    }
-    ends_.push_back(bytes_.size());
-}
-
-/// How many digits there are, then the digits: so more digits make a greater number. The count is itself written in
-/// digits, nine at a time, so that beside any other byte a number keeps the place that its digits have.
-void NameKeys::appendNumber(std::string_view digits)
-{
-    bytes_.append(digits.size() / 9, '9');
-    bytes_ += static_cast<char>('0' + digits.size() % 9);
-    bytes_ += digits;
-}
-
-/// The bytes 0 and 1 become two bytes, as no key has a zero.
-void NameKeys::appendLowest(char character)
-{
-    bytes_ += '\1';
-    bytes_ += static_cast<char>(character + 1);
 }
 
 } // namespace sonavel

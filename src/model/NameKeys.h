@@ -3,7 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -27,11 +27,7 @@ public:
     [[nodiscard]] std::string_view restAt(std::size_t place, std::size_t offset) const;
 
 private:
-    void append(std::string_view name);
-    void appendNumber(std::string_view digits);
-    void appendLowest(char character);
-
-    std::string bytes_;
+    std::unique_ptr<char[]> bytes_;
     std::vector<std::size_t> ends_;
 };
 
