@@ -241,6 +241,16 @@ class PreferencesTest(unittest.TestCase):
         self.wait_gone(program, self.Role.LABEL, "Version 1.0.0")
         self.quit(program)
 
+    def test_a_start_names_the_server_that_it_waits_for(self):
+        self.server.send_signal(signal.SIGSTOP)
+        program = self.start_as_it_comes()
+        program.find(self.Role.LABEL, "Waiting for 127.0.0.1…")
+        self.server.send_signal(signal.SIGCONT)
+        self.desk.activate("Sonavel")
+        program.find(self.Role.COMBO_BOX)
+        self.assertFalse(program.shows(self.Role.LABEL, "Waiting for 127.0.0.1…"))
+        self.quit(program)
+
     def test_keys_wait_while_a_server_is_silent_and_old_media_keys_are_dropped(self):
         program = self.start()
         pop_up = program.find(self.Role.COMBO_BOX)

@@ -3,20 +3,21 @@
 
 #include "UserInput.h"
 #include "qt/windows/MainWindow.h"
+#include "qt/windows/StationListWindow.h"
 #include "support/ControllerTest.h"
 
+#include <QDropEvent>
+#include <QFile>
+#include <QMimeData>
 #include <QTemporaryDir>
+#include <QUrl>
 
 namespace sonavel {
 namespace {
 
-class ProgramWindowsTest : public testing::Test {
+class ProgramWindowsTest : public ControllerTest {
 protected:
-    MemoryPlatform platform;
-    Outlets outlets;
-    WinSonavelController controller{platform.ports(), platform.configuration, outlets};
-    Gate gate;
-    Actions actions{controller, outlets, gate};
+    const QTemporaryDir state;
 };
 
 class Raises : public QObject {
@@ -32,7 +33,6 @@ public:
 
 TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnotherProgram)
 {
-    const QTemporaryDir state;
     for (const bool isLeft : {false, true}) {
         ProgramWindows windows(outlets, actions, state.path());
         windows.connectMainWindow();
@@ -50,6 +50,28 @@ TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnother
         windows.buildOtherWindows();
         EXPECT_EQ(raises.count, isLeft ? 0 : 1);
     }
+}
+
+TEST_F(ProgramWindowsTest, AListThatIsDroppedOnTheListWindowIsImported)
+{
+    controller.init();
+    ProgramWindows windows(outlets, actions, state.path());
+    windows.connectMainWindow();
+    windows.buildOtherWindows();
+    QFile dropped(state.filePath(QStringLiteral("list.csv")));
+    ASSERT_TRUE(dropped.open(QFile::WriteOnly));
+    platform.files.files[dropped.fileName().toStdString()] = "Station;http://host/\r";
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(dropped.fileName())});
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QDropEvent drop({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (dynamic_cast<StationListWindow*>(window) == nullptr)
+            continue;
+        QApplication::sendEvent(window, &enter);
+        QApplication::sendEvent(window, &drop);
+    }
+    EXPECT_TRUE(handleEventsUntil([&] { return list() == "Station;http://host/\r"; }));
 }
 
 } // namespace
