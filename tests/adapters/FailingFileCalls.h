@@ -13,12 +13,11 @@ class FailingFileCalls : public FileCalls {
 public:
     enum class Failing { ThatCallAlone, ThatCallAndAllAfter };
 
-    /// Lets the n-th call from here on (the first is 1) fail with `reason`; 0 for none.
-    void fail(int call, Failing failing = Failing::ThatCallAlone, int reason = EIO)
+    /// Lets the n-th call from here on (the first is 1) fail; 0 for none.
+    void fail(int call, Failing failing = Failing::ThatCallAlone)
     {
         countdown_ = call;
         failing_ = failing;
-        reason_ = reason;
         hasFailed_ = false;
         isPastRename_ = false;
     }
@@ -91,7 +90,7 @@ public:
 private:
     bool isToFail()
     {
-        errno = reason_;
+        errno = EIO;
         if (hasFailed_)
             return failing_ == Failing::ThatCallAndAllAfter;
         hasFailed_ = countdown_ > 0 && --countdown_ == 0;
@@ -106,7 +105,6 @@ private:
 
     int countdown_ = 0;
     Failing failing_ = Failing::ThatCallAlone;
-    int reason_ = EIO;
     bool hasFailed_ = false;
     bool isPastRename_ = false;
 };

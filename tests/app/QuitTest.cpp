@@ -37,15 +37,5 @@ TEST_F(QuitTest, ASessionThatEndsKeepsAnOpenCellAndThePreferences)
     EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A"));
 }
 
-TEST_F(QuitTest, WhatTheUserDoesWhileTheQuestionIsOpenWaitsForTheAnswer)
-{
-    platform.alerts.expect(question, secondButtonAnswer, [&] {
-        outlets.popupbuttonRadioList.chosenByUser(1);
-        EXPECT_TRUE(controller.player.playRadioLink.isAbsent());
-    });
-    outlets.winSonavel.closeRequestedByUser();
-    EXPECT_EQ(controller.player.playRadioLink, Text("http://a/"));
-}
-
 } // namespace
 } // namespace sonavel

@@ -42,19 +42,6 @@ TEST_F(StationLoadingTest, ALegacyFileMovesIntoTheDatabase)
     EXPECT_EQ(requestsForList(), 0);
 }
 
-TEST_F(StationLoadingTest, ALegacyFileStaysUntilAWriteSucceeds)
-{
-    files.files[legacy] = "Alpha;http://a/\r";
-    files.failAll("write");
-    start();
-    EXPECT_EQ(list(), "Alpha;http://a/\r");
-    EXPECT_TRUE(files.fileExists(legacy));
-    files.failAll("");
-    controller.stationDatabase.fileRadioDBupdate();
-    EXPECT_FALSE(files.fileExists(legacy));
-    EXPECT_EQ(database(), Text("Alpha;http://a/\r"));
-}
-
 TEST_F(StationLoadingTest, AnUnreadableLegacyFileIsSetAsideAndTheDatabaseRead)
 {
     putDatabase("Mine;http://mine/\r");
@@ -63,15 +50,6 @@ TEST_F(StationLoadingTest, AnUnreadableLegacyFileIsSetAsideAndTheDatabaseRead)
     EXPECT_EQ(list(), "Mine;http://mine/\r");
     EXPECT_FALSE(files.fileExists(legacy));
     EXPECT_EQ(files.files.at(files.inPreferences("radiolist.damaged.csv")), "Alpha;\xFF\r");
-}
-
-TEST_F(StationLoadingTest, ADamagedDatabaseIsKeptAsideBeforeTheServersListTakesItsPlace)
-{
-    files.files[databasePath] = "damaged";
-    publishOnline("Theirs;http://theirs/\r");
-    start();
-    EXPECT_EQ(list(), "Theirs;http://theirs/\r");
-    EXPECT_EQ(files.files.at(files.inPreferences("radiolist.damaged.rdb")), "damaged");
 }
 
 TEST_F(StationLoadingTest, ADueRefreshLeavesTheUsersStationsWhereTheyAre)

@@ -1,8 +1,6 @@
 // Imports: merging, replacing, full lists, and files that are none.
 #include "support/ControllerTest.h"
 
-#include <random>
-
 namespace sonavel {
 namespace {
 
@@ -60,38 +58,6 @@ TEST_F(StationImportTest, AMergingImportNumbersWhatIsTaken)
     EXPECT_EQ(list(), "A;http://a/\rB;http://b/\rA (3);1\ra;2\rC;3\rC (6);4\rA (3) (7);5\rA (8);6\r");
     EXPECT_EQ(outlets.tableViewListRadio.numberOfRows(), 7);
     EXPECT_EQ(status(), "Imported: 6.");
-}
-
-TEST_F(StationImportTest, MergingGivesWhatTheLiteralProcedureGives)
-{
-    std::mt19937 random(3);
-    const auto name = [&] { return std::string(1 + random() % 2, static_cast<char>('A' + random() % 3)); };
-    for (int round = 0; round < 200; ++round) {
-        std::vector<std::string> names(1 + random() % 6);
-        std::generate(names.begin(), names.end(), name);
-        std::string imported;
-        controller.stationList.listRadio = std::make_shared<StationRecords>();
-        for (const std::string& present : names)
-            controller.stationList.listRadio->push_back(std::make_shared<KVStationWebRadio>(1, present, ""));
-        bool hasDuplicates = false;
-        for (std::size_t count = random() % 12; count > 0; --count) {
-            std::string next = random() % 4 == 0 ? name() + " (" + std::to_string(random() % 12) + ")" : name();
-            imported += next + ";x\r";
-            if (std::find(names.begin(), names.end(), next) != names.end()) {
-                next += " (" + std::to_string(names.size() + 1) + ")";
-                hasDuplicates = true;
-            }
-            names.push_back(next);
-        }
-        platform.alerts.expect(erase, secondButtonAnswer);
-        if (hasDuplicates)
-            platform.alerts.expect("<AS_DUPLICATED_DATA>", firstButtonAnswer);
-        import(imported);
-        std::vector<std::string> got;
-        for (const auto& station : *controller.stationList.listRadio)
-            got.push_back(station->radio().string());
-        ASSERT_EQ(got, names);
-    }
 }
 
 TEST_F(StationImportTest, YesReplacesTheListAndKeepsTheFormerOne)

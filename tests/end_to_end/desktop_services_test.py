@@ -74,6 +74,7 @@ class DesktopServicesTest(unittest.TestCase):
         self.expect("Playing", "status")
         self.assertTrue(any(" - " in line for line in title))
         station = self.media("metadata", "xesam:album")
+        self.assertTrue(station)
         self.assertIn("/demo/", self.media("metadata", "xesam:url"))
         self.media("play-pause")
         self.expect("Paused", "status")

@@ -147,21 +147,7 @@ TEST_F(EngineProcessTest, TheEngineIsGivenTheNameOfTheStationAsAShortLine)
     })) << engine.heard("load");
 }
 
-TEST_F(EngineProcessTest, APlayerThatIsGoneLeavesNoConnection)
-{
-    std::atomic<bool> isClosed = false;
-    const ScriptedServer server([&](ScriptedServer::Connection& connection) {
-        playTone(connection);
-        isClosed = true;
-    });
-    play(server.address());
-    ASSERT_TRUE(comesTo(State::Playing));
-    player_.reset();
-    EXPECT_EQ(shown_.state, State::Nothing);
-    EXPECT_TRUE(loop_.runUntil([&] { return isClosed.load(); }));
-}
-
-TEST_F(EngineProcessTest, OnlyThePlayerThatPlayedLastIsHeard)
+TEST_F(EngineProcessTest, OnlyThePlayerThatPlayedLastIsHeardAndLeavesNoConnection)
 {
     std::atomic<int> open = 0;
     const ScriptedServer server([&](ScriptedServer::Connection& connection) {
@@ -171,13 +157,16 @@ TEST_F(EngineProcessTest, OnlyThePlayerThatPlayedLastIsHeard)
     });
     play(server.address("/first"));
     ASSERT_TRUE(comesTo(State::Playing));
-    const auto second =
+    auto second =
         engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{server.address("/second"), {}}));
     EXPECT_EQ(shown_.state, State::Playing);
     second->play();
     ASSERT_TRUE(loop_.runUntil([&] { return server.connectionCount() == 2 && open == 1; }));
     player_.reset();
     EXPECT_TRUE(comesTo(State::Playing));
+    second.reset();
+    EXPECT_EQ(shown_.state, State::Nothing);
+    EXPECT_TRUE(loop_.runUntil([&] { return open == 0; }));
 }
 
 } // namespace

@@ -27,6 +27,14 @@ struct Stream {
         return supervisor.advice(now);
     }
 
+    /// Breaks, and is opened again after `delay`.
+    void breakFor(Time delay)
+    {
+        supervisor.broke(now);
+        EXPECT_EQ(adviceAfter(delay), Advice::Open);
+        supervisor.opened(now);
+    }
+
     void playFor(Time time)
     {
         supervisor.sounds(now);
@@ -37,23 +45,17 @@ struct Stream {
 TEST(StreamSupervisor, AStreamThatKeepsBreakingIsOpenedEverLessOftenButNeverGivenUp)
 {
     Stream stream;
-    for (const Time delay : {1s, 2s, 4s, 8s, 16s, 30s, 30s, 30s}) {
-        stream.supervisor.broke(stream.now);
-        EXPECT_EQ(stream.adviceAfter(delay), Advice::Open);
-        stream.supervisor.opened(stream.now);
-    }
+    for (const Time delay : {1s, 2s, 4s, 8s, 16s, 30s, 30s, 30s})
+        stream.breakFor(delay);
 }
 
 TEST(StreamSupervisor, OnlyAStreamThatPlayedForAWhileStartsWithTheShortestDelay)
 {
     for (const auto& [played, delay] : {std::pair<Time, Time>{9s, 2s}, {10s, 1s}}) {
         Stream stream;
-        stream.supervisor.broke(stream.now);
-        EXPECT_EQ(stream.adviceAfter(1s), Advice::Open);
-        stream.supervisor.opened(stream.now);
+        stream.breakFor(1s);
         stream.playFor(played);
-        stream.supervisor.broke(stream.now);
-        EXPECT_EQ(stream.adviceAfter(delay), Advice::Open);
+        stream.breakFor(delay);
     }
 }
 
@@ -126,16 +128,12 @@ TEST(StreamSupervisor, AStreamThatBrokeIsOpenedAtOnceWhenItIsContinuedOrTheNetwo
     EXPECT_EQ(held.supervisor.continued(held.now), Advice::Open);
 
     Stream offline;
-    for (const Time delay : {1s, 2s, 4s}) {
-        offline.supervisor.broke(offline.now);
-        EXPECT_EQ(offline.adviceAfter(delay), Advice::Open);
-        offline.supervisor.opened(offline.now);
-    }
+    for (const Time delay : {1s, 2s, 4s})
+        offline.breakFor(delay);
     offline.supervisor.broke(offline.now);
     EXPECT_EQ(offline.supervisor.renew(offline.now), Advice::Open);
     offline.supervisor.opened(offline.now);
-    offline.supervisor.broke(offline.now);
-    EXPECT_EQ(offline.adviceAfter(1s), Advice::Open);
+    offline.breakFor(1s);
 }
 
 TEST(StreamSupervisor, AStreamThatSoundsWhenTheMachineWakesHasToProveItselfAgain)

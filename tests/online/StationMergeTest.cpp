@@ -33,6 +33,15 @@ bool nestedScan(StationRecords& stored, const StationRecords& downloaded)
     return changed;
 }
 
+StationRecords randomList(std::mt19937& random, unsigned length, unsigned names)
+{
+    StationRecords records;
+    for (unsigned number = 0; number < length; ++number)
+        records.push_back(std::make_shared<KVStationWebRadio>(
+            random() % 100, "name " + std::to_string(random() % names), "link " + std::to_string(random() % 3)));
+    return records;
+}
+
 std::string described(const StationRecords& records)
 {
     std::string text;
@@ -41,36 +50,12 @@ std::string described(const StationRecords& records)
     return text;
 }
 
-class RandomLists {
-public:
-    /// As many stations, with as many different names at most.
-    StationRecords next(unsigned length, unsigned names)
-    {
-        StationRecords records;
-        for (unsigned number = 0; number < length; ++number)
-            records.push_back(std::make_shared<KVStationWebRadio>(
-                below(100), "name " + std::to_string(below(names)), "link " + std::to_string(below(3))));
-        return records;
-    }
-
-    unsigned below(unsigned bound) { return static_cast<unsigned>(random_() % bound); }
-
-private:
-    std::mt19937 random_{20161001};
-};
-
-StationRecords copyOf(const StationRecords& records)
-{
-    StationRecords copy;
-    for (const auto& station : records)
-        copy.push_back(std::make_shared<KVStationWebRadio>(*station));
-    return copy;
-}
-
 void expectTheNestedScansResult(StationRecords stored, const StationRecords& downloaded)
 {
     const std::string before = described(stored);
-    StationRecords expected = copyOf(stored);
+    StationRecords expected;
+    for (const auto& station : stored)
+        expected.push_back(std::make_shared<KVStationWebRadio>(*station));
     const bool expectedChange = nestedScan(expected, downloaded);
     ASSERT_EQ(mergeStations(stored, downloaded), expectedChange) << before << "with\n" << described(downloaded);
     ASSERT_EQ(described(stored), described(expected)) << before << "with\n" << described(downloaded);
@@ -78,15 +63,14 @@ void expectTheNestedScansResult(StationRecords stored, const StationRecords& dow
 
 TEST(StationMerge, ResultsInWhatTheNestedScanResultsIn)
 {
-    RandomLists lists;
+    std::mt19937 random(20161001);
     for (int round = 0; round < 20'000 && !HasFatalFailure(); ++round) {
-        const StationRecords stored = lists.next(lists.below(8), 5);
-        expectTheNestedScansResult(stored, lists.next(lists.below(8), 5));
+        const StationRecords stored = randomList(random, random() % 8, 5);
+        expectTheNestedScansResult(stored, randomList(random, random() % 8, 5));
     }
     for (const unsigned names : {700, 3}) {
-        SCOPED_TRACE(names);
-        const StationRecords stored = lists.next(400, names);
-        expectTheNestedScansResult(stored, lists.next(500, names));
+        const StationRecords stored = randomList(random, 400, names);
+        expectTheNestedScansResult(stored, randomList(random, 500, names));
     }
 }
 

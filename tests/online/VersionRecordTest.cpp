@@ -29,20 +29,11 @@ TEST(VersionComparison, EachNumberIsComparedForItself)
         const char* theirs;
         const char* theirBuild;
         bool isNewer;
-    } cases[] = {
-        {"1.2.0", "5", "1.2.0", "5", false},
-        {"1.2.0", "5", "1.2.1", "5", true},
-        {"1.2.0", "5", "1.2.0", "6", true},
-        {"1.10.0", "9", "1.9.0", "9", false},
-        {"2.0.0", "7", "1.5.0", "3", true},
-        {"2.1", "7", "2.1.0", "7", false},
-        {"2.1.0", "7", "2.1.0.9", "7", false},
-        {"1.2.0", "5", "", "", false},
-        {"1.2.0", "5", "x.y.z", "build 9", false},
-        {"1.2.0", "5", "1. 3rc.0", "5", true},
-        {"1.2.0", "5", "-9.+2.0", "-9", false},
-        {"1.2.0", "5", "1.2.0", "999999999999999999999999999999", true},
-    };
+    } cases[] = {{"1.2.0", "5", "1.2.0", "5", false}, {"1.2.0", "5", "1.2.1", "5", true},
+        {"1.2.0", "5", "1.2.0", "6", true}, {"1.10.0", "9", "1.9.0", "9", false}, {"2.0.0", "7", "1.5.0", "3", true},
+        {"2.1", "7", "2.1.0", "7", false}, {"2.1.0", "7", "2.1.0.9", "7", false}, {"1.2.0", "5", "", "", false},
+        {"1.2.0", "5", "x.y.z", "build 9", false}, {"1.2.0", "5", "1. 3rc.0", "5", true},
+        {"1.2.0", "5", "-9.+2.0", "-9", false}, {"1.2.0", "5", "1.2.0", "999999999999999999999999999999", true}};
     for (const auto& [ours, ourBuild, theirs, theirBuild, isNewer] : cases) {
         const auto server = serverVersionRecord(answer(theirs, theirBuild));
         ASSERT_TRUE(server);

@@ -20,26 +20,6 @@
 namespace sonavel {
 namespace {
 
-QString accessible(QWidget& window, const char* name, QAccessible::Text text)
-{
-    return QAccessible::queryAccessibleInterface(window.findChild<QWidget*>(name))->text(text);
-}
-
-TEST(MainWindow, HasEveryOutletAndStartsStopped)
-{
-    Outlets outlets;
-    MainWindow window{nullptr};
-    connectMainWindow(outlets, window);
-    EXPECT_EQ(outlets.buttonPlayPause.state().image, Text("play.png"));
-    EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
-    EXPECT_FALSE(outlets.buttonStop.state().isEnabled);
-    EXPECT_TRUE(outlets.buttonEditRadioList.state().isEnabled);
-    EXPECT_EQ(outlets.buttonMute.title(), Text("Mute"));
-    EXPECT_EQ(outlets.imageVolume.state().image, Text("volume.png"));
-    EXPECT_EQ(outlets.labelVolume.stringValue(), Text("Volume"));
-    EXPECT_EQ(outlets.sliderVolume.state().maxValue, 1.0);
-}
-
 TEST(MainWindow, NothingMovesWhenTextsChange)
 {
     Outlets outlets;
@@ -139,20 +119,6 @@ TEST(MainWindow, FromRightToLeftTheWordOfAButtonIsAsFarFromItsEdge)
     EXPECT_GT(usual, 10);
     EXPECT_NEAR(besideWord(Qt::RightToLeft), usual, 4);
     QApplication::setLayoutDirection(Qt::LeftToRight);
-}
-
-TEST(MainWindow, AScreenReaderHearsTheTitleAndTheNameOfEveryControl)
-{
-    Outlets outlets;
-    MainWindow window{nullptr};
-    connectMainWindow(outlets, window);
-    window.showNowPlaying("Someone <i>& Co</i> – Song", MainWindow::Emphasis::Usual);
-    EXPECT_EQ(accessible(window, "labelNowPlaying", QAccessible::Name), "Someone <i>& Co</i> – Song");
-    EXPECT_EQ(accessible(window, "labelNowPlaying", QAccessible::Description), "Now playing");
-    outlets.buttonPlayPause.setImage("pause.png");
-    EXPECT_EQ(accessible(window, "buttonPlayPause", QAccessible::Name), "Pause");
-    EXPECT_EQ(accessible(window, "sliderVolume", QAccessible::Name), "Volume");
-    EXPECT_EQ(accessible(window, "buttonEditRadioList", QAccessible::Name), "Station List…");
 }
 
 TEST(MainWindow, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)

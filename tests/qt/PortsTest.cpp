@@ -4,6 +4,7 @@
 #include "qt/Settings.h"
 #include "qt/desktop/Session.h"
 #include "qt/desktop/TerminationSignals.h"
+#include "qt/kit/TextConversion.h"
 #include "qt/ports/QtAlerts.h"
 #include "qt/ports/QtEventLoop.h"
 #include "qt/ports/QtFilePanels.h"
@@ -113,21 +114,32 @@ void cancelPanelThatComesBack()
     });
 }
 
-TEST(FilePanels, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileWasChosen)
-{
+class FilePanelsTest : public testing::Test {
+protected:
+    QString make(const QString& name)
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        return file.fileName();
+    }
+    Text answerToSavePanel() { return panels.runModal(SavePanel{"Radio List.csv", toText(folder.path())}); }
+
     const QTemporaryDir folder;
-    ASSERT_TRUE(QDir(folder.path()).mkpath("x.csv/deep"));
-    QFile file(folder.filePath("x.csv/list.csv"));
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
     ScriptedAlerts alerts;
-    QtFilePanels panels(alerts);
+    QtFilePanels panels{alerts};
+};
+
+TEST_F(FilePanelsTest, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileWasChosen)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath("x.csv/deep"));
+    const QString file = make("x.csv/list.csv");
     whenPanelIsOpen(folder.filePath("x.csv"), [](QFileDialog& panel) {
         EXPECT_TRUE(panel.isVisible());
         panel.reject();
     });
     EXPECT_TRUE(panels.runModal(OpenPanel{"csv"}).isAbsent());
-    whenPanelIsOpen(file.fileName(), [](QFileDialog&) {});
-    EXPECT_EQ(panels.runModal(OpenPanel{"csv"}), Text(file.fileName().toStdString()));
+    whenPanelIsOpen(file, [](QFileDialog&) {});
+    EXPECT_EQ(panels.runModal(OpenPanel{"csv"}), toText(file));
     whenPanelIsOpen({}, [&](QFileDialog& panel) {
         EXPECT_EQ(panel.directory().absolutePath(), folder.filePath("x.csv"));
         panel.reject();
@@ -140,63 +152,48 @@ TEST(FilePanels, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhereAFileW
     EXPECT_TRUE(QtFilePanels(alerts).runModal(OpenPanel{"csv"}).isAbsent());
 }
 
-TEST(FilePanels, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
+TEST_F(FilePanelsTest, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
 {
-    const QTemporaryDir folder;
-    ScriptedAlerts alerts;
-    QtFilePanels panels(alerts, folder.path());
+    QtFilePanels ofDemo(alerts, folder.path());
     whenPanelIsOpen({}, [](QFileDialog& panel) {
         EXPECT_EQ(panel.directory(), QDir::home());
         panel.reject();
     });
-    EXPECT_TRUE(panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())}).isAbsent());
+    EXPECT_TRUE(ofDemo.runModal(SavePanel{"Radio List.csv", toText(folder.path())}).isAbsent());
 }
 
-TEST(FilePanels, OnlyAFileOfTheOfferedKindIsOpenedHoweverItIsChosen)
+TEST_F(FilePanelsTest, OnlyAFileOfTheOfferedKindIsOpenedHoweverItIsChosen)
 {
-    const QTemporaryDir folder;
-    ScriptedAlerts alerts;
-    QtFilePanels panels(alerts);
     for (const Confirm& confirm : {Confirm(enter), Confirm(endWith)}) {
         for (const auto& [name, isOpened] : {std::pair("list.csv", true), {"LIST.CSV", true}, {"list.txt", false},
                  {"csv", false}, {"list.csv~", false}}) {
-            QFile file(folder.filePath(name));
-            ASSERT_TRUE(file.open(QFile::WriteOnly));
+            const QString file = make(name);
             if (!isOpened)
                 alerts.expect("Only files whose names end in “.csv” can be imported.", firstButtonAnswer,
                     cancelPanelThatComesBack);
-            whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, file.fileName()); });
-            const Text chosen = panels.runModal(OpenPanel{"csv"});
-            EXPECT_EQ(chosen, isOpened ? Text(file.fileName().toStdString()) : Text()) << name;
+            whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, file); });
+            EXPECT_EQ(panels.runModal(OpenPanel{"csv"}), isOpened ? toText(file) : Text()) << name;
         }
     }
     EXPECT_EQ(alerts.shown.back().buttonTitles, std::vector<Text>{"Continue"});
 }
 
-TEST(FilePanels, ARefusedChoiceMayBeFollowedByABetterOne)
+TEST_F(FilePanelsTest, ARefusedChoiceMayBeFollowedByABetterOne)
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("taken.csv"));
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
-    ScriptedAlerts alerts;
-    QtFilePanels panels(alerts);
+    make("taken.csv");
     for (const Confirm& confirm : {Confirm(enter), Confirm(endWith)}) {
         alerts.expect("“taken.csv” already exists. Do you want to replace it?", secondButtonAnswer,
             [&] { whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, "free"); }); });
         whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, "taken"); });
-        EXPECT_EQ(panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())}),
-            Text(folder.filePath("free.csv").toStdString()));
+        EXPECT_EQ(answerToSavePanel(), toText(folder.filePath("free.csv")));
     }
 }
 
-TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestionAboutItsWholeName)
+TEST_F(FilePanelsTest, AFileIsReplacedOnlyAfterAQuestionAboutItsWholeName)
 {
-    const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir("my.lists"));
-    for (const char* name : {"Radio List.csv", "taken.csv", "taken.txt", "plain", "my.lists/taken.csv"}) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-    }
+    for (const char* name : {"Radio List.csv", "taken.csv", "taken.txt", "plain", "my.lists/taken.csv"})
+        make(name);
     constexpr int yes = firstButtonAnswer;
     constexpr int no = secondButtonAnswer;
     const struct {
@@ -215,8 +212,6 @@ TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestionAboutItsWholeName)
         {"plain", nullptr, no, "plain.csv"},
         {"free.m3u", nullptr, no, "free.m3u"},
     };
-    ScriptedAlerts alerts;
-    QtFilePanels panels(alerts);
     for (const Confirm& confirm : {Confirm(enter), Confirm(endWith)}) {
         for (const auto& row : cases) {
             SCOPED_TRACE(row.entered);
@@ -224,8 +219,7 @@ TEST(FilePanels, AFileIsReplacedOnlyAfterAQuestionAboutItsWholeName)
                 alerts.expect("“" + std::string(row.asked) + "” already exists. Do you want to replace it?", row.answer,
                     row.chosen ? [] {} : cancelPanelThatComesBack);
             whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, QString::fromLatin1(row.entered)); });
-            const Text answered = panels.runModal(SavePanel{"Radio List.csv", Text(folder.path().toStdString())});
-            EXPECT_EQ(answered, row.chosen ? Text(folder.filePath(row.chosen).toStdString()) : Text());
+            EXPECT_EQ(answerToSavePanel(), row.chosen ? toText(folder.filePath(row.chosen)) : Text());
         }
     }
     EXPECT_EQ(alerts.shown.back().buttonTitles, (std::vector<Text>{"Yes", "No"}));

@@ -175,6 +175,7 @@ TEST_P(RoomForTextsTest, IsThereForWhyAStreamCannotBePlayed)
     for (int failure = 0; failure <= static_cast<int>(PlaybackFailure::EngineFailed); ++failure) {
         const QString text = nowPlayingText(
             {NowPlaying::State::Reconnecting, Text(), static_cast<PlaybackFailure>(failure), std::chrono::seconds(30)});
+        EXPECT_FALSE(text.contains(QStringLiteral("FAILURE_"))) << text.toStdString();
         EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->textArea().width())
             << GetParam() << ": " << text.toStdString();
     }

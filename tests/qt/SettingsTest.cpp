@@ -32,18 +32,13 @@ TEST(Settings, OptionsWinOverTheEnvironmentWhichWinsOverTheFile)
     EXPECT_EQ(accepted({}, {}, file).dataServer, "http://file/");
     EXPECT_EQ(accepted({}, {{"SONAVEL_DATA_SERVER", ""}}, file).dataServer, "http://file/");
     EXPECT_EQ(accepted({}).dataServer, "");
+    EXPECT_EQ(accepted({"--data-server", "https://option/folder"}).dataServer, "https://option/folder/");
     EXPECT_EQ(accepted({}, environment, file).probe, "http://file/probe");
     EXPECT_TRUE(accepted({}).probe.startsWith("https://"));
     EXPECT_EQ(accepted({"--appearance=light"}, {}, file).appearance, Appearance::Light);
     EXPECT_EQ(accepted({}, {}, file).appearance, Appearance::Dark);
     EXPECT_EQ(accepted({"--language", "it"}).language, "it");
     EXPECT_EQ(accepted({}).home, QDir::cleanPath(existing));
-}
-
-TEST(Settings, ABaseAddressEndsInASlash)
-{
-    EXPECT_EQ(
-        accepted({"--data-server", "https://radio.example.org/data"}).dataServer, "https://radio.example.org/data/");
 }
 
 TEST(Settings, TheDemoTouchesNothingThatIsConfigured)
@@ -103,21 +98,14 @@ TEST(Settings, AMistakeIsOneLineAndStatusTwo)
     }
 }
 
-TEST(Settings, WithoutAHomeThePlayerDoesNotStart)
+TEST(Settings, WithoutAHomeThePlayerDoesNotStartButAnswers)
 {
-    for (const Values& environment : {Values{}, Values{{"HOME", ""}}, Values{{"HOME", "/no/such/folder"}}}) {
-        const SettingsOrEnd outcome = settingsFrom({}, environment, {});
+    const std::tuple<QStringList, Values, int> cases[] = {{{}, {}, 2}, {{}, {{"HOME", ""}}, 2},
+        {{}, {{"HOME", "/no/such/folder"}}, 2}, {{"--help"}, {}, 0}, {{"--version"}, {}, 0}};
+    for (const auto& [arguments, environment, status] : cases) {
+        const SettingsOrEnd outcome = settingsFrom(arguments, environment, {});
         ASSERT_TRUE(std::holds_alternative<EndAtOnce>(outcome));
-        EXPECT_EQ(std::get<EndAtOnce>(outcome).status, 2);
-    }
-}
-
-TEST(Settings, HelpAndVersionNeedNoHome)
-{
-    for (const char* option : {"--help", "--version"}) {
-        const SettingsOrEnd outcome = settingsFrom({option}, {}, {});
-        ASSERT_TRUE(std::holds_alternative<EndAtOnce>(outcome));
-        EXPECT_EQ(std::get<EndAtOnce>(outcome).status, 0);
+        EXPECT_EQ(std::get<EndAtOnce>(outcome).status, status);
     }
 }
 

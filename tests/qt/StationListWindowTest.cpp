@@ -171,7 +171,7 @@ TEST_F(StationListWindowTest, FindingNothingIsToldAndChangesNothing)
     EXPECT_EQ(table().selectedRow(), -1);
 }
 
-TEST_F(StationListWindowTest, AFailureIsShownForItsWholeTimeWhateverIsSaidMeanwhile)
+TEST_F(StationListWindowTest, EveryMessageIsShownForItsOwnTimeAFailureBeforeWhatIsSaidMeanwhile)
 {
     window.showNotice("disk full");
     for (int time = 0; time < 2; ++time) {
@@ -183,17 +183,11 @@ TEST_F(StationListWindowTest, AFailureIsShownForItsWholeTimeWhateverIsSaidMeanwh
     EXPECT_EQ(status(), "disk full");
     endTimeOf(Message::Failure);
     EXPECT_EQ(status(), "Not found") << "its own time is not over";
-    endTimeOf(Message::Usual);
-    EXPECT_EQ(status(), "");
-}
-
-TEST_F(StationListWindowTest, TheSameWordsAreShownAnewAfterTheyWentAway)
-{
     for (int time = 0; time < 2; ++time) {
-        outlets.labelListStatus.announce("Stations imported: 4.");
-        EXPECT_EQ(status(), "Stations imported: 4.");
         endTimeOf(Message::Usual);
         EXPECT_EQ(status(), "");
+        outlets.labelListStatus.announce("Stations imported: 4.");
+        EXPECT_EQ(status(), "Stations imported: 4.") << "the same words anew";
     }
 }
 
@@ -242,26 +236,23 @@ TEST_F(StationListWindowTest, OnlyOneLocalStationListCanBeDropped)
         {{QUrl::fromLocalFile(folder.filePath("gone.csv"))}, false}};
     std::vector<Text> dropped;
     window.whenFileDropped([&](const Text& path) { dropped.push_back(path); });
-    for (const auto& [urls, isWanted] : cases) {
+    const auto isAccepted = [&](const QList<QUrl>& urls) {
         QMimeData dragged;
         dragged.setUrls(urls);
         QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
         enter.ignore();
         QApplication::sendEvent(&window, &enter);
-        EXPECT_EQ(enter.isAccepted(), isWanted);
         QDropEvent drop({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
         QApplication::sendEvent(&window, &drop);
-    }
+        return enter.isAccepted();
+    };
+    for (const auto& [urls, isWanted] : cases)
+        EXPECT_EQ(isAccepted(urls), isWanted);
     EXPECT_TRUE(dropped.empty()) << "the other program waits for the end of the drop";
     QApplication::processEvents();
     EXPECT_EQ(dropped, std::vector<Text>{Text(list.toLocalFile().toStdString())});
     openSheet();
-    QMimeData dragged;
-    dragged.setUrls({list});
-    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-    enter.ignore();
-    QApplication::sendEvent(&window, &enter);
-    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_FALSE(isAccepted({list}));
 }
 
 TEST_F(StationListWindowTest, TheSheetOpensWithTheFocusInNeitherFieldEveryTime)

@@ -47,7 +47,7 @@ protected:
     {
         widget.setCurrentIndex(widget.model()->index(row, column));
         QTest::keyClick(&widget, Qt::Key_F2);
-        return static_cast<StationCellDelegate*>(widget.itemDelegate())->openField();
+        return openField();
     }
     QLineEdit* openField() { return static_cast<StationCellDelegate*>(widget.itemDelegate())->openField(); }
     [[nodiscard]] std::size_t widgetsSelection() const
@@ -95,16 +95,12 @@ TEST_F(StationTableTest, TheRowTouchedLastIsTheSelectedOne)
     EXPECT_EQ(table.numberOfSelectedRows(), 2);
 }
 
-TEST_F(StationTableTest, TheFirstArrowSelectsTheFirstRow)
+TEST_F(StationTableTest, TheFirstArrowSelectsTheFirstRowAndHomeAndEndTheFirstAndTheLast)
 {
-    QTest::keyClick(&widget, Qt::Key_Down);
-    EXPECT_EQ(table.selectedRow(), 0);
-    QTest::keyClick(&widget, Qt::Key_Down);
-    EXPECT_EQ(table.selectedRow(), 1);
-}
-
-TEST_F(StationTableTest, HomeAndEndSelectTheFirstAndTheLastRow)
-{
+    for (const long row : {0, 1}) {
+        QTest::keyClick(&widget, Qt::Key_Down);
+        EXPECT_EQ(table.selectedRow(), row);
+    }
     QTest::keyClick(&widget, Qt::Key_End);
     EXPECT_EQ(table.selectedRow(), 4);
     QTest::keyClick(&widget, Qt::Key_Home, Qt::ShiftModifier);

@@ -80,8 +80,8 @@ TEST_F(TextFieldTest, UndoGoesBackBehindACorrection)
     EXPECT_EQ(field.stringValue(), Text(""));
     for (int turn = 0; turn < 5; ++turn)
         QTest::keyClick(&widget, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(field.stringValue(), toText(widget.text()));
-    EXPECT_FALSE(widget.text().contains(';'));
+    EXPECT_EQ(widget.text(), "Onepasted");
+    EXPECT_EQ(field.stringValue(), Text("Onepasted"));
 }
 
 TEST_F(TextFieldTest, ACompositionIsLeftAloneUntilItEnds)
@@ -103,6 +103,7 @@ TEST_F(TextFieldTest, ACompositionOverASelectionThatEndsWithNothingIsReported)
     QTest::keyClicks(&widget, "Radio");
     widget.selectAll();
     compose("x");
+    QApplication::processEvents();
     compose("");
     QApplication::processEvents();
     EXPECT_EQ(widget.text(), "");
@@ -114,7 +115,9 @@ TEST_F(TextFieldTest, ATextOfTheProgramEndsACompositionAndIsNotReported)
     compose("half a wo");
     reports = 0;
     field.setStringValue("Given");
+    const QImage shown = widget.grab().toImage();
     compose("");
+    EXPECT_EQ(widget.grab().toImage(), shown) << "what was composed is still seen";
     QApplication::processEvents();
     EXPECT_EQ(widget.displayText(), "Given");
     EXPECT_EQ(reports, 0);

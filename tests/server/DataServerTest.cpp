@@ -72,25 +72,19 @@ TEST_F(DataServerTest, TheStarterListArrivesAsThePlayerReadsIt)
     EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
 }
 
-TEST_F(DataServerTest, TheVersionAnswerHasItsEightValuesInTheirPlaces)
+TEST_F(DataServerTest, TheVersionAnswerArrivesAsThePlayerReadsIt)
 {
     start(settings());
     const auto answer =
         client_->Post("/app_data_files/testpost.php", "file=sonavel.ini", "application/x-www-form-urlencoded");
     ASSERT_TRUE(answer);
-    std::vector<std::string> values;
-    for (std::string_view rest = answer->body; !rest.empty();) {
-        const std::string_view line = rest.substr(0, rest.find('\r'));
-        rest.remove_prefix(line.size() + 1);
-        values.emplace_back(line.substr(line.find(';') + 1));
-    }
-    ASSERT_EQ(values.size(), 8U);
-    EXPECT_EQ(values[0], "Sonavel");
-    EXPECT_EQ(values[1], "3.4.5");
-    EXPECT_EQ(values[2], "12");
-    EXPECT_EQ(values[4], server_->baseAddress().view());
-    EXPECT_TRUE(momentFromInternationalForm(values[6]));
-    EXPECT_TRUE(momentFromInternationalForm(values[7]));
+    const auto record = serverVersionRecord(answer->body);
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->AppName, "Sonavel");
+    EXPECT_EQ(versionText(*record), "3.4.5 (12)");
+    EXPECT_EQ(record->LinkPage, server_->baseAddress());
+    EXPECT_TRUE(momentFromInternationalForm(record->updateApp));
+    EXPECT_TRUE(momentFromInternationalForm(record->updateData));
 }
 
 TEST_F(DataServerTest, TheStatedVersionIsAnsweredUnlessTheAnswerItselfIsPublished)

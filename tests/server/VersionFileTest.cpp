@@ -31,23 +31,13 @@ protected:
     std::string whyNot_;
 };
 
-TEST_F(VersionFileTest, AChangeCountsAtOnce)
+TEST_F(VersionFileTest, AChangeCountsAtOnceAndAnUnusableFileLeavesTheLastGoodVersionAndIsReportedOnce)
 {
     const auto file = create();
     ASSERT_NE(file, nullptr) << whyNot_;
     EXPECT_EQ(file->current().version, "0.1.0");
-    for (const char* version : {"1.3.0", "1.4.0"}) {
-        folder_.put(name, stating(version));
-        EXPECT_EQ(file->current().version, version);
-    }
-    EXPECT_TRUE(reports_.empty());
-}
-
-TEST_F(VersionFileTest, AFileThatBecomesUnusableLeavesTheLastGoodVersionAndIsReportedOnce)
-{
     folder_.put(name, stating("1.3.0"));
-    const auto file = create();
-    ASSERT_NE(file, nullptr) << whyNot_;
+    EXPECT_EQ(file->current().version, "1.3.0");
 
     folder_.put(name, stating("2;0"));
     for (int request = 0; request < 3; ++request)

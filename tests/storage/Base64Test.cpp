@@ -40,23 +40,10 @@ TEST(Base64, LinesEndWhereTheirLengthIsReached)
 
 TEST(Base64, OddInputIsDecodedAsFarAsItIsBase64)
 {
-    const std::pair<const char*, const char*> cases[] = {
-        {"TWFu", "Man"},
-        {"TW\nFu", "Man"},
-        {" T\r\nW-F_u\tTWFu\n", "ManMan"},
-        {"TWE=", "Ma"},
-        {"TQ==", "M"},
-        {"TQ=", "M"},
-        {"TWFu=TWFu", "Man"},
-        {"=TWFu", ""},
-        {"TWFuT=", "Man"},
-        {"TWFuTWE", "Man"},
-        {"TWFuT", "Man"},
-        {"TWFu\xC3\xBC", ""},
-        {"TWFuTWFu\x80TWFu", ""},
-        {"TWFu=\xC3\xBC", ""},
-        {"\x7F\x01TWFu", "Man"},
-    };
+    const std::pair<const char*, const char*> cases[] = {{"TWFu", "Man"}, {"TW\nFu", "Man"},
+        {" T\r\nW-F_u\tTWFu\n", "ManMan"}, {"TWE=", "Ma"}, {"TQ==", "M"}, {"TQ=", "M"}, {"TWFu=TWFu", "Man"},
+        {"=TWFu", ""}, {"TWFuT=", "Man"}, {"TWFuTWE", "Man"}, {"TWFuT", "Man"}, {"TWFu\xC3\xBC", ""},
+        {"TWFuTWFu\x80TWFu", ""}, {"TWFu=\xC3\xBC", ""}, {"\x7F\x01TWFu", "Man"}};
     for (const auto& [text, bytes] : cases)
         EXPECT_EQ(base64Decoded(text), bytes) << text;
 }

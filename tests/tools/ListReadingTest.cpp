@@ -10,15 +10,9 @@
 namespace sonavel {
 namespace {
 
-using test::Lines;
 using test::placesOf;
 using test::stationsOf;
-
-struct Case {
-    std::string bytes;
-    Lines stations;
-    std::string findings = {};
-};
+using Case = test::ReadListCase;
 
 void expectReads(const std::vector<Case>& cases, ListFormat format)
 {
@@ -33,7 +27,7 @@ void expectReads(const std::vector<Case>& cases, ListFormat format)
     }
 }
 
-TEST(ListReading, AListTextIsReadAsThePlayerDoesAndWhatThatCostsIsTold)
+TEST(ListReading, AListTextIsReadAsThePlayerDoesWhateverWroteItAndWhatThatCostsIsTold)
 {
     expectReads(
         {
@@ -44,14 +38,7 @@ TEST(ListReading, AListTextIsReadAsThePlayerDoesAndWhatThatCostsIsTold)
             {"A;a\r\r-;x\rlink;x\r;x\rno separator\rradio;link\r", {"A=a"}, "2 3! 4! 5! 6! 7!"},
             {"A;a;more\rB;b;\rC;\r", {"A=a", "B=b", "C="}, "1! 2!"},
             {"A;a\rB\nC;b\r\nD;c\r", {"A=a", "B\nC=b", "\nD=c"}},
-        },
-        ListFormat::Csv);
-}
-
-TEST(ListReading, AListTextThatAnotherProgramWroteIsReadAsItWasMeant)
-{
-    expectReads(
-        {
+            // Of other programs, read as they were meant.
             {"\xEF\xBB\xBFradio;link\rA;a\r", {"A=a"}, "*"},
             {"radio;link\nA;a\nB;b\n", {"A=a", "B=b"}, "*"},
             {"radio;link\r\nA;a\r\nB;b\r\n", {"A=a", "B=b"}, "*"},
@@ -101,20 +88,13 @@ TEST(ListReading, ADatabaseIsReadExactlyAsThePlayerReadsIt)
 
 TEST(ListReading, TheContentTellsWhatNoExtensionDoes)
 {
-    const std::vector<std::pair<std::string, ListFormat>> cases{
-        {"", ListFormat::Csv},
-        {"radio;link\rA;http://a/\r", ListFormat::Csv},
-        {"#1 Hits;http://a/\r", ListFormat::Csv},
-        {"{Braces};http://a/\r", ListFormat::Csv},
-        {"yCHhQV+4mfw55E8WfFF64Q==", ListFormat::Rdb},
-        {"yCHhQV+4mfw5\r\n5E8WfFF64Q==\r\n", ListFormat::Rdb},
-        {"\xEF\xBB\xBF { \"a\": \"A\" }", ListFormat::Json},
-        {"{}", ListFormat::Json},
-        {"\xEF\xBB\xBF#extm3u\r\n", ListFormat::M3u},
+    const std::vector<std::pair<std::string, ListFormat>> cases{{"", ListFormat::Csv},
+        {"radio;link\rA;http://a/\r", ListFormat::Csv}, {"#1 Hits;http://a/\r", ListFormat::Csv},
+        {"{Braces};http://a/\r", ListFormat::Csv}, {"yCHhQV+4mfw55E8WfFF64Q==", ListFormat::Rdb},
+        {"yCHhQV+4mfw5\r\n5E8WfFF64Q==\r\n", ListFormat::Rdb}, {"\xEF\xBB\xBF { \"a\": \"A\" }", ListFormat::Json},
+        {"{}", ListFormat::Json}, {"\xEF\xBB\xBF#extm3u\r\n", ListFormat::M3u},
         {"# a comment\n\nhttp://a.example/;\n", ListFormat::M3u},
-        {"#EXTINF:-1,A;B\nhttp://a.example/\n", ListFormat::M3u},
-        {"\n[Playlist]\n", ListFormat::Pls},
-    };
+        {"#EXTINF:-1,A;B\nhttp://a.example/\n", ListFormat::M3u}, {"\n[Playlist]\n", ListFormat::Pls}};
     for (const auto& [bytes, format] : cases)
         EXPECT_EQ(formatOfContent(bytes), format) << bytes;
     EXPECT_EQ(formatOfPath("/a.csv/list.M3U8"), ListFormat::M3u);

@@ -7,15 +7,9 @@
 namespace sonavel {
 namespace {
 
-using test::Lines;
 using test::placesOf;
 using test::stationsOf;
-
-struct Case {
-    std::string text;
-    Lines stations;
-    std::string findings = {};
-};
+using Case = test::ReadListCase;
 
 TEST(PlaylistText, AnM3uOfAnyMakeGivesItsStations)
 {
@@ -46,9 +40,9 @@ TEST(PlaylistText, AnM3uOfAnyMakeGivesItsStations)
             "2!"},
     };
     for (const Case& row : cases) {
-        const ReadList list = readM3u(row.text);
-        EXPECT_EQ(stationsOf(list), row.stations) << row.text;
-        EXPECT_EQ(placesOf(list.findings), row.findings) << row.text;
+        const ReadList list = readM3u(row.bytes);
+        EXPECT_EQ(stationsOf(list), row.stations) << row.bytes;
+        EXPECT_EQ(placesOf(list.findings), row.findings) << row.bytes;
     }
 }
 
@@ -74,9 +68,9 @@ TEST(PlaylistText, APlsGivesItsStationsInTheOrderOfTheirNumbers)
             {"b.example=http://b.example/", "a.example=http://a.example/"}},
     };
     for (const Case& row : cases) {
-        const ReadList list = readPls(row.text);
-        EXPECT_EQ(stationsOf(list), row.stations) << row.text;
-        EXPECT_EQ(placesOf(list.findings), row.findings) << row.text;
+        const ReadList list = readPls(row.bytes);
+        EXPECT_EQ(stationsOf(list), row.stations) << row.bytes;
+        EXPECT_EQ(placesOf(list.findings), row.findings) << row.bytes;
     }
 }
 

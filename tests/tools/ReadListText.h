@@ -11,6 +11,13 @@ namespace sonavel::test {
 
 using Lines = std::vector<std::string>;
 
+/// What a file holds, and what is to be found in it.
+struct ReadListCase {
+    std::string bytes;
+    Lines stations;
+    std::string findings = {};
+};
+
 /// "name=address" for each station.
 inline Lines stationsOf(const ReadList& list)
 {
