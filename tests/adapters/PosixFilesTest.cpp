@@ -331,7 +331,10 @@ TEST_F(PosixFilesTest, MissingFoldersAreMadeForTheOwnerAlone)
     folder.put("file", "");
     EXPECT_FALSE(files.makeFolder(folder.path("file")));
     EXPECT_FALSE(files.makeFolder(folder.path("file/below")));
-    EXPECT_EQ(told, (std::vector<std::string>{"file: Not a directory", "below: Not a directory"}));
+    calls.fail(2);
+    EXPECT_FALSE(files.makeFolder(folder.path("missing/inner")));
+    EXPECT_EQ(told,
+        (std::vector<std::string>{"file: Not a directory", "below: Not a directory", "inner: Input/output error"}));
 }
 
 TEST_F(PosixFilesTest, AMoveTakesNoOthersName)

@@ -69,12 +69,14 @@ TEST(PropertyList, ValuesOfAllTypesAppearInTheirTextForm)
 TEST(PropertyList, TheBinaryFormIsReadToo)
 {
     const auto domain = domainFromPropertyList(binary({container(0xD0, {1, 3, 5, 7, 9, 11, 13, 2, 4, 6, 8, 10, 12, 14}),
-        "\x51k", "\x61\x26\x3A", "\x51l", "\x09", "\x51m", "\x13" + bigEndian(~std::uint64_t{0}, 8), "\x51n",
+        "\x5F\x10\x11"
+        "lastUpdateAppChec",
+        "\x6F\x11\0\1\x26\x3A"s, "\x51l", "\x09", "\x51m", "\x13" + bigEndian(~std::uint64_t{0}, 8), "\x51n",
         "\x14" + bigEndian(0, 8) + bigEndian(~std::uint64_t{0}, 8), "\x51o", "\x33\x41\xBD\x9F\x34\0\0\0\0"s, "\x51p",
         "\x23\x3F\xE0\0\0\0\0\0\0"s, "\x51q", container(0xA0, {1, 1})}));
     ASSERT_TRUE(domain);
     EXPECT_EQ(*domain,
-        (PreferenceDomain{{"k", "☺"}, {"l", "YES"}, {"m", "-1"}, {"n", "18446744073709551615"},
+        (PreferenceDomain{{"lastUpdateAppChec", "☺"}, {"l", "YES"}, {"m", "-1"}, {"n", "18446744073709551615"},
             {"o", "2016-10-01 00:00:00 +0000"}, {"p", "0.5"}}));
 }
 

@@ -194,11 +194,14 @@ TEST(ButtonBinding, LooksFollowTheProgramWithoutAClick)
     new ButtonBinder(button, widget);
     EXPECT_EQ(button.state().image, Text("play.png"));
     EXPECT_FALSE(widget.icon().isNull());
+    const QString hint = widget.toolTip();
+    EXPECT_FALSE(hint.isEmpty());
     int presses = 0;
     button.action.set([&] { ++presses; });
 
     button.setImage("pause.png");
     EXPECT_EQ(widget.text(), "Pause");
+    EXPECT_NE(widget.toolTip(), hint);
     button.setEnabled(false);
     widget.click();
     EXPECT_EQ(presses, 0);
