@@ -40,7 +40,6 @@ int QtAlerts::runModal(const Alert& alert)
     box.setIconPixmap(programIcon().pixmap(box.fontMetrics().height() * 3));
     box.setTextFormat(Qt::PlainText);
     box.setText(toQString(alert.messageText));
-    box.setWindowModality(Qt::ApplicationModal);
     addButtons(box, alert.buttonTitles);
     box.exec();
     const QAbstractButton* pressed = box.clickedButton();
