@@ -5,10 +5,10 @@
 #include "adapters/PosixFiles.h"
 #include "model/StationList.h"
 #include "model/StationListText.h"
-#include "storage/AESCrypt.h"
 #include "storage/Cipher.h"
 #include "storage/Passphrase.h"
 #include "storage/StationDatabase.h"
+#include "storage/StationListCodec.h"
 
 #include <openssl/evp.h>
 
@@ -80,7 +80,7 @@ class Limit {
 public:
     explicit Limit(const StationList& list)
         : plain_(listTextFromRecords(*list.listRadio, Heading::None))
-        , base64_(AES256EncryptWithKey(Text(plain_), stationDatabasePassphrase).string())
+        , base64_(encodeStationList(plain_).string())
         , buffer_(base64_.size() + 64, '\0')
         , output_(base64_.size() + 64, '\0')
         , key_(cipherKeyFromText(stationDatabasePassphrase))
@@ -156,10 +156,7 @@ void writing(benchmark::State& state)
     Limit limit(list);
     measureAgainst(
         state, [&] { return limit.encryptAndEncode(); },
-        [&] {
-            Bytes text{listTextFromRecords(*list.listRadio, Heading::None)};
-            return base64Encoding(*AES256EncryptWithKey(std::move(text), stationDatabasePassphrase));
-        });
+        [&] { return encodeStationList(listTextFromRecords(*list.listRadio, Heading::None)); });
 }
 
 BENCHMARK_CAPTURE(loading, sorted, FileOrder::Sorted)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(101);

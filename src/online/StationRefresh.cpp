@@ -8,9 +8,8 @@
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "prefs/Preferences.h"
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
 #include "storage/StationDatabase.h"
+#include "storage/StationListCodec.h"
 
 #include <string_view>
 #include <utility>
@@ -63,10 +62,7 @@ Text StationRefresh::downloadedListText() const
 {
     HttpRequest request;
     request.address = percentEscaped(dataServer_.string().append(listResource));
-    auto body = httpClient_.sendSynchronousRequest(request);
-    if (!body || !isValidUtf8(*body))
-        return {};
-    return AES256DecryptWithKey(Text(std::move(*body)), stationDatabasePassphrase);
+    return decodeStationList(httpClient_.sendSynchronousRequest(request));
 }
 
 } // namespace sonavel

@@ -8,8 +8,7 @@
 #include "server/PublishedFiles.h"
 #include "server/Stations.h"
 #include "server/VersionFile.h"
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 
 #include <atomic>
 #include <chrono>
@@ -31,8 +30,7 @@ constexpr const char* page = "<!DOCTYPE html>\n<html lang=\"en\">\n<title>Sonave
 
 std::string encryptedList(const StationRecords& stations)
 {
-    const Text text = listTextFromRecords(stations, Heading::FieldNames);
-    return AES256EncryptWithKey(text, stationDatabasePassphrase).string();
+    return encodeStationList(listTextFromRecords(stations, Heading::FieldNames)).string();
 }
 
 StationRecords starterRecords()

@@ -2,25 +2,11 @@
 
 #include "model/StationList.h"
 #include "model/StationListText.h"
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
 #include "storage/PlainListFile.h"
 #include "storage/RescueCopies.h"
-
-#include <optional>
-#include <string>
+#include "storage/StationListCodec.h"
 
 namespace sonavel {
-
-namespace {
-
-/// Content that is not UTF-8 needs no look of its own: no character outside ASCII decodes.
-Text databaseText(std::optional<std::string> content)
-{
-    return content ? AES256DecryptWithKey(Text(std::move(*content)), stationDatabasePassphrase) : Text();
-}
-
-} // namespace
 
 StationDatabase::StationDatabase(Files& files, const StationList& list)
     : files_(files)
@@ -41,7 +27,7 @@ Text StationDatabase::fileRadioDBreadCypted(bool crypted)
     if (!crypted)
         return listTextOfPlainFile(files_, legacyPath_);
     files_.removeUnfinishedWrite(databasePath_);
-    Text text = databaseText(files_.contentsOfFile(databasePath_));
+    Text text = decodeStationList(files_.contentsOfFile(databasePath_));
     databaseMayBeReplaced_ = !text.isAbsent();
     return text;
 }
@@ -67,9 +53,8 @@ bool StationDatabase::writeList()
 {
     if (list_.listRadio == nullptr || !files_.makeFolder(folder_) || !keepUnreadDatabase())
         return false;
-    const auto bytes =
-        AES256EncryptWithKey(Bytes{listTextFromRecords(*list_.listRadio, Heading::None)}, stationDatabasePassphrase);
-    if (!bytes || !files_.writeAtomically(databasePath_, base64Encoding(*bytes).view()))
+    const Text content = encodeStationList(listTextFromRecords(*list_.listRadio, Heading::None));
+    if (content.isAbsent() || !files_.writeAtomically(databasePath_, content.view()))
         return false;
     databaseMayBeReplaced_ = true;
     return true;
@@ -79,7 +64,7 @@ bool StationDatabase::keepUnreadDatabase()
 {
     if (databaseMayBeReplaced_ || !fileRadioDBVerify(false))
         return true;
-    const bool isReadable = !databaseText(files_.contentsOfFile(databasePath_)).isAbsent();
+    const bool isReadable = !decodeStationList(files_.contentsOfFile(databasePath_)).isAbsent();
     databaseMayBeReplaced_ = isReadable ? !keepBeforeImport().isAbsent() : keepDamaged(files_, databasePath_);
     return databaseMayBeReplaced_;
 }

@@ -1,7 +1,6 @@
 #include "tools/ListReading.h"
 
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 #include "tools/JsonList.h"
 #include "tools/ListText.h"
 #include "tools/PlaylistText.h"
@@ -14,7 +13,7 @@ std::optional<ReadList> readList(std::string bytes, ListFormat format)
     case ListFormat::Csv:
         return readForeignListText(std::move(bytes));
     case ListFormat::Rdb: {
-        const Text text = AES256DecryptWithKey(Text(std::move(bytes)), stationDatabasePassphrase);
+        const Text text = decodeStationList(std::move(bytes));
         return text.isAbsent() ? std::nullopt : std::optional(readListText(text));
     }
     case ListFormat::Json:

@@ -2,8 +2,7 @@
 
 #include "model/StationList.h"
 #include "model/StationListText.h"
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 
 #include <unordered_set>
 
@@ -33,7 +32,7 @@ std::optional<std::string> writtenList(const StationRecords& stations, ListForma
     case ListFormat::Csv:
         return listTextFromRecords(stations, Heading::FieldNames);
     case ListFormat::Rdb:
-        return contentOf(AES256EncryptWithKey(listTextFromRecords(stations, Heading::None), stationDatabasePassphrase));
+        return contentOf(encodeStationList(listTextFromRecords(stations, Heading::None)));
     case ListFormat::Json:
         return jsonOf(stations);
     case ListFormat::M3u:

@@ -68,7 +68,7 @@ TEST_F(StationImportTest, YesReplacesTheListAndKeepsTheFormerOne)
     EXPECT_EQ(list(), "C;http://c/\r");
     EXPECT_EQ(controller.stationList.listRadio->front()->idRadio(), 1U);
     const std::string copy = platform.files.files.at(platform.files.inPreferences("radiolist.before-import.rdb"));
-    EXPECT_EQ(AES256DecryptWithKey(Text(copy), stationDatabasePassphrase), "A;http://a/\rB;http://b/\r");
+    EXPECT_EQ(decodeStationList(copy), "A;http://a/\rB;http://b/\r");
     EXPECT_EQ(status(), "<STATUS_IMPORTED> Kept: radiolist.before-import.rdb.");
 }
 

@@ -10,8 +10,7 @@
 #include "playback/StreamAddress.h"
 #include "server/ConnectionThreads.h"
 #include "server/Stations.h"
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 #include "support/ServerHost.h"
 #include "support/TemporaryFolder.h"
 
@@ -57,8 +56,7 @@ protected:
 TEST_F(DataServerTest, TheStarterListArrivesAsThePlayerReadsIt)
 {
     start(settings());
-    const Text body(get("?file=20161001000000_lr.rdb"));
-    const StationRecords records = recordsFromListText(AES256DecryptWithKey(body, stationDatabasePassphrase));
+    const StationRecords records = recordsFromListText(decodeStationList(get("?file=20161001000000_lr.rdb")));
     ASSERT_EQ(records.size(), starterStations().size());
     EXPECT_GE(records.size(), 25U);
     std::vector<std::string_view> names;
@@ -130,8 +128,7 @@ TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)
         {Case{"radio.example.org:8080", "http://radio.example.org:8080/"}, {"[::1]:80", "http://[::1]:80/"}, {"", own},
             {"a;b", own}, {"a/b", own}, {"user@host", own}, {"a b", own}, {std::string(256, 'a'), own}}) {
         client_->set_default_headers({{"Host", each.host}});
-        const Text list = AES256DecryptWithKey(Text(get("?file=20161001000000_lr.rdb")), stationDatabasePassphrase);
-        const StationRecords records = recordsFromListText(list);
+        const StationRecords records = recordsFromListText(decodeStationList(get("?file=20161001000000_lr.rdb")));
         ASSERT_EQ(records.size(), 3U) << each.host;
         for (std::size_t i = 0; i < records.size(); ++i)
             EXPECT_EQ(records[i]->link(), Text(each.expected + (demoStations()[i].path + 1))) << each.host;

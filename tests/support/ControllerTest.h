@@ -5,8 +5,7 @@
 #include "app/Gate.h"
 #include "app/WinSonavelController.h"
 #include "model/KVStationWebRadio.h"
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 #include "support/MemoryPlatform.h"
 #include "ui/Outlets.h"
 
@@ -81,19 +80,21 @@ protected:
 
     void putDatabase(const Text& listText)
     {
-        platform.files.files[platform.files.inPreferences("radiolist.rdb")] = encrypted(listText);
+        platform.files.files[platform.files.inPreferences("radiolist.rdb")] =
+            encodeStationList(listText.string()).string();
     }
 
     /// The plain list text on disk; absent when there is none that can be decrypted.
     [[nodiscard]] Text database() const
     {
         const auto found = platform.files.files.find(platform.files.inPreferences("radiolist.rdb"));
-        return found == platform.files.files.end()
-            ? Text()
-            : AES256DecryptWithKey(Text(found->second), stationDatabasePassphrase);
+        return found == platform.files.files.end() ? Text() : decodeStationList(found->second);
     }
 
-    void publishOnline(const Text& listText) { platform.httpClient.answers[onlineListAddress] = encrypted(listText); }
+    void publishOnline(const Text& listText)
+    {
+        platform.httpClient.answers[onlineListAddress] = encodeStationList(listText.string()).string();
+    }
 
     /// Keys that are not given are missing, but for a check for a newer version earlier on the same day.
     void putPreferences(PreferenceDomain domain)
@@ -125,12 +126,6 @@ protected:
         } catch (const ThrowingProcess::Ended& ended) {
             return ended.status;
         }
-    }
-
-private:
-    static std::string encrypted(const Text& text)
-    {
-        return AES256EncryptWithKey(text, stationDatabasePassphrase).string();
     }
 };
 

@@ -1,7 +1,6 @@
 #include "tools/ListReading.h"
 
-#include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 #include "tools/ListCheck.h"
 #include "tools/ReadListText.h"
 
@@ -77,9 +76,7 @@ TEST(ListReading, WhatIsNotOfAFormatIsNoEmptyList)
 
 TEST(ListReading, ADatabaseIsReadExactlyAsThePlayerReadsIt)
 {
-    const auto encrypted = [](const char* text) {
-        return AES256EncryptWithKey(Text(text), stationDatabasePassphrase).string();
-    };
+    const auto encrypted = [](const char* text) { return encodeStationList(text).string(); };
     expectReads(
         {{"yCHhQV+4mfw55E8WfFF64Q==\n", {"Alpha=a", "Beta=b"}}, {encrypted(""), {}},
             {encrypted("radio;link\rA;a\r\nB;b\r"), {"A=a", "\nB=b"}}, {encrypted("A;a\nB;b\n"), {"A=a\nB"}, "1!"}},
