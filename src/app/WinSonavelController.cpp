@@ -3,6 +3,7 @@
 #include "platform/Alerts.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Process.h"
+#include "platform/Questions.h"
 #include "platform/RunLoop.h"
 #include "prefs/PlaceholderKeys.h"
 #include "ui/Outlets.h"
@@ -98,11 +99,8 @@ void WinSonavelController::prepareDefaultStation()
 void WinSonavelController::quitApp()
 {
     const auto& strings = ports_.localizedStrings;
-    Alert question;
-    question.buttonTitles = {strings.localizedStringForKey("BUTTON_YES"), strings.localizedStringForKey("BUTTON_NO")};
     preferences.updatePreference();
-    question.messageText = strings.localizedStringForKey("ALLERT_TEXT_MESSAGE_QUIT");
-    if (alerts.runModal(question) == firstButtonAnswer)
+    if (isAnsweredYes(alerts, strings, strings.localizedStringForKey("ALLERT_TEXT_MESSAGE_QUIT")))
         ports_.process.exit(0);
     outlets_.winSonavel.setIsVisible(true);
 }

@@ -13,6 +13,11 @@ char lowerCase(char character)
 
 } // namespace
 
+bool isAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char character) { return isAscii(character); });
+}
+
 std::string_view withoutOuterBlanks(std::string_view text)
 {
     constexpr std::string_view blanks = " \t\r\n";

@@ -1,9 +1,21 @@
-// Blanks and letters of ASCII, whatever else a text holds.
+// Blanks, letters and controls of ASCII, whatever else a text holds.
 #pragma once
 
 #include <string_view>
 
 namespace sonavel {
+
+[[nodiscard]] inline bool isAscii(char character)
+{
+    return static_cast<unsigned char>(character) < 0x80;
+}
+[[nodiscard]] bool isAscii(std::string_view text);
+
+/// Whether it is one of the 33 control characters of ASCII.
+[[nodiscard]] inline bool isAsciiControl(char character)
+{
+    return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
+}
 
 /// Without blanks, tabs and line ends around.
 [[nodiscard]] std::string_view withoutOuterBlanks(std::string_view text);

@@ -6,6 +6,7 @@
 #include "platform/Alerts.h"
 #include "platform/FilePanels.h"
 #include "platform/LocalizedStrings.h"
+#include "platform/Questions.h"
 #include "playback/StationSelection.h"
 #include "prefs/PreferenceFields.h"
 #include "storage/PlainListFile.h"
@@ -98,10 +99,8 @@ void StationImport::importRadioListFromFileAtPath(const Text& path)
 
 bool StationImport::isToReplaceList() const
 {
-    const auto& strings = localizedStrings_;
-    const Alert question{strings.localizedStringForKey("ERASE_ALL_PREVIOUS_DATA"),
-        {strings.localizedStringForKey("BUTTON_YES"), strings.localizedStringForKey("BUTTON_NO")}};
-    return alerts_.runModal(question) == firstButtonAnswer;
+    return isAnsweredYes(
+        alerts_, localizedStrings_, localizedStrings_.localizedStringForKey("ERASE_ALL_PREVIOUS_DATA"));
 }
 
 /// What is shown follows the list line by line, but nobody sees it before the first notice or the end: it is brought

@@ -2,8 +2,8 @@
 
 #include "editor/EditorWindow.h"
 #include "model/StationList.h"
-#include "platform/Alerts.h"
 #include "platform/LocalizedStrings.h"
+#include "platform/Questions.h"
 #include "playback/Player.h"
 #include "playback/StationSelection.h"
 #include "storage/StationDatabase.h"
@@ -53,10 +53,7 @@ void StationRemoval::radioRemoveToList()
 {
     if (outlets_.tableViewListRadio.numberOfSelectedRows() > 0) {
         const bool isChosen = isSelectedStationChosen();
-        const auto& strings = localizedStrings_;
-        const Alert alert{question(isChosen),
-            {strings.localizedStringForKey("BUTTON_YES"), strings.localizedStringForKey("BUTTON_NO")}};
-        if (alerts_.runModal(alert) == firstButtonAnswer)
+        if (isAnsweredYes(alerts_, localizedStrings_, question(isChosen)))
             removeSelected(isChosen);
     }
     editorWindow_.updateTitleWebRadioListEdit();

@@ -1,5 +1,7 @@
 #include "engine/Protocol.h"
 
+#include "base/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -62,9 +64,9 @@ auto valueOf(const Words& words, std::string_view word) -> std::optional<decltyp
 /// Whether a text is the last argument of its line, so that it may hold blanks.
 enum class Place { Last, Before };
 
-bool needsEscape(unsigned char byte, Place place)
+bool needsEscape(char character, Place place)
 {
-    return byte < 0x20 || byte == 0x7F || byte == '%' || (byte == ' ' && place == Place::Before);
+    return isAsciiControl(character) || character == '%' || (character == ' ' && place == Place::Before);
 }
 
 std::string escaped(std::string_view text, Place place)
@@ -73,7 +75,7 @@ std::string escaped(std::string_view text, Place place)
     std::string result;
     for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
-        if (needsEscape(byte, place))
+        if (needsEscape(character, place))
             result.append({'%', digits[byte >> 4U], digits[byte & 0xFU]});
         else
             result += character;

@@ -1,5 +1,6 @@
 #include "online/VersionRecord.h"
 
+#include "base/Ascii.h"
 #include "base/Numbers.h"
 #include "platform/Bundle.h"
 
@@ -34,12 +35,6 @@ void setVersion(VersionRecord& record, const Text& version)
     const std::array parts{&record.MajorVersion, &record.MinorVersion, &record.BugVersion};
     for (std::size_t index = 0; index < std::min(pieces.size(), parts.size()); ++index)
         *parts[index] = version.slice(pieces[index]);
-}
-
-bool isAscii(std::string_view bytes)
-{
-    return std::all_of(
-        bytes.begin(), bytes.end(), [](char character) { return static_cast<unsigned char>(character) < 0x80; });
 }
 
 /// The second fields of the lines that have one, at most as many as are used.

@@ -11,12 +11,6 @@ namespace {
 
 constexpr std::string_view schemeEnding = "://";
 
-bool isControl(char character)
-{
-    const auto byte = static_cast<unsigned char>(character);
-    return byte < 0x20 || byte == 0x7F;
-}
-
 bool isUsableScheme(std::string_view scheme)
 {
     constexpr std::array<std::string_view, 5> usable{"http", "https", "rtsp", "rtmp", "mms"};
@@ -86,7 +80,7 @@ Text usableStreamAddress(const Text& link)
 {
     const std::string_view address = withoutOuterBlanks(link.view());
     if (address.size() > longestStreamAddress || !isUsable(address)
-        || std::any_of(address.begin(), address.end(), isControl) || !isValidUtf8(address))
+        || std::any_of(address.begin(), address.end(), isAsciiControl) || !isValidUtf8(address))
         return {};
     return link.slice(address);
 }

@@ -1,5 +1,6 @@
 #include "server/PublishedFiles.h"
 
+#include "base/Ascii.h"
 #include "server/PublishedFile.h"
 
 #include <algorithm>
@@ -15,10 +16,8 @@ constexpr std::size_t longestName = 255;
 bool isPlainName(std::string_view name)
 {
     return !name.empty() && name.size() <= longestName && name.front() != '.'
-        && std::none_of(name.begin(), name.end(), [](char character) {
-               const auto byte = static_cast<unsigned char>(character);
-               return byte < 0x20 || byte == 0x7F || byte == '/' || byte == '\\';
-           });
+        && std::none_of(name.begin(), name.end(),
+            [](char character) { return isAsciiControl(character) || character == '/' || character == '\\'; });
 }
 
 } // namespace

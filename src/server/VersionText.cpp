@@ -94,12 +94,11 @@ std::string namesOfKeys()
 std::string_view obstacleIn(std::string_view value)
 {
     for (const char character : value) {
-        const auto byte = static_cast<unsigned char>(character);
         if (character == ';')
             return "a \";\"";
-        if (byte < 0x20 || byte == 0x7F)
+        if (isAsciiControl(character))
             return "a control character";
-        if (byte > 0x7F)
+        if (!isAscii(character))
             return "a character outside ASCII";
     }
     return {};

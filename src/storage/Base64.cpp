@@ -1,5 +1,7 @@
 #include "storage/Base64.h"
 
+#include "base/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -79,12 +81,6 @@ char* decodeWholeGroups(std::string_view& text, char* out)
     return out;
 }
 
-bool isAscii(std::string_view text)
-{
-    return std::none_of(
-        text.begin(), text.end(), [](char character) { return static_cast<unsigned char>(character) >= 0x80; });
-}
-
 enum class GroupEnd { Full, Pad, EndOfText, NotAscii };
 
 struct Group {
@@ -100,7 +96,7 @@ Group takeGroup(std::string_view& text)
     while (!text.empty()) {
         const char character = text.front();
         text.remove_prefix(1);
-        if (static_cast<unsigned char>(character) >= 0x80)
+        if (!isAscii(character))
             return {0, 0, GroupEnd::NotAscii};
         if (character == '=')
             return {group.values, group.count, isAscii(text) ? GroupEnd::Pad : GroupEnd::NotAscii};

@@ -1,5 +1,6 @@
 #include "qt/windows/MainWindow.h"
 
+#include "qt/kit/Fonts.h"
 #include "qt/kit/Images.h"
 #include "qt/kit/Palettes.h"
 #include "qt/windows/ProgramMenus.h"
@@ -17,12 +18,6 @@ constexpr double largestHeadlineSize = 4.5;
 constexpr int linesPerHeadlineSize = 8; // added to the window's height enlarge the headline by once the usual size
 constexpr int usualWidth = 68; // characters
 constexpr int widestContent = 80; // lines of text
-
-QFont scaled(QFont font, double factor)
-{
-    font.setPointSizeF(font.pointSizeF() * factor);
-    return font;
-}
 
 } // namespace
 
@@ -56,7 +51,7 @@ void MainWindow::setUpProportions()
     description_->volume->setSpacing(line / 2);
     description_->displayRows->setContentsMargins(line * 3 / 4, line * 5 / 8, line * 3 / 4, line * 5 / 8);
 
-    description_->labelNowPlaying->setFont(scaled(font(), headlineSize));
+    description_->labelNowPlaying->setFont(scaledFont(font(), headlineSize));
     description_->labelNowPlaying->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     description_->buttonPlayPause->reserveRoomFor(
         {qtTrId("BUTTON_PLAY"), qtTrId("BUTTON_PAUSE")}, PrimaryButton::Picture::BesideWords);
@@ -79,7 +74,7 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 {
     const double added = double(height() - minimumHeight()) / (fontMetrics().height() * linesPerHeadlineSize);
     const double size = qBound(headlineSize, headlineSize + added, largestHeadlineSize);
-    description_->labelNowPlaying->setFont(scaled(font(), size));
+    description_->labelNowPlaying->setFont(scaledFont(font(), size));
     description_->labelNowPlaying->setAlignment(
         size > centeredHeadlineSize ? Qt::AlignCenter : Qt::AlignLeading | Qt::AlignVCenter);
     keepMargins();

@@ -1,5 +1,7 @@
 #include "qt/windows/ProgramDialog.h"
 
+#include "qt/kit/Fonts.h"
+
 #include <QBoxLayout>
 #include <QDialogButtonBox>
 #include <QEvent>
@@ -69,10 +71,8 @@ void ProgramDialog::takeProportions()
     for (auto* label : findChildren<QLabel*>()) {
         // The toolkit aligns a label by the direction of its text, whichever that of the window is.
         label->setAlignment(QStyle::visualAlignment(layoutDirection(), label->alignment()));
-        QFont font = label->font();
-        font.setPointSizeF(font.pointSizeF() * headlineSize);
         if (label->property("headline").toBool())
-            label->setFont(font);
+            label->setFont(scaledFont(label->font(), headlineSize));
     }
     for (auto* button : findChildren<QPushButton*>())
         button->setMinimumHeight(line * 2);

@@ -1,6 +1,7 @@
 #include "qt/windows/SplashScreen.h"
 
 #include "qt/kit/ElidedLabel.h"
+#include "qt/kit/Fonts.h"
 #include "qt/kit/Images.h"
 
 #include <QApplication>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int pictureSize = 64;
 constexpr int usualLength = 44; // characters
+constexpr double headlineSize = 1.6; // times the usual size of the font
 
 } // namespace
 
@@ -25,8 +27,7 @@ SplashScreen::SplashScreen()
     picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
     auto* name = new QLabel(qtTrId("WIN_SONAVEL"), this);
     name->setTextFormat(Qt::PlainText);
-    QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.6);
+    QFont large = scaledFont(font(), headlineSize);
     large.setBold(true);
     name->setFont(large);
 

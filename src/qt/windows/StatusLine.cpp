@@ -1,5 +1,6 @@
 #include "qt/windows/StatusLine.h"
 
+#include "qt/kit/Fonts.h"
 #include "qt/kit/Palettes.h"
 
 #include <QEvent>
@@ -14,18 +15,12 @@ namespace {
 constexpr std::chrono::seconds timeToReadText{20};
 constexpr double textSize = 0.9; // times the usual size of the font
 
-QFont scaled(QFont font, double factor)
-{
-    font.setPointSizeF(font.pointSizeF() * factor);
-    return font;
-}
-
 } // namespace
 
 StatusLine::StatusLine(QWidget* parent)
     : ElidedLabel(parent)
 {
-    setFont(scaled(font(), textSize));
+    setFont(scaledFont(font(), textSize));
     for (Message* message : {&usual_, &failure_}) {
         message->time = new QTimer(this);
         message->time->setInterval(timeToReadText);
