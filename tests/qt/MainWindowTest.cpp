@@ -208,8 +208,10 @@ TEST(SplashScreen, StandsInTheMiddleOfTheScreenAndSaysWhatItWaitsFor)
     EXPECT_EQ(line->text(), longName);
     EXPECT_GE(line->width(), line->fontMetrics().horizontalAdvance(longName));
     QStringList texts;
-    for (const QLabel* label : splash.findChildren<QLabel*>())
+    for (const QLabel* label : splash.findChildren<QLabel*>()) {
         texts << (label->pixmap().isNull() ? label->text() : "picture");
+        EXPECT_EQ(label->font().pointSizeF() > splash.font().pointSizeF(), label->text() == "Sonavel");
+    }
     EXPECT_TRUE(texts.contains("picture") && texts.contains("Sonavel")) << texts.join(' ').toStdString();
 }
 

@@ -272,6 +272,14 @@ TEST_F(StationTableTest, NamesFromOutsideAreDrawnOnOneLineAndNotToTheirEnd)
     const auto shown = [&](int row) { return widget.model()->index(row, 0).data().toString(); };
     EXPECT_EQ(shown(0), " Rock & <b>Roll</b>");
     EXPECT_LT(shown(1).size(), 3'000);
+    rows.names.at(2) = Text("A station of many words");
+    rows.names.at(4) = Text("A\u00A0station\u00A0of\u00A0many\u00A0words");
+    table.reloadData();
+    widget.setColumnWidth(0, 80);
+    const auto looks = [&](int row) {
+        return widget.viewport()->grab(widget.visualRect(widget.model()->index(row, 0))).toImage();
+    };
+    EXPECT_EQ(looks(2), looks(4)) << "words are elided as letters are";
 }
 
 } // namespace

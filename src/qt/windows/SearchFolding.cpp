@@ -39,13 +39,11 @@ std::string fold(char32_t character)
     return withoutStrokes(kept.toCaseFolded()).toStdString();
 }
 
-/// Takes one character off the front; bytes that are no UTF-8 are replacement characters.
+/// Takes one character outside ASCII off the front; bytes that are no UTF-8 are replacement characters.
 char32_t takeCharacter(std::string_view& bytes)
 {
     const auto first = static_cast<unsigned char>(bytes.front());
     bytes.remove_prefix(1);
-    if (first < 0x80)
-        return first;
     const std::size_t following = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
     if (first < 0xC2 || first > 0xF4 || bytes.size() < following)
         return replacementCharacter;
