@@ -91,4 +91,13 @@ bool isValidUtf8(std::string_view bytes)
     return true;
 }
 
+std::string_view utf8Prefix(std::string_view text, std::size_t maxBytes)
+{
+    if (text.size() <= maxBytes)
+        return text;
+    while (maxBytes > 0 && isContinuation(static_cast<unsigned char>(text[maxBytes])))
+        --maxBytes;
+    return text.substr(0, maxBytes);
+}
+
 } // namespace sonavel

@@ -31,17 +31,10 @@ std::string withoutPasswords(std::string_view line)
 std::string inQuotes(std::string_view bytes)
 {
     constexpr std::size_t longest = 120;
-    const std::string whole = withoutPasswords(bytes);
-    std::string_view text = whole;
-    const bool isLong = text.size() > longest;
-    if (isLong) {
-        std::size_t end = longest;
-        while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
-            --end;
-        text = text.substr(0, end);
-    }
+    const std::string text = withoutPasswords(bytes);
+    const std::string_view shown = utf8Prefix(text, longest);
     std::string result = "\"";
-    return result.append(withoutControls(utf8FromForeign(text))).append(isLong ? "…\"" : "\"");
+    return result.append(withoutControls(utf8FromForeign(shown))).append(shown.size() < text.size() ? "…\"" : "\"");
 }
 
 Text nameFromAddress(const Text& address)

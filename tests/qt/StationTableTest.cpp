@@ -268,9 +268,13 @@ TEST_F(StationTableTest, AToolTipShowsNoPassword)
 TEST_F(StationTableTest, NamesFromOutsideAreDrawnOnOneLineAndNotToTheirEnd)
 {
     rows.names.at(0) = Text("\nRock & <b>Roll</b>");
-    rows.names.at(1) = Text(std::string(20'000'000, 'w'));
+    std::string umlauts = "x"; // a cut between two bytes would lie inside of one
+    for (int character = 0; character < 10'000'000; ++character)
+        umlauts += "ü";
+    rows.names.at(1) = Text(umlauts);
     const auto shown = [&](int row) { return widget.model()->index(row, 0).data().toString(); };
     EXPECT_EQ(shown(0), " Rock & <b>Roll</b>");
+    EXPECT_EQ(shown(1).right(2), "ü…");
     EXPECT_LT(shown(1).size(), 3'000);
     rows.names.at(2) = Text("A station of many words");
     rows.names.at(4) = Text("A\u00A0station\u00A0of\u00A0many\u00A0words");

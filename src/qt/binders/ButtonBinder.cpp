@@ -88,11 +88,8 @@ void ButtonBinder::renderColors(const ButtonState& state)
         widget_.setPalette({});
     }
     isRed_ = state.titleColor == TitleColor::Red;
-    if (!state.image.isAbsent()) {
-        const QPalette palette = widget_.palette();
-        widget_.setIcon(imageNamed(state.image, palette.color(QPalette::Active, QPalette::ButtonText),
-            palette.color(QPalette::Disabled, QPalette::ButtonText)));
-    }
+    if (!state.image.isAbsent())
+        widget_.setIcon(imageNamed(state.image, widget_.palette()));
     isRenderingColors_ = false;
 }
 

@@ -95,9 +95,7 @@ QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption* optio
 {
     if (picture != SP_ToolBarHorizontalExtensionButton || widget == nullptr)
         return QProxyStyle::standardIcon(picture, option, widget);
-    const QPalette palette = widget->palette();
-    return imageNamed("more.png", palette.color(QPalette::Active, QPalette::ButtonText),
-        palette.color(QPalette::Disabled, QPalette::ButtonText));
+    return imageNamed("more.png", widget->palette());
 }
 
 QSize HouseStyle::sizeFromContents(

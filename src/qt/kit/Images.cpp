@@ -112,6 +112,12 @@ QIcon imageNamed(const Text& name, const QColor& color, const QColor& disabledCo
     return QIcon(new TintedIconEngine(path.chopped(4), color, disabledColor));
 }
 
+QIcon imageNamed(const Text& name, const QPalette& palette)
+{
+    return imageNamed(name, palette.color(QPalette::Active, QPalette::ButtonText),
+        palette.color(QPalette::Disabled, QPalette::ButtonText));
+}
+
 QIcon programIcon()
 {
     QIcon icon;

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QPalette>
 
 namespace sonavel {
 
@@ -12,6 +13,8 @@ namespace sonavel {
 /// the shape alone, so that it suits light and dark palettes; it is drawn from the sharpest version that fits the
 /// screen.
 [[nodiscard]] QIcon imageNamed(const Text& name, const QColor& color, const QColor& disabledColor);
+/// In the colours that the palette has for the text of buttons.
+[[nodiscard]] QIcon imageNamed(const Text& name, const QPalette& palette);
 
 /// The program's own picture.
 [[nodiscard]] QIcon programIcon();

@@ -73,8 +73,7 @@ void StationListWindow::setUpIcons()
     for (QAction* tool : description_->toolBar->actions()) {
         const QVariant image = tool->property("imageName");
         if (image.isValid())
-            tool->setIcon(imageNamed(toText(image.toString()), palette().color(QPalette::Active, QPalette::ButtonText),
-                palette().color(QPalette::Disabled, QPalette::ButtonText)));
+            tool->setIcon(imageNamed(toText(image.toString()), palette()));
     }
 }
 

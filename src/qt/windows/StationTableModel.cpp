@@ -14,10 +14,9 @@ constexpr std::size_t mostBytesDrawn = 2'000;
 
 QString drawn(const Text& text)
 {
-    const std::string_view bytes = text.view();
-    if (bytes.size() <= mostBytesDrawn)
-        return onOneLine(toQString(text));
-    return onOneLine(toQString(text.slice(bytes.substr(0, mostBytesDrawn)))) + u'…';
+    const Text beginning = text.slice(utf8Prefix(text.view(), mostBytesDrawn));
+    const QString line = onOneLine(toQString(beginning));
+    return beginning.isSameObject(text) ? line : line + u'…';
 }
 
 } // namespace
