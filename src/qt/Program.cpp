@@ -40,7 +40,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -192,7 +191,7 @@ Program::Program(std::unique_ptr<Parts> parts)
     : parts_(std::move(parts))
 {
     parts_->terminationSignals = std::make_unique<TerminationSignals>([this] { endAsTheSessionDoes(); });
-    parts_->sessionEnd = std::make_unique<SessionEnd>([this] { endAsTheSessionDoes(); });
+    parts_->sessionEnd = std::make_unique<SessionEnd>([this] { keepWhatIsOpen(); }, [this] { endAsTheSessionDoes(); });
     parts_->httpClient.setSlowRequestObserver(
         [this](const HttpRequest& request) { showWaiting(QUrl(toQString(request.address)).host()); },
         [this] { parts_->splashScreen.reset(); });
@@ -227,9 +226,6 @@ void Program::joinDesktop()
     parts_->mediaPlayerBus = std::make_unique<MediaPlayerBus>(parts_->mediaControls);
     parts_->actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
     parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
-    // A session that ends tells so before it sends a signal, if at all.
-    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, parts_->mediaPlayerBus.get(),
-        [this] { parts_->controller.keepWhatIsOpen(); });
     if (parts_->instance)
         parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->mediaControls.raise(); });
 }
@@ -254,11 +250,17 @@ void Program::showWaiting(const QString& host)
     parts_->outlets.winSplashScreen.setIsVisible(true);
 }
 
-/// As Quit does, without its question. Preferences that are not loaded yet must not be stored.
-void Program::endAsTheSessionDoes()
+/// Preferences that are not loaded yet must not be stored.
+void Program::keepWhatIsOpen()
 {
     if (parts_->isInitialized)
         parts_->controller.keepWhatIsOpen();
+}
+
+/// As Quit does, without its question.
+void Program::endAsTheSessionDoes()
+{
+    keepWhatIsOpen();
     parts_->appDelegate.applicationWillTerminate();
     parts_->process.exit(0);
 }

@@ -35,6 +35,7 @@ private:
     void joinDesktop();
     void showNowPlaying(const NowPlaying& nowPlaying);
     void showWaiting(const QString& host);
+    void keepWhatIsOpen();
     void endAsTheSessionDoes();
     void leaveWindows();
 

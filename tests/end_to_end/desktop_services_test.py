@@ -188,6 +188,8 @@ class DesktopServicesTest(unittest.TestCase):
             portal.EmitSignal("", "SettingChanged", "ssv", ["org.freedesktop.appearance", key, dbus.UInt32(value)],
                               dbus_interface=MOCK)
             wait_until(lambda: self.ground_of_window() == ground, f"{key} {value}")
+        for file in Path(self.desk.environment["HOME"]).rglob("windows.ini"):
+            self.assertNotIn("appearance=", file.read_text(), "the demo leaves nothing behind")
 
     def ground_of_window(self):
         """The colour of the main window's lower left corner."""

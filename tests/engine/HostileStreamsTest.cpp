@@ -184,6 +184,15 @@ TEST_F(HostileStreams, ATitleInAnyEncodingIsShown)
         EXPECT_TRUE(loop_.runUntil([&] { return shown_.title == Text(shown); })) << shown;
         player_.reset();
     }
+    std::string head = toneHead();
+    head.insert(head.find("data"), std::string("LIST\x1C\0\0\0INFOIART\3\0\0\0Ann\0INAM\4\0\0\0Song", 36));
+    const ScriptedServer tagged([&](ScriptedServer::Connection& connection) {
+        connection.readRequestHead();
+        connection.send(std::string(toneAnswer) + head + tone(toneBeginning));
+        connection.waitUntilClosed();
+    });
+    play(tagged.address());
+    EXPECT_TRUE(loop_.runUntil([&] { return shown_.title == Text("Ann - Song"); }));
 }
 
 } // namespace

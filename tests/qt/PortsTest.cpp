@@ -260,8 +260,11 @@ TEST(RunLoop, TheNextTurnIsNotNow)
 
 TEST(SessionManager, EndsTheProgramWithoutAskingItsWindows)
 {
+    int saves = 0;
     int ends = 0;
-    const SessionEnd session([&] { ++ends; });
+    const SessionEnd session([&] { ++saves; }, [&] { ++ends; });
+    emit qApp->commitDataRequest(*qApp->findChild<QSessionManager*>());
+    EXPECT_EQ(saves, 1);
     class : public QWidget {
         void closeEvent(QCloseEvent*) override { ADD_FAILURE() << "asked to close"; }
     } window;

@@ -34,17 +34,18 @@ void restartWithSession(const QStringList& command, Restart restart)
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp, inform, Qt::DirectConnection);
 }
 
-SessionEnd::SessionEnd(std::function<void()> requested)
-    : requested_(std::move(requested))
+SessionEnd::SessionEnd(std::function<void()> saveRequested, std::function<void()> endRequested)
+    : endRequested_(std::move(endRequested))
 {
     qGuiApp->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, std::move(saveRequested), Qt::DirectConnection);
 }
 
 bool SessionEnd::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isEnd = watched == qGuiApp && event->type() == QEvent::Quit;
     if (isEnd)
-        requested_();
+        endRequested_();
     return isEnd;
 }
 

@@ -22,16 +22,16 @@ void restartWithSession(const QStringList& command, Restart restart);
 /// What a session manager is to start, for the toolkit's names of the session and its state.
 [[nodiscard]] QStringList restartCommand(const QStringList& command, const QString& session, const QString& key);
 
-/// Calls back when the session manager ends the program. The toolkit would ask every window to close first, and the
-/// session would wait for the answer to a question.
+/// Calls back when the session manager has everything saved, and when it ends the program. The toolkit would ask every
+/// window to close before that end, and the session would wait for the answer to a question.
 class SessionEnd : public QObject {
 public:
-    explicit SessionEnd(std::function<void()> requested);
+    SessionEnd(std::function<void()> saveRequested, std::function<void()> endRequested);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    std::function<void()> requested_;
+    std::function<void()> endRequested_;
 };
 
 } // namespace sonavel
