@@ -1,5 +1,6 @@
 #include "app/WinSonavelController.h"
 
+#include "online/Connectivity.h"
 #include "platform/Alerts.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Process.h"
@@ -17,13 +18,11 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
     , preferencesWindow(preferences, stationList, outlets)
     , player(ports.streamPlayers, ports.notificationCenter, outlets)
     , stationSelection(stationList, preferences, player, ports.localizedStrings, outlets)
-    , connectivity(ports.httpClient)
-    , calendarDays(ports.clock)
     , stationRefresh(ports.httpClient, ports.clock, configuration.dataServer, serverDates, preferences, stationList,
           stationDatabase)
     , updateCheck({ports.httpClient, ports.localizedStrings, ports.interfaces, ports.webBrowser, ports.bundle,
                       configuration.dataServer},
-          ports.clock, calendarDays, preferences, serverDates, stationRefresh, outlets)
+          ports.clock, preferences, serverDates, stationRefresh, outlets)
     , stationLoading(stationList, stationDatabase, stationRefresh)
     , editorWindow(stationList, ports.localizedStrings, ports.runLoop, outlets)
     , editSheet(
@@ -44,7 +43,7 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
 
 void WinSonavelController::init()
 {
-    if (!connectivity.hasInternetWithSite(configuration_.probe))
+    if (!hasInternetWithSite(ports_.httpClient, configuration_.probe))
         endWithoutInternet();
     preferences.setStartValues();
     preferences.loadingPreference();

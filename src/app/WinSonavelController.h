@@ -13,8 +13,6 @@
 #include "editor/StationImport.h"
 #include "editor/StationRemoval.h"
 #include "model/StationList.h"
-#include "online/CalendarDays.h"
-#include "online/Connectivity.h"
 #include "online/ServerDates.h"
 #include "online/StationRefresh.h"
 #include "online/UpdateCheck.h"
@@ -65,8 +63,6 @@ public:
     Player player;
     StationSelection stationSelection;
     ServerDates serverDates;
-    Connectivity connectivity;
-    CalendarDays calendarDays;
     StationRefresh stationRefresh;
     UpdateCheck updateCheck;
     StationLoading stationLoading;

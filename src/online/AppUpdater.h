@@ -91,7 +91,7 @@ private:
     UpdaterPorts ports_;
     Versions& versions_;
     bool hasUsableAnswer_ = false;
-    std::unique_ptr<LoadedInterface> interface_; // goes before the controls that it connects
+    std::shared_ptr<void> interface_; // goes before the controls that it connects
 };
 
 } // namespace sonavel

@@ -4,18 +4,13 @@
 
 namespace sonavel {
 
-Connectivity::Connectivity(HttpClient& httpClient)
-    : httpClient_(httpClient)
-{
-}
-
-bool Connectivity::hasInternetWithSite(const Text& site) const
+bool hasInternetWithSite(HttpClient& httpClient, const Text& site)
 {
     HttpRequest request;
     request.address = site;
     request.cachePolicy = HttpRequest::CachePolicy::ReloadIgnoringLocalCache;
     request.timeout = std::chrono::seconds(5);
-    return httpClient_.sendSynchronousRequest(request).has_value();
+    return httpClient.sendSynchronousRequest(request).has_value();
 }
 
 } // namespace sonavel

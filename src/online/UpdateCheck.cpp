@@ -12,11 +12,10 @@
 
 namespace sonavel {
 
-UpdateCheck::UpdateCheck(UpdaterPorts ports, const Clock& clock, const CalendarDays& calendarDays,
-    Preferences& preferences, ServerDates& serverDates, StationRefresh& stationRefresh, Outlets& outlets)
+UpdateCheck::UpdateCheck(UpdaterPorts ports, const Clock& clock, Preferences& preferences, ServerDates& serverDates,
+    StationRefresh& stationRefresh, Outlets& outlets)
     : ports_(std::move(ports))
     , clock_(clock)
-    , calendarDays_(calendarDays)
     , preferences_(preferences)
     , serverDates_(serverDates)
     , stationRefresh_(stationRefresh)
@@ -27,7 +26,7 @@ UpdateCheck::UpdateCheck(UpdaterPorts ports, const Clock& clock, const CalendarD
 bool UpdateCheck::isDueAtStart() const
 {
     const auto& lastCheck = preferences_.PREF_DATE_UPDATE_LAST_APPCHECK;
-    return !lastCheck || calendarDays_.dateComparisonWithPreviousDays(*lastCheck, clock_.now(), 1);
+    return !lastCheck || dateComparisonWithPreviousDays(clock_, *lastCheck, clock_.now(), 1);
 }
 
 void UpdateCheck::checkUpdate()

@@ -8,7 +8,6 @@
 
 namespace sonavel {
 
-class CalendarDays;
 class Clock;
 class Preferences;
 class StationRefresh;
@@ -18,8 +17,8 @@ struct ServerDates;
 /// Main thread. Borrows everything it is given but the updater's ports.
 class UpdateCheck {
 public:
-    UpdateCheck(UpdaterPorts ports, const Clock& clock, const CalendarDays& calendarDays, Preferences& preferences,
-        ServerDates& serverDates, StationRefresh& stationRefresh, Outlets& outlets);
+    UpdateCheck(UpdaterPorts ports, const Clock& clock, Preferences& preferences, ServerDates& serverDates,
+        StationRefresh& stationRefresh, Outlets& outlets);
     UpdateCheck(const UpdateCheck&) = delete;
     UpdateCheck& operator=(const UpdateCheck&) = delete;
     ~UpdateCheck() = default;
@@ -47,7 +46,6 @@ private:
 
     const UpdaterPorts ports_;
     const Clock& clock_;
-    const CalendarDays& calendarDays_;
     Preferences& preferences_;
     ServerDates& serverDates_;
     StationRefresh& stationRefresh_;

@@ -19,15 +19,6 @@ struct UpdaterControls {
     Button& buttonRemind;
 };
 
-/// The window that was built; destroying it takes the window off the screen and disconnects its controls.
-class LoadedInterface {
-public:
-    LoadedInterface() = default;
-    LoadedInterface(const LoadedInterface&) = delete;
-    LoadedInterface& operator=(const LoadedInterface&) = delete;
-    virtual ~LoadedInterface() = default;
-};
-
 class Interfaces {
 public:
     Interfaces() = default;
@@ -35,9 +26,10 @@ public:
     Interfaces& operator=(const Interfaces&) = delete;
     virtual ~Interfaces() = default;
 
-    /// Builds the window that tells of a newer version, hidden, and connects the controls, which have to outlive what
-    /// is answered. Also before the main window exists.
-    [[nodiscard]] virtual std::unique_ptr<LoadedInterface> loadAppUpdater(const UpdaterControls& owner) = 0;
+    /// Builds the window that tells of a newer version, hidden, and connects the controls, which have to outlive it.
+    /// With the last pointer to it the window goes off the screen and disconnects them. Also before the main window
+    /// exists.
+    [[nodiscard]] virtual std::shared_ptr<void> loadAppUpdater(const UpdaterControls& owner) = 0;
 };
 
 } // namespace sonavel

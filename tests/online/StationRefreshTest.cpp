@@ -1,3 +1,4 @@
+#include "online/Connectivity.h"
 #include "online/RequestAddress.h"
 #include "support/ControllerTest.h"
 
@@ -83,8 +84,8 @@ TEST_F(StationRefreshTest, IsDueWhenTheServersListIsNewerThanTheLastRefresh)
 TEST_F(StationRefreshTest, TheProbeIsBoundedAndTakesAnyAnswer)
 {
     platform.httpClient.answers["http://probe.example/"] = "<html>500</html>";
-    EXPECT_TRUE(controller.connectivity.hasInternetWithSite("http://probe.example/"));
-    EXPECT_FALSE(controller.connectivity.hasInternetWithSite("http://nowhere.example/a b"));
+    EXPECT_TRUE(hasInternetWithSite(platform.httpClient, "http://probe.example/"));
+    EXPECT_FALSE(hasInternetWithSite(platform.httpClient, "http://nowhere.example/a b"));
     const HttpRequest& request = platform.httpClient.requests.back();
     EXPECT_EQ(request.address, Text("http://nowhere.example/a b"));
     EXPECT_EQ(request.timeout, std::chrono::seconds(5));

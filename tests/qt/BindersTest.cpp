@@ -3,7 +3,6 @@
 #include "platform/Interfaces.h"
 #include "qt/binders/ButtonBinder.h"
 #include "qt/binders/LabelBinder.h"
-#include "qt/binders/NotesBinder.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/binders/PopUpBinder.h"
 #include "qt/binders/SliderBinder.h"
@@ -220,7 +219,7 @@ TEST(LabelBinding, WhatAServerSaysIsNoMarkup)
     EXPECT_EQ(widget.textFormat(), Qt::PlainText);
     TextField notes;
     QPlainTextEdit lines;
-    new NotesBinder(notes, lines);
+    new LabelBinder(notes, lines);
     notes.setStringValue("<b>1</b>\n2");
     EXPECT_EQ(lines.toPlainText(), "<b>1</b>\n2");
 }

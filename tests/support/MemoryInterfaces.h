@@ -18,14 +18,14 @@ public:
     int present = 0;
     int built = 0;
 
-    [[nodiscard]] std::unique_ptr<LoadedInterface> loadAppUpdater(const UpdaterControls& owner) override
+    [[nodiscard]] std::shared_ptr<void> loadAppUpdater(const UpdaterControls& owner) override
     {
         ++built;
-        return std::make_unique<Loaded>(owner, present);
+        return std::make_shared<Loaded>(owner, present);
     }
 
 private:
-    class Loaded : public LoadedInterface {
+    class Loaded {
     public:
         Loaded(const UpdaterControls& owner, int& present)
             : present_(present)
@@ -42,7 +42,7 @@ private:
         }
         Loaded(const Loaded&) = delete;
         Loaded& operator=(const Loaded&) = delete;
-        ~Loaded() override { --present_; }
+        ~Loaded() { --present_; }
 
     private:
         int& present_;

@@ -13,6 +13,14 @@ LabelBinder::LabelBinder(TextField& field, QLabel& widget)
         [&widget](const TextFieldState& state) { widget.setText(toQString(state.stringValue)); });
 }
 
+LabelBinder::LabelBinder(TextField& field, QPlainTextEdit& widget)
+    : QObject(&widget)
+    , field_(field)
+{
+    field_.connect({toText(widget.toPlainText())},
+        [&widget](const TextFieldState& state) { widget.setPlainText(toQString(state.stringValue)); });
+}
+
 LabelBinder::~LabelBinder()
 {
     field_.disconnect();

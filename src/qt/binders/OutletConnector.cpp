@@ -6,7 +6,6 @@
 #include "qt/binders/ImageBinder.h"
 #include "qt/binders/LabelBinder.h"
 #include "qt/binders/MenuItemBinder.h"
-#include "qt/binders/NotesBinder.h"
 #include "qt/binders/PopUpBinder.h"
 #include "qt/binders/SliderBinder.h"
 #include "qt/binders/StatusLineBinder.h"
@@ -64,7 +63,7 @@ void connect(TextField& outlet, QWidget& window, const char* name)
     else if (auto* status = dynamic_cast<StatusLine*>(&widget))
         new StatusLineBinder(outlet, *status);
     else if (auto* notes = dynamic_cast<QPlainTextEdit*>(&widget))
-        new NotesBinder(outlet, *notes);
+        new LabelBinder(outlet, *notes);
     else
         new LabelBinder(outlet, objectNamed<QLabel>(window, name));
 }

@@ -7,7 +7,7 @@ namespace sonavel {
 
 class QtInterfaces : public Interfaces {
 public:
-    [[nodiscard]] std::unique_ptr<LoadedInterface> loadAppUpdater(const UpdaterControls& owner) override;
+    [[nodiscard]] std::shared_ptr<void> loadAppUpdater(const UpdaterControls& owner) override;
 };
 
 } // namespace sonavel
