@@ -8,6 +8,7 @@
 #include "qt/binders/SliderBinder.h"
 #include "qt/binders/WindowBinder.h"
 #include "qt/kit/HouseStyle.h"
+#include "qt/kit/Palettes.h"
 #include "qt/kit/PrimaryButton.h"
 #include "qt/windows/EditSheetDialog.h"
 #include "qt/windows/MainWindow.h"
@@ -192,7 +193,11 @@ TEST(ButtonBinding, LooksFollowTheProgramWithoutAClick)
     widget.setProperty("imageName", "play.png");
     new ButtonBinder(button, widget);
     EXPECT_EQ(button.state().image, Text("play.png"));
-    EXPECT_FALSE(widget.icon().isNull());
+    const auto picture = [&] { return widget.icon().pixmap(16).toImage(); };
+    const QImage light = picture();
+    EXPECT_FALSE(light.isNull());
+    widget.setPalette(paletteFor(Appearance::Dark));
+    EXPECT_NE(picture(), light);
     const QString hint = widget.toolTip();
     EXPECT_FALSE(hint.isEmpty());
     int presses = 0;
