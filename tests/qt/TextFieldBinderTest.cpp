@@ -47,15 +47,10 @@ TEST_F(TextFieldTest, TheCaretStaysWhereTheUserTypes)
         const char* typed;
         const char* after;
         int caretAfter;
-    } cases[] = {
-        {"Radio One", 5, " ", "Radio One", 6},
-        {"Radio One", 6, " ", "Radio One", 6},
-        {"Radio One", 5, ";", "Radio One", 5},
-        {"Radio One", 0, "a;b", "abRadio One", 2},
-        {"Radio One", 9, "  x", "Radio One x", 11},
-        {"0123456789012345678", 3, "ab", "012ab345678901234567", 5},
-        {"01234567890123456789", 20, "a", "01234567890123456789", 20},
-    };
+    } cases[] = {{"Radio One", 5, " ", "Radio One", 6}, {"Radio One", 6, " ", "Radio One", 6},
+        {"Radio One", 5, ";", "Radio One", 5}, {"Radio One", 0, "a;b", "abRadio One", 2},
+        {"Radio One", 9, "  x", "Radio One x", 11}, {"0123456789012345678", 3, "ab", "012ab345678901234567", 5},
+        {"01234567890123456789", 20, "a", "01234567890123456789", 20}};
     for (const auto& [before, caret, typed, after, caretAfter] : cases) {
         field.setStringValue(before);
         widget.setCursorPosition(caret);

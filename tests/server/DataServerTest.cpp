@@ -97,20 +97,6 @@ TEST_F(DataServerTest, TheStatedVersionIsAnsweredUnlessTheAnswerItselfIsPublishe
     EXPECT_EQ(get("?file=sonavel.ini"), "of the maker's own");
 }
 
-TEST_F(DataServerTest, TheUpdateOfTheDemoIsNewerThanWhatRunsAndHasNotes)
-{
-    DataServerSettings offering = settings();
-    offering.content = DataServerSettings::Content::Demo;
-    offering.offer = DataServerSettings::Offer::NewerVersion;
-    start(offering);
-    const auto record = serverVersionRecord(get("?file=sonavel.ini"));
-    ASSERT_TRUE(record);
-    EXPECT_TRUE(isAnyNumberHigher(*record, applicationVersionRecord({"Sonavel", "3.4.5", "12"})));
-    EXPECT_EQ(versionText(*record), "4.0.0 (13)");
-    EXPECT_NE(releaseNotes(*record), "- \n");
-    EXPECT_FALSE(usableWebAddress(record->LinkPage).isAbsent());
-}
-
 TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)
 {
     DataServerSettings everywhere = settings();

@@ -53,37 +53,25 @@ TEST(VersionText, WhatTheAnswerCannotCarryIsRefusedWithItsLineAndReason)
         std::string text;
         std::size_t line;
         std::string named; ///< a part of the reason
-    } mistakes[] = {
-        {"", 1, "without a \"version\""},
-        {"# empty\n\n", 2, "without a \"version\""},
-        {"version = 1\n# end", 2, "without a \"build\""},
-        {needed + "note = a;b", 3, "a \";\""},
-        {needed + "note = a\rb", 3, "control"},
-        {needed + std::string("note = a\0b", 10), 3, "control"},
-        {needed + "note = \x7F", 3, "control"},
-        {needed + "note = caf\xC3\xA9", 3, "outside ASCII"},
-        {needed + "note = good\nnote = a\\nb", 4, R"("\n")"},
-        {needed + "note =\n", 3, "no value"},
-        {needed + "note\n", 3, "no \"=\""},
-        {needed + "= x\n", 3, "\"\" is none"},
-        {needed + "Note = x\n", 3, "\"Note\" is none"},
-        {needed + "\x1B[31m\xE9\n = x\n", 3, "\" [31m\xC3\xA9\""},
+    } mistakes[] = {{"", 1, "without a \"version\""}, {"# empty\n\n", 2, "without a \"version\""},
+        {"version = 1\n# end", 2, "without a \"build\""}, {needed + "note = a;b", 3, "a \";\""},
+        {needed + "note = a\rb", 3, "control"}, {needed + std::string("note = a\0b", 10), 3, "control"},
+        {needed + "note = \x7F", 3, "control"}, {needed + "note = caf\xC3\xA9", 3, "outside ASCII"},
+        {needed + "note = good\nnote = a\\nb", 4, R"("\n")"}, {needed + "note =\n", 3, "no value"},
+        {needed + "note\n", 3, "no \"=\""}, {needed + "= x\n", 3, "\"\" is none"},
+        {needed + "Note = x\n", 3, "\"Note\" is none"}, {needed + "\x1B[31m\xE9\n = x\n", 3, "\" [31m\xC3\xA9\""},
         {needed + "build = 9\n", 3, "second time"},
         {needed + "list changed = 2026-11-01 00:00:00 +0000\nlist changed = 2026-11-01 00:00:00 +0000", 4, "second"},
-        {"version = 1.3.0.1\n", 1, "\"version\" takes"},
-        {"version = 1..3\n", 1, "\"version\" takes"},
-        {"version = 1.3 beta\n", 1, "\"version\" takes"},
-        {"build = 8a\n", 1, "\"build\" takes"},
+        {"version = 1.3.0.1\n", 1, "\"version\" takes"}, {"version = 1..3\n", 1, "\"version\" takes"},
+        {"version = 1.3 beta\n", 1, "\"version\" takes"}, {"build = 8a\n", 1, "\"build\" takes"},
         {"build = 9223372036854775808\n", 1, "\"build\" takes"},
         {"released = 2026-02-29 00:00:00 +0000\n", 1, "\"released\" takes"},
         {"released = 2026-11-01T00:00:00Z\n", 1, "\"released\" takes"},
         {"list changed = 0000-01-01 00:00:00 +0000\n", 1, "\"list changed\" takes"},
         {"list changed = 2026-11-01 24:00:00 +0000\n", 1, "\"list changed\" takes"},
-        {"page = radio.example.org\n", 1, "\"page\" takes"},
-        {"page = http://\n", 1, "\"page\" takes"},
+        {"page = radio.example.org\n", 1, "\"page\" takes"}, {"page = http://\n", 1, "\"page\" takes"},
         {"page = javascript:alert(1)\n", 1, "\"page\" takes"},
-        {"application = file:///sonavel.deb\n", 1, "\"application\" takes"},
-    };
+        {"application = file:///sonavel.deb\n", 1, "\"application\" takes"}};
     for (const auto& [text, line, named] : mistakes) {
         const auto outcome = publishedVersionFromText(text, usual());
         const auto* mistake = std::get_if<VersionTextMistake>(&outcome);

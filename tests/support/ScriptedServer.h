@@ -68,9 +68,6 @@ public:
             return waitFor(POLLRDHUP, static_cast<int>(time.count())) == Woken::ByTime;
         }
 
-        /// Waits with the connection open until the test calls `tell`. False when the client or the server is gone.
-        bool waitUntilTold() { return waitFor(POLLRDHUP, -1) == Woken::ByTest; }
-
         /// Waits with the connection open until the client closes it or the server ends.
         void waitUntilClosed()
         {
@@ -97,7 +94,7 @@ public:
 
     private:
         friend class ScriptedServer;
-        enum class Woken { BySocket, ByTest, ByTime, ByEnd };
+        enum class Woken { BySocket, ByTime, ByEnd };
 
         Connection(int socket, const ScriptedServer& server)
             : socket_(socket)
@@ -109,17 +106,13 @@ public:
 
         Woken waitFor(short events, int milliseconds)
         {
-            const bool isUntilTold = events == POLLRDHUP && milliseconds < 0;
-            std::array<pollfd, 3> waited{
-                {{server_.end_, POLLIN, 0}, {isUntilTold ? server_.told_ : -1, POLLIN, 0}, {socket_, events, 0}}};
+            std::array<pollfd, 2> waited{{{server_.end_, POLLIN, 0}, {socket_, events, 0}}};
             int ready = 0;
             do
                 ready = ::poll(waited.data(), waited.size(), milliseconds);
             while (ready < 0 && errno == EINTR);
             if (waited[0].revents != 0)
                 return Woken::ByEnd;
-            if (waited[1].revents != 0)
-                return Woken::ByTest;
             return ready > 0 ? Woken::BySocket : Woken::ByTime;
         }
 
@@ -152,7 +145,6 @@ public:
     explicit ScriptedServer(Handler handler)
         : handler_(std::move(handler))
         , end_(::eventfd(0, EFD_CLOEXEC))
-        , told_(::eventfd(0, EFD_CLOEXEC))
         , listener_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
     {
         sockaddr_in address{};
@@ -176,7 +168,7 @@ public:
         acceptor_.join();
         for (std::thread& connection : connections_)
             connection.join();
-        for (const int descriptor : {listener_, told_, end_})
+        for (const int descriptor : {listener_, end_})
             ::close(descriptor);
     }
 
@@ -200,9 +192,6 @@ public:
     /// How many clients have connected so far.
     [[nodiscard]] int connectionCount() const { return connectionCount_; }
 
-    /// Ends every `waitUntilTold`, those that begin later too.
-    void tell() { ::eventfd_write(told_, 1); }
-
 private:
     void acceptConnections()
     {
@@ -225,7 +214,6 @@ private:
 
     Handler handler_;
     int end_;
-    int told_;
     int listener_;
     std::uint16_t port_ = 0;
     std::atomic<int> connectionCount_ = 0;
