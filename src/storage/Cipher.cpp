@@ -58,7 +58,7 @@ std::optional<Bytes> encrypted(Bytes plain, const CipherKey& key)
 std::optional<Bytes> decrypted(Bytes cipherText, const CipherKey& key)
 {
     const std::size_t length = cipherText.content.size();
-    if (length == 0 || length % blockSize != 0)
+    if (length % blockSize != 0)
         return std::nullopt;
     return transformed(std::move(cipherText), length, key, Direction::Decrypt);
 }

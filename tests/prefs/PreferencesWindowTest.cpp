@@ -30,8 +30,10 @@ TEST_F(PreferencesWindowTest, WhatIsSetIsStoredWithTheNextStoreAndNotBefore)
     outlets.menuPreferences.chosenByUser();
     EXPECT_TRUE(outlets.winPreferences.state().isSheet);
     outlets.checkBoxDefaultAutoPlay.toggledByUser(true);
-    outlets.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(true);
-    outlets.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(false);
+    for (const bool isOn : {true, false}) {
+        controller.preferencesWindow.setAutoPlayAtStart();
+        EXPECT_EQ(outlets.checkBoxDefaultAutoPlayAtStartApp.state().isOn, isOn);
+    }
     outlets.popupDefaultButtonListRadio.chosenByUser(2);
     outlets.sliderDefaultVolume.setEnabled(true);
     outlets.sliderDefaultVolume.movedByUser(0.25);
