@@ -223,9 +223,11 @@ TEST_F(StationTableTest, AnOpenCellIsAFieldWithAFrame)
     EXPECT_NE(looks.pixelColor(0, looks.height() / 2), base);
 }
 
-TEST_F(StationTableTest, BothColumnsStayInViewHoweverTheyAreDraggedAndTheWindowShrinks)
+TEST_F(StationTableTest, BothColumnsAreNamedAndStayInViewHoweverTheyAreDraggedAndTheWindowShrinks)
 {
     QHeaderView& columns = *widget.horizontalHeader();
+    for (const auto& [column, name] : {std::pair(0, "Name"), {1, "Address"}})
+        EXPECT_EQ(widget.model()->headerData(column, Qt::Horizontal), name);
     columns.resizeSection(0, 5'000);
     QApplication::processEvents();
     EXPECT_LE(columns.length(), widget.viewport()->width());
