@@ -114,9 +114,11 @@ QModelIndex StationTable::moveCursor(CursorAction action, Qt::KeyboardModifiers 
 /// A click on one of several selected rows is meant to select it alone.
 bool StationTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    const QItemSelection selected = selectionModel()->selection();
-    const bool isOnlyRow = selected.size() == 1 && selected.constFirst().height() == 1;
-    return (trigger != SelectedClicked || isOnlyRow) && QTableView::edit(index, trigger, event);
+    const auto isOnlyRow = [this] {
+        const QItemSelection selected = selectionModel()->selection();
+        return selected.size() == 1 && selected.constFirst().height() == 1;
+    };
+    return (trigger != SelectedClicked || isOnlyRow()) && QTableView::edit(index, trigger, event);
 }
 
 void StationTable::resizeEvent(QResizeEvent* event)
