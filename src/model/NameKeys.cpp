@@ -56,7 +56,7 @@ NameKeys::NameKeys(const std::vector<std::string_view>& names)
 {
     const std::size_t length = std::accumulate(names.begin(), names.end(), std::size_t{0},
         [](std::size_t sum, std::string_view name) { return sum + name.size(); });
-    bytes_ = std::make_unique_for_overwrite<char[]>(2 * length);
+    bytes_ = std::make_unique_for_overwrite<char[]>(2 * length); // NOLINT(*-avoid-c-arrays)
     ends_.reserve(names.size());
     char* end = bytes_.get();
     for (const std::string_view name : names) {

@@ -27,7 +27,8 @@ public:
     [[nodiscard]] std::string_view restAt(std::size_t place, std::size_t offset) const;
 
 private:
-    std::unique_ptr<char[]> bytes_;
+    /// An array, since a container would write its memory twice.
+    std::unique_ptr<char[]> bytes_; // NOLINT(*-avoid-c-arrays)
     std::vector<std::size_t> ends_;
 };
 
