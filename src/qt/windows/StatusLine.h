@@ -24,7 +24,7 @@ protected:
 private:
     struct Message {
         QString text;
-        QTimer* time;
+        QTimer* time = nullptr;
     };
 
     void hold(Message& message, const QString& text);
