@@ -46,23 +46,23 @@ public:
         platform.filePanels.choice = importedFile;
         platform.alerts.expect("<ERASE_ALL_PREVIOUS_DATA>", secondButtonAnswer);
         platform.alerts.expect("<AS_DUPLICATED_DATA>", firstButtonAnswer);
-        return secondsOf([&] { return press(outlets.radioImport); });
+        return secondsOf([&] { return press(controls.stationList.radioImport); });
     }
 
     double secondsOfExport()
     {
         platform.filePanels.choice = exportedFile;
-        return secondsOf([&] { return press(outlets.radioExport); });
+        return secondsOf([&] { return press(controls.stationList.radioExport); });
     }
 
     double secondsOfAdding()
     {
-        outlets.radioAdd.pressedByUser();
-        outlets.textFieldRadioName.typedByUser("Radio Example 5x");
-        outlets.textFieldRadioLink.typedByUser("http://added.example.org/");
-        outlets.buttonAction.setEnabled(true);
+        controls.stationList.radioAdd.pressedByUser();
+        controls.editSheet.textFieldRadioName.typedByUser("Radio Example 5x");
+        controls.editSheet.textFieldRadioLink.typedByUser("http://added.example.org/");
+        controls.editSheet.buttonAction.setEnabled(true);
         return secondsOf([&] {
-            outlets.buttonAction.pressedByUser();
+            controls.editSheet.buttonAction.pressedByUser();
             return controller.stationList.numberOfStations();
         });
     }
@@ -73,8 +73,8 @@ public:
         IndexSet all;
         all.insert({0, stationCount});
         return secondsOf([&] {
-            outlets.tableViewListRadio.selectedByUser(all, 0);
-            return press(outlets.radioRemove);
+            controls.stationList.tableViewListRadio.selectedByUser(all, 0);
+            return press(controls.stationList.radioRemove);
         });
     }
 

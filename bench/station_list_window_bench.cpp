@@ -44,21 +44,21 @@ struct Scene {
     explicit Scene(const char* word)
         : stations(word)
     {
-        outlets.tableViewListRadio.setDataSource(&stations);
-        connectStationListWindow(outlets, window);
-        outlets.tableViewListRadio.setAllowsMultipleSelection(true);
-        outlets.tableViewListRadio.reloadData();
+        controls.stationList.tableViewListRadio.setDataSource(&stations);
+        connectStationListWindow(controls.stationList, window);
+        controls.stationList.tableViewListRadio.setAllowsMultipleSelection(true);
+        controls.stationList.tableViewListRadio.reloadData();
         window.resize(1200, 900);
         window.show();
         QApplication::processEvents();
     }
 
     StationTable& table() { return *window.findChild<StationTable*>(); }
-    TableView& control() { return outlets.tableViewListRadio; }
+    TableView& control() { return controls.stationList.tableViewListRadio; }
 
     Stations stations;
-    Outlets outlets;
-    StationListWindow window{outlets.tableViewListRadio};
+    Controls controls;
+    StationListWindow window{controls.stationList.tableViewListRadio};
 };
 
 double worst(const std::vector<double>& times)

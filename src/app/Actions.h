@@ -1,4 +1,4 @@
-// The wiring table: which control does what.
+// How an action of the user is performed.
 #pragma once
 
 #include <functional>
@@ -7,25 +7,34 @@
 namespace sonavel {
 
 class Action;
-class Gate;
-class WinSonavelController;
-struct Outlets;
-enum class ListUse;
+class ActionQueue;
+class TableView;
 
-/// Sets the action of every control that the user acts on. Each goes through the gate, and after each, toolbar and menu
-/// items are enabled anew. Controller, outlets and gate have to outlive this object, and this object the outlets' use.
+/// How an action uses the station list.
+enum class ListUse {
+    None, ///< a cell that is being edited stays open
+    AsShown, ///< a cell that is being edited is closed first, and what was typed counts
+    Exclusive, ///< as AsShown; besides, no other action reads or changes the list until this one ends
+};
+
+/// Each action goes through the queue, and after each, toolbar and menu items are enabled anew. Main thread. Borrows
+/// the queue and the table of stations.
 class Actions {
 public:
-    using Operation = std::function<void(WinSonavelController&)>;
+    using Operation = std::function<void()>;
 
-    Actions(WinSonavelController& controller, Outlets& outlets, Gate& gate);
+    /// `validate` enables toolbar and menu items as the state of the program asks for.
+    Actions(ActionQueue& queue, TableView& table, Operation validate);
     Actions(const Actions&) = delete;
     Actions& operator=(const Actions&) = delete;
     ~Actions() = default;
 
-    /// Enables toolbar and menu items as the state of the program asks for: at the start, before a menu is shown,
-    /// before a key is matched, and when the keyboard comes to another window.
-    void validateItems();
+    /// Makes `operation` what the control does. This object has to outlive the control's use.
+    void wire(Action& action, ListUse listUse, Operation operation);
+
+    /// Enables toolbar and menu items: at the start, before a menu is shown, before a key is matched, and when another
+    /// window gets the keyboard focus.
+    void validateItems() const { validate_(); }
 
     /// Calls `observer` after every action.
     void setObserver(std::function<void()> observer) { observer_ = std::move(observer); }
@@ -38,17 +47,11 @@ public:
     void performAtOnce(const void* source, Operation operation);
 
 private:
-    void wire(Action& action, ListUse listUse, Operation operation);
-    void run(const Operation& operation);
-    void wireMainWindow();
-    void wireEditor();
-    void wirePreferences();
-    void wireItems();
-    void wireUpdates();
+    void run(const Operation& operation) const;
 
-    WinSonavelController& controller_;
-    Outlets& outlets_;
-    Gate& gate_;
+    ActionQueue& queue_;
+    TableView& table_;
+    const Operation validate_;
     std::function<void()> observer_;
     bool isListInUse_ = false; ///< exclusively, by the action that runs or ran last
 };

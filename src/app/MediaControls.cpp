@@ -1,15 +1,15 @@
 #include "app/MediaControls.h"
 
-#include "app/WinSonavelController.h"
+#include "app/CountedAlerts.h"
+#include "model/StationList.h"
 #include "platform/Clock.h"
+#include "playback/StationSelection.h"
 #include "playback/StreamAddress.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <utility>
 
 namespace sonavel {
-
-using Controller = WinSonavelController;
 
 namespace {
 
@@ -24,18 +24,24 @@ struct MediaControls::Command {
     unsigned interruptions;
 };
 
-MediaControls::MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions, const Clock& clock)
-    : controller_(controller)
-    , outlets_(outlets)
+MediaControls::MediaControls(MainControls& controls, Player& player, StationSelection& stationSelection,
+    const StationList& stationList, Actions& actions, const CountedAlerts& alerts, const Clock& clock,
+    Actions::Operation quitApp)
+    : controls_(controls)
+    , player_(player)
+    , stationSelection_(stationSelection)
+    , stationList_(stationList)
     , actions_(actions)
+    , alerts_(alerts)
     , clock_(clock)
+    , quitApp_(std::move(quitApp))
 {
 }
 
 const MediaState& MediaControls::state()
 {
     using Status = MediaState::Status;
-    const Player& player = controller_.player;
+    const Player& player = player_;
     if (player.isStop && !player.isPlay) {
         state_ = {};
         item_.reset();
@@ -47,9 +53,9 @@ const MediaState& MediaControls::state()
     }
     if (item_)
         state_.status = player.isPlay ? Status::Playing : Status::Paused;
-    state_.volume = outlets_.sliderVolume.state().value;
-    state_.canPlay = outlets_.buttonPlayPause.state().isEnabled;
-    state_.canStep = controller_.stationList.numberOfStations() > 0;
+    state_.volume = controls_.sliderVolume.state().value;
+    state_.canPlay = controls_.buttonPlayPause.state().isEnabled;
+    state_.canStep = stationList_.numberOfStations() > 0;
     return state_;
 }
 
@@ -57,25 +63,25 @@ void MediaControls::play()
 {
     const auto command = std::make_shared<const Command>(newCommand());
     play_ = command;
-    actions_.perform(&outlets_.buttonPlayPause, ListUse::None, [this, command](Controller& c) {
-        if (isStillMeant(*command) && !c.player.isPlay && outlets_.buttonPlayPause.state().isEnabled)
-            c.player.buttonPlayPause();
+    actions_.perform(&controls_.buttonPlayPause, ListUse::None, [this, command] {
+        if (isStillMeant(*command) && !player_.isPlay && controls_.buttonPlayPause.state().isEnabled)
+            player_.buttonPlayPause();
     });
 }
 
 void MediaControls::pause()
 {
     ++interruptions_;
-    actions_.performAtOnce(&outlets_.buttonPlayPause, unlessLate([this](Controller& c) {
-        if (c.player.isPlay && outlets_.buttonPlayPause.state().isEnabled)
-            c.player.buttonPlayPause();
+    actions_.performAtOnce(&controls_.buttonPlayPause, unlessLate([this] {
+        if (player_.isPlay && controls_.buttonPlayPause.state().isEnabled)
+            player_.buttonPlayPause();
     }));
 }
 
 void MediaControls::playPause()
 {
     const auto waiting = play_.lock();
-    if (controller_.player.isPlay || (waiting && isStillMeant(*waiting)))
+    if (player_.isPlay || (waiting && isStillMeant(*waiting)))
         pause();
     else
         play();
@@ -84,9 +90,9 @@ void MediaControls::playPause()
 void MediaControls::stop()
 {
     ++interruptions_;
-    actions_.performAtOnce(&outlets_.buttonStop, unlessLate([this](Controller& c) {
-        if (outlets_.buttonStop.state().isEnabled)
-            c.player.buttonStop();
+    actions_.performAtOnce(&controls_.buttonStop, unlessLate([this] {
+        if (controls_.buttonStop.state().isEnabled)
+            player_.buttonStop();
     }));
 }
 
@@ -102,43 +108,41 @@ void MediaControls::previous()
 
 void MediaControls::step(bool isPrevious)
 {
-    actions_.perform(
-        &outlets_.popupbuttonRadioList, ListUse::None, [this, isPrevious, command = newCommand()](Controller& c) {
-            if (isStillMeant(command) && c.stationList.numberOfStations() > 0)
-                c.stationSelection.changeStation(isPrevious);
-        });
+    actions_.perform(&controls_.popupbuttonRadioList, ListUse::None, [this, isPrevious, command = newCommand()] {
+        if (isStillMeant(command) && stationList_.numberOfStations() > 0)
+            stationSelection_.changeStation(isPrevious);
+    });
 }
 
 void MediaControls::setVolume(double volume)
 {
-    actions_.perform(&outlets_.sliderVolume, ListUse::None, unlessLate([this, volume](Controller& c) {
-        if (!outlets_.sliderVolume.state().isEnabled)
+    actions_.perform(&controls_.sliderVolume, ListUse::None, unlessLate([this, volume] {
+        if (!controls_.sliderVolume.state().isEnabled)
             return;
-        outlets_.sliderVolume.setDoubleValue(volume);
-        c.player.sliderVolume();
+        controls_.sliderVolume.setDoubleValue(volume);
+        player_.sliderVolume();
     }));
 }
 
 void MediaControls::raise()
 {
-    actions_.perform(
-        &outlets_.winSonavel, ListUse::None, [this](Controller&) { outlets_.winSonavel.makeKeyAndOrderFront(); });
+    actions_.perform(&controls_.winSonavel, ListUse::None, [this] { controls_.winSonavel.makeKeyAndOrderFront(); });
 }
 
 void MediaControls::quit()
 {
-    actions_.perform(this, ListUse::AsShown, unlessLate([](Controller& c) { c.quitApp(); }));
+    actions_.perform(this, ListUse::AsShown, unlessLate(quitApp_));
 }
 
 MediaControls::Command MediaControls::newCommand() const
 {
-    return {clock_.now().advancedBySeconds(longestWait), controller_.alerts.answers(), interruptions_};
+    return {clock_.now().advancedBySeconds(longestWait), alerts_.answers(), interruptions_};
 }
 
 /// After that, nobody who pressed a media key in vain expects its effect.
 bool MediaControls::isLate(const Command& command) const
 {
-    return clock_.now() > command.latest || controller_.alerts.answers() != command.answers;
+    return clock_.now() > command.latest || alerts_.answers() != command.answers;
 }
 
 /// A later Pause or Stop, which does not wait, is not to be undone.
@@ -149,9 +153,9 @@ bool MediaControls::isStillMeant(const Command& command) const
 
 Actions::Operation MediaControls::unlessLate(Actions::Operation operation) const
 {
-    return [this, command = newCommand(), operation = std::move(operation)](Controller& c) {
+    return [this, command = newCommand(), operation = std::move(operation)] {
         if (!isLate(command))
-            operation(c);
+            operation();
     };
 }
 

@@ -11,8 +11,10 @@
 namespace sonavel {
 
 class Clock;
-class WinSonavelController;
-struct Outlets;
+class CountedAlerts;
+class StationList;
+class StationSelection;
+struct MainControls;
 
 struct MediaState {
     enum class Status { Stopped, Paused, Playing };
@@ -40,7 +42,9 @@ struct MediaState {
 /// Main thread. Borrows everything it is given.
 class MediaControls {
 public:
-    MediaControls(WinSonavelController& controller, Outlets& outlets, Actions& actions, const Clock& clock);
+    MediaControls(MainControls& controls, Player& player, StationSelection& stationSelection,
+        const StationList& stationList, Actions& actions, const CountedAlerts& alerts, const Clock& clock,
+        Actions::Operation quitApp);
     MediaControls(const MediaControls&) = delete;
     MediaControls& operator=(const MediaControls&) = delete;
     ~MediaControls() = default;
@@ -74,10 +78,14 @@ private:
     [[nodiscard]] bool isStillMeant(const Command& command) const;
     [[nodiscard]] Actions::Operation unlessLate(Actions::Operation operation) const;
 
-    WinSonavelController& controller_;
-    Outlets& outlets_;
+    MainControls& controls_;
+    Player& player_;
+    StationSelection& stationSelection_;
+    const StationList& stationList_;
     Actions& actions_;
+    const CountedAlerts& alerts_;
     const Clock& clock_;
+    const Actions::Operation quitApp_;
     MediaState state_;
     std::uint64_t streams_ = 0;
     std::shared_ptr<const PlayerItem> item_;

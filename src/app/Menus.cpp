@@ -1,8 +1,15 @@
 #include "app/Menus.h"
 
-#include "app/WinSonavelController.h"
+#include "editor/EditSheet.h"
+#include "editor/EditorWindow.h"
+#include "editor/StationExport.h"
+#include "editor/StationImport.h"
+#include "editor/StationRemoval.h"
+#include "model/StationList.h"
 #include "platform/LocalizedStrings.h"
-#include "ui/Outlets.h"
+#include "playback/Player.h"
+#include "playback/StationSelection.h"
+#include "ui/Controls.h"
 
 #include <algorithm>
 #include <array>
@@ -11,64 +18,54 @@ namespace sonavel {
 
 namespace {
 
-using Controller = WinSonavelController;
+using Items = MenuControls;
+using Targets = const MenuTargets&;
 
-bool always(const Controller&, const Outlets&)
+bool always(Targets)
 {
     return true;
 }
 
-bool whileEditorHasKeyboard(const Controller&, const Outlets& outlets)
+bool whileEditorHasKeyboard(Targets targets)
 {
-    return outlets.winWebRadioListEdit.isVisible() && outlets.winWebRadioListEdit.isKeyWindow();
+    return targets.list.winWebRadioListEdit.isVisible() && targets.list.winWebRadioListEdit.isKeyWindow();
 }
 
-bool whileEditorIsHidden(const Controller&, const Outlets& outlets)
+bool whileEditorIsHidden(Targets targets)
 {
-    return !outlets.winWebRadioListEdit.isVisible();
+    return !targets.list.winWebRadioListEdit.isVisible();
 }
 
 constexpr int showEditorTag = 1003;
-constexpr auto none = ListUse::None; // whoever types goes on typing when he pauses the sound
+constexpr auto none = ListUse::None; // the user goes on typing after pausing the sound
 constexpr auto asShown = ListUse::AsShown;
 constexpr auto exclusive = ListUse::Exclusive;
 
 constexpr std::array rows{
-    TaggedItem{0, &Outlets::menuQuit, asShown, [](Controller& c) { c.quitApp(); }, always},
-    TaggedItem{1000, &Outlets::menuRadioAdd, exclusive, [](Controller& c) { c.editSheet.radioAddToList(); },
+    TaggedItem{0, &Items::menuQuit, asShown, [](Targets t) { t.quitApp(); }, always},
+    TaggedItem{
+        1000, &Items::menuRadioAdd, exclusive, [](Targets t) { t.editSheet.radioAddToList(); }, whileEditorHasKeyboard},
+    TaggedItem{1001, &Items::menuRadioEdit, exclusive, [](Targets t) { t.editSheet.radioEditToList(); },
+        [](Targets t) { return whileEditorHasKeyboard(t) && t.list.tableViewListRadio.numberOfSelectedRows() == 1; }},
+    TaggedItem{1002, &Items::menuRadioRemove, exclusive, [](Targets t) { t.stationRemoval.radioRemoveToList(); },
+        [](Targets t) { return whileEditorHasKeyboard(t) && t.list.tableViewListRadio.selectedRow() >= 0; }},
+    TaggedItem{showEditorTag, &Items::menuRadioShowEditRadio, asShown,
+        [](Targets t) { t.editorWindow.toggleVisibility(); },
+        [](Targets t) { return !whileEditorIsHidden(t) || !t.winPreferences.isVisible(); }},
+    TaggedItem{2000, &Items::menuPlayPause, none, [](Targets t) { t.player.playPause(); },
+        [](Targets t) { return t.popupbuttonRadioList.indexOfSelectedItem() > 0; }},
+    TaggedItem{2001, &Items::menuStop, none, [](Targets t) { t.player.stop(); },
+        [](Targets t) { return !t.player.isStop || t.player.isPlay; }},
+    TaggedItem{2002, &Items::menuMute, none, [](Targets t) { t.player.buttonMute(); }, always},
+    TaggedItem{
+        2003, &Items::menuPreviousStation, none, [](Targets t) { t.stationSelection.changeStation(true); }, always},
+    TaggedItem{2004, &Items::menuNextStation, none, [](Targets t) { t.stationSelection.changeStation(false); }, always},
+    TaggedItem{3000, &Items::menuRadioImport, exclusive, [](Targets t) { t.stationImport.importRadioListFromFile(); },
         whileEditorHasKeyboard},
-    TaggedItem{1001, &Outlets::menuRadioEdit, exclusive, [](Controller& c) { c.editSheet.radioEditToList(); },
-        [](const Controller& c, const Outlets& o) {
-            return whileEditorHasKeyboard(c, o) && o.tableViewListRadio.numberOfSelectedRows() == 1;
-        }},
-    TaggedItem{1002, &Outlets::menuRadioRemove, exclusive, [](Controller& c) { c.stationRemoval.radioRemoveToList(); },
-        [](const Controller& c, const Outlets& o) {
-            return whileEditorHasKeyboard(c, o) && o.tableViewListRadio.selectedRow() >= 0;
-        }},
-    TaggedItem{showEditorTag, &Outlets::menuRadioShowEditRadio, asShown,
-        [](Controller& c) { c.editorWindow.toggleVisibility(); },
-        [](const Controller&, const Outlets& o) {
-            return o.winWebRadioListEdit.isVisible() || !o.winPreferences.isVisible();
-        }},
-    TaggedItem{2000, &Outlets::menuPlayPause, none, [](Controller& c) { c.player.playPause(); },
-        [](const Controller&, const Outlets& o) { return o.popupbuttonRadioList.indexOfSelectedItem() > 0; }},
-    TaggedItem{2001, &Outlets::menuStop, none, [](Controller& c) { c.player.stop(); },
-        [](const Controller& c, const Outlets&) { return !c.player.isStop || c.player.isPlay; }},
-    TaggedItem{2002, &Outlets::menuMute, none, [](Controller& c) { c.player.buttonMute(); }, always},
-    TaggedItem{2003, &Outlets::menuPreviousStation, none, [](Controller& c) { c.stationSelection.changeStation(true); },
-        always},
-    TaggedItem{
-        2004, &Outlets::menuNextStation, none, [](Controller& c) { c.stationSelection.changeStation(false); }, always},
-    TaggedItem{3000, &Outlets::menuRadioImport, exclusive,
-        [](Controller& c) { c.stationImport.importRadioListFromFile(); }, whileEditorHasKeyboard},
-    TaggedItem{3001, &Outlets::menuRadioExport, exclusive,
-        [](Controller& c) { c.stationExport.exportRadioListIntoFile(); },
-        [](const Controller& c, const Outlets& o) {
-            return whileEditorHasKeyboard(c, o) && c.stationList.numberOfStations() > 0;
-        }},
-    TaggedItem{4000, &Outlets::menuPreferences, none, [](Controller&) {}, whileEditorIsHidden},
-    TaggedItem{
-        4001, &Outlets::menuCheckUpdates, asShown, [](Controller& c) { c.checkUpdateOnDemand(); }, whileEditorIsHidden},
+    TaggedItem{3001, &Items::menuRadioExport, exclusive, [](Targets t) { t.stationExport.exportRadioListIntoFile(); },
+        [](Targets t) { return whileEditorHasKeyboard(t) && t.stationList.numberOfStations() > 0; }},
+    TaggedItem{4000, &Items::menuPreferences, none, [](Targets) {}, whileEditorIsHidden},
+    TaggedItem{4001, &Items::menuCheckUpdates, asShown, [](Targets t) { t.checkUpdate(); }, whileEditorIsHidden},
 };
 
 const TaggedItem* rowOf(int tag)
@@ -84,39 +81,39 @@ std::span<const TaggedItem> taggedItems()
     return rows;
 }
 
-int tagOf(MenuItem Outlets::*item)
+int tagOf(MenuItem MenuControls::*item)
 {
     const auto* const row =
         std::find_if(rows.begin(), rows.end(), [item](const auto& each) { return each.item == item; });
     return row == rows.end() ? -1 : row->tag;
 }
 
-Menus::Menus(WinSonavelController& controller, const LocalizedStrings& localizedStrings, Outlets& outlets)
-    : controller_(controller)
+Menus::Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings)
+    : controls_(controls)
+    , targets_(targets)
     , localizedStrings_(localizedStrings)
-    , outlets_(outlets)
 {
 }
 
 void Menus::menuView(const MenuItem& sender)
 {
     if (const TaggedItem* row = rowOf(sender.tag()))
-        row->perform(controller_);
+        row->perform(targets_);
 }
 
 bool Menus::validateMenuItem(const MenuItem& item)
 {
     if (item.tag() == showEditorTag)
-        outlets_.menuRadioShowEditRadio.setTitle(localizedStrings_.localizedStringForKey(
-            outlets_.winWebRadioListEdit.isVisible() ? "CLOSE_EDIT_RADIO_LIST" : "SHOW_EDIT_RADIO_LIST"));
+        controls_.menuRadioShowEditRadio.setTitle(localizedStrings_.localizedStringForKey(
+            whileEditorIsHidden(targets_) ? "SHOW_EDIT_RADIO_LIST" : "CLOSE_EDIT_RADIO_LIST"));
     const TaggedItem* row = rowOf(item.tag());
-    return row != nullptr && row->isEnabled(controller_, outlets_);
+    return row != nullptr && row->isEnabled(targets_);
 }
 
 void Menus::validateItems()
 {
     for (const TaggedItem& row : rows)
-        (outlets_.*row.item).setEnabled(validateMenuItem(outlets_.*row.item));
+        (controls_.*row.item).setEnabled(validateMenuItem(controls_.*row.item));
 }
 
 } // namespace sonavel

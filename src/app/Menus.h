@@ -1,41 +1,64 @@
 // The menus: from an item's tag to what it does and when it is enabled.
 #pragma once
 
+#include "app/Actions.h"
+
+#include <functional>
 #include <span>
 
 namespace sonavel {
 
+class EditSheet;
+class EditorWindow;
 class LocalizedStrings;
 class MenuItem;
-class WinSonavelController;
-struct Outlets;
+class Player;
+class PopUpButton;
+class StationExport;
+class StationImport;
+class StationList;
+class StationRemoval;
+class StationSelection;
+class Window;
+struct MenuControls;
+struct StationListControls;
 
-/// How an action uses the station list.
-enum class ListUse {
-    None, ///< a cell that is being edited stays open
-    AsShown, ///< a cell that is being edited is closed first, and what was typed counts
-    Exclusive, ///< as AsShown; besides, no other action reads or changes the list until this one ends
+/// What the items operate on, and what decides whether they are enabled. Borrowed.
+struct MenuTargets {
+    Player& player;
+    StationSelection& stationSelection;
+    EditorWindow& editorWindow;
+    EditSheet& editSheet;
+    StationRemoval& stationRemoval;
+    StationImport& stationImport;
+    StationExport& stationExport;
+    std::function<void()> quitApp;
+    std::function<void()> checkUpdate;
+    const StationList& stationList;
+    const StationListControls& list;
+    const PopUpButton& popupbuttonRadioList;
+    const Window& winPreferences;
 };
 
 /// An item that has a tag.
 struct TaggedItem {
     int tag;
-    MenuItem Outlets::*item;
+    MenuItem MenuControls::*item;
     ListUse listUse;
-    void (*perform)(WinSonavelController&);
-    bool (*isEnabled)(const WinSonavelController&, const Outlets&);
+    void (*perform)(const MenuTargets&);
+    bool (*isEnabled)(const MenuTargets&);
 };
 
 /// All of them.
 [[nodiscard]] std::span<const TaggedItem> taggedItems();
 
 /// The item's tag; −1 when it has none.
-[[nodiscard]] int tagOf(MenuItem Outlets::*item);
+[[nodiscard]] int tagOf(MenuItem MenuControls::*item);
 
 /// Main thread. Borrows everything it is given.
 class Menus {
 public:
-    Menus(WinSonavelController& controller, const LocalizedStrings& localizedStrings, Outlets& outlets);
+    Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings);
     Menus(const Menus&) = delete;
     Menus& operator=(const Menus&) = delete;
     ~Menus() = default;
@@ -50,9 +73,9 @@ public:
     void validateItems();
 
 private:
-    WinSonavelController& controller_;
+    MenuControls& controls_;
+    const MenuTargets targets_;
     const LocalizedStrings& localizedStrings_;
-    Outlets& outlets_;
 };
 
 } // namespace sonavel

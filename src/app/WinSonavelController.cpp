@@ -1,5 +1,6 @@
 #include "app/WinSonavelController.h"
 
+#include "app/Wiring.h"
 #include "online/Connectivity.h"
 #include "platform/Alerts.h"
 #include "platform/LocalizedStrings.h"
@@ -7,38 +8,53 @@
 #include "platform/Questions.h"
 #include "platform/RunLoop.h"
 #include "prefs/PlaceholderKeys.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 namespace sonavel {
 
-WinSonavelController::WinSonavelController(const Ports& ports, const Configuration& configuration, Outlets& outlets)
+WinSonavelController::WinSonavelController(const Ports& ports, const Configuration& configuration, Controls& controls)
     : alerts(ports.alerts)
     , stationDatabase(ports.files, stationList)
-    , preferences(ports.preferenceDomains, ports.bundle, outlets.winWebRadioListEdit)
-    , preferencesWindow(preferences, stationList, outlets)
-    , player(ports.streamPlayers, ports.notificationCenter, outlets)
-    , stationSelection(stationList, preferences, player, ports.localizedStrings, outlets)
+    , preferences(ports.preferenceDomains, ports.bundle, controls.stationList.winWebRadioListEdit)
+    , preferencesWindow(preferences, stationList, controls.preferences)
+    , player(ports.streamPlayers, ports.notificationCenter, controls.main, controls.menu.menuMute)
+    , stationSelection(stationList, preferences, player, ports.localizedStrings, controls.main,
+          controls.preferences.popupDefaultButtonListRadio)
     , stationRefresh(ports.httpClient, ports.clock, configuration.dataServer, serverDates, preferences, stationList,
           stationDatabase)
     , updateCheck({ports.httpClient, ports.localizedStrings, ports.interfaces, ports.webBrowser, ports.bundle,
                       configuration.dataServer},
-          ports.clock, preferences, serverDates, stationRefresh, outlets)
+          ports.clock, preferences, serverDates, stationRefresh, controls.updateNotice)
     , stationLoading(stationList, stationDatabase, stationRefresh)
-    , editorWindow(stationList, ports.localizedStrings, ports.runLoop, outlets)
-    , editSheet(
-          stationList, stationDatabase, stationSelection, editorWindow, preferences, ports.localizedStrings, outlets)
-    , stationRemoval(
-          stationList, stationDatabase, stationSelection, player, editorWindow, alerts, ports.localizedStrings, outlets)
+    , editorWindow(stationList, ports.localizedStrings, ports.runLoop, controls.stationList.winWebRadioListEdit)
+    , editSheet(stationList, stationDatabase, stationSelection, editorWindow, preferences, ports.localizedStrings,
+          controls.editSheet, controls.stationList.tableViewListRadio)
+    , stationRemoval(stationList, stationDatabase, stationSelection, player, editorWindow, alerts,
+          ports.localizedStrings, controls.stationList.tableViewListRadio, controls.main.popupbuttonRadioList)
     , stationImport(stationList, stationDatabase, stationSelection, preferences, ports.files, ports.filePanels, alerts,
-          ports.localizedStrings, outlets)
+          ports.localizedStrings, controls.stationList)
     , stationExport(stationList, ports.files, ports.filePanels)
-    , editorTable(stationList, stationDatabase, stationSelection, editSheet, outlets)
-    , editorToolbar(editSheet, stationRemoval, stationImport, stationExport, outlets)
-    , menus(*this, ports.localizedStrings, outlets)
+    , editorTable(stationList, stationDatabase, stationSelection, editSheet, controls.stationList.tableViewListRadio)
+    , editorToolbar(editSheet, stationRemoval, stationImport, stationExport, controls.stationList)
+    , menus(controls.menu,
+          {player, stationSelection, editorWindow, editSheet, stationRemoval, stationImport, stationExport,
+              [this] { quitApp(); }, [this] { checkUpdateOnDemand(); }, stationList, controls.stationList,
+              controls.main.popupbuttonRadioList, controls.preferences.winPreferences},
+          ports.localizedStrings)
+    , actions(queue, controls.stationList.tableViewListRadio, [this] { validateItems(); })
+    , mediaControls(
+          controls.main, player, stationSelection, stationList, actions, alerts, ports.clock, [this] { quitApp(); })
     , ports_(ports)
     , configuration_(configuration)
-    , outlets_(outlets)
+    , controls_(controls)
 {
+    wireMainWindow(actions, controls.main, player, stationSelection, editorWindow, [this] { quitApp(); });
+    wireStationList(actions, controls.stationList, editorWindow, editorTable, editorToolbar);
+    wireEditSheet(actions, controls.editSheet, editSheet);
+    wirePreferences(actions, controls.preferences, preferencesWindow);
+    wireUpdateCheck(actions, controls.updateNotice, updateCheck, [this] { buttonClose(); });
+    wireAbout(actions, controls.about);
+    wireMenus(actions, controls.menu, menus, preferencesWindow, controls.about);
 }
 
 void WinSonavelController::init()
@@ -51,7 +67,7 @@ void WinSonavelController::init()
         updateCheck.checkUpdate();
     stationLoading.initRadioList();
     preferences.loadingPreference();
-    outlets_.buttonPlayPause.setImage("play.png"); // seen only by a window that is connected already
+    controls_.main.buttonPlayPause.setImage("play.png"); // seen only by a window that is connected already
     player.isPlay = false;
     player.isStop = true;
     player.isMute = false;
@@ -71,28 +87,36 @@ void WinSonavelController::awakeFromNib()
     showPreferences();
     player.applyVolume();
     prepareDefaultStation();
-    ports_.runLoop.performOnNextTurn([this] { outlets_.winSonavel.makeKeyAndOrderFront(); });
+    ports_.runLoop.performOnNextTurn([this] { controls_.main.winSonavel.makeKeyAndOrderFront(); });
 }
 
 void WinSonavelController::showPreferences()
 {
-    outlets_.winWebRadioListEdit.setIsVisible(preferences.PREF_WINEDIT_IS_VISIBLE);
-    outlets_.checkBoxDefaultAutoPlayAtStartApp.setState(preferences.PREF_IS_AUTOPLAY_OPEN_APP);
-    outlets_.checkBoxDefaultAutoPlay.setState(preferences.PREF_IS_AUTOPLAY);
-    outlets_.sliderDefaultVolume.setMinValue(0.0);
-    outlets_.sliderDefaultVolume.setMaxValue(1.0);
-    outlets_.sliderDefaultVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
-    outlets_.sliderVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
-    outlets_.tableViewListRadio.setAllowsMultipleSelection(preferences.PREF_ENABLE_MULTIPLE_SELECTION);
-    outlets_.tableViewListRadio.reloadData();
+    controls_.stationList.winWebRadioListEdit.setIsVisible(preferences.PREF_WINEDIT_IS_VISIBLE);
+    controls_.preferences.checkBoxDefaultAutoPlayAtStartApp.setState(preferences.PREF_IS_AUTOPLAY_OPEN_APP);
+    controls_.preferences.checkBoxDefaultAutoPlay.setState(preferences.PREF_IS_AUTOPLAY);
+    controls_.preferences.sliderDefaultVolume.setMinValue(0.0);
+    controls_.preferences.sliderDefaultVolume.setMaxValue(1.0);
+    controls_.preferences.sliderDefaultVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
+    controls_.main.sliderVolume.setDoubleValue(preferences.PREF_DEFAULT_VOLUME);
+    controls_.stationList.tableViewListRadio.setAllowsMultipleSelection(preferences.PREF_ENABLE_MULTIPLE_SELECTION);
+    controls_.stationList.tableViewListRadio.reloadData();
 }
 
 void WinSonavelController::prepareDefaultStation()
 {
     if (preferences.PREF_DEFAULT_STATION == selectRadioNullKey)
         return;
-    outlets_.popupDefaultButtonListRadio.setEnabled(preferencesWindow.setAutoEnablePopupDefaultButtonListRadio());
+    controls_.preferences.popupDefaultButtonListRadio.setEnabled(
+        preferencesWindow.setAutoEnablePopupDefaultButtonListRadio());
     stationSelection.selectDefaultStation();
+}
+
+void WinSonavelController::validateItems()
+{
+    stationSelection.validateControls();
+    editorToolbar.validateVisibleItems();
+    menus.validateItems();
 }
 
 void WinSonavelController::quitApp()
@@ -101,12 +125,12 @@ void WinSonavelController::quitApp()
     preferences.updatePreference();
     if (isAnsweredYes(alerts, strings, strings.localizedStringForKey("ALLERT_TEXT_MESSAGE_QUIT")))
         ports_.process.exit(0);
-    outlets_.winSonavel.setIsVisible(true);
+    controls_.main.winSonavel.setIsVisible(true);
 }
 
 void WinSonavelController::keepWhatIsOpen()
 {
-    outlets_.tableViewListRadio.endEditing();
+    controls_.stationList.tableViewListRadio.endEditing();
     preferences.updatePreference();
 }
 
@@ -117,13 +141,13 @@ void WinSonavelController::checkUpdateOnDemand()
     if (stationRefresh.changes() == changesBefore)
         return;
     stationSelection.updatePopupListRadioWithListStation();
-    outlets_.tableViewListRadio.reloadData();
+    controls_.stationList.tableViewListRadio.reloadData();
     editorWindow.updateTitleWebRadioListEdit();
 }
 
 void WinSonavelController::buttonClose()
 {
-    outlets_.winUpdateNotification.setIsVisible(false);
+    controls_.updateNotice.winUpdateNotification.setIsVisible(false);
 }
 
 } // namespace sonavel

@@ -1,7 +1,10 @@
 // The controller: everything that the program is made of, its start and its end.
 #pragma once
 
+#include "app/ActionQueue.h"
+#include "app/Actions.h"
 #include "app/CountedAlerts.h"
+#include "app/MediaControls.h"
 #include "app/Menus.h"
 #include "app/Ports.h"
 #include "app/StationLoading.h"
@@ -24,12 +27,12 @@
 
 namespace sonavel {
 
-struct Outlets;
+struct Controls;
 
 /// How it is started: make it, `init`, connect the outlets, `awakeFromNib`. All of it on the main thread.
 class WinSonavelController {
 public:
-    WinSonavelController(const Ports& ports, const Configuration& configuration, Outlets& outlets);
+    WinSonavelController(const Ports& ports, const Configuration& configuration, Controls& controls);
     WinSonavelController(const WinSonavelController&) = delete;
     WinSonavelController& operator=(const WinSonavelController&) = delete;
     ~WinSonavelController() = default;
@@ -74,15 +77,19 @@ public:
     EditorTable editorTable;
     EditorToolbar editorToolbar;
     Menus menus;
+    ActionQueue queue;
+    Actions actions;
+    MediaControls mediaControls;
 
 private:
     void endWithoutInternet();
+    void validateItems();
     void showPreferences();
     void prepareDefaultStation();
 
     const Ports ports_;
     const Configuration configuration_;
-    Outlets& outlets_;
+    Controls& controls_;
 };
 
 } // namespace sonavel

@@ -8,7 +8,7 @@
 #include "playback/StationSelection.h"
 #include "prefs/PreferenceFields.h"
 #include "storage/StationDatabase.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 namespace sonavel {
 
@@ -23,50 +23,51 @@ constexpr std::int32_t longestAddress = 2048;
 
 EditSheet::EditSheet(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
     EditorWindow& editorWindow, const PreferenceFields& preferences, const LocalizedStrings& localizedStrings,
-    Outlets& outlets)
+    EditSheetControls& controls, TableView& table)
     : stationList_(stationList)
     , stationDatabase_(stationDatabase)
     , stationSelection_(stationSelection)
     , editorWindow_(editorWindow)
     , preferences_(preferences)
     , localizedStrings_(localizedStrings)
-    , outlets_(outlets)
+    , controls_(controls)
+    , table_(table)
 {
 }
 
 void EditSheet::radioAddToList()
 {
-    outlets_.buttonAction.setTitle(localizedStrings_.localizedStringForKey("BUTTON_ADD"));
+    controls_.buttonAction.setTitle(localizedStrings_.localizedStringForKey("BUTTON_ADD"));
     open();
 }
 
 void EditSheet::radioEditToList()
 {
-    const auto station = stationList_.stationAtIndex(outlets_.tableViewListRadio.selectedRow());
+    const auto station = stationList_.stationAtIndex(table_.selectedRow());
     if (station == nullptr)
         return;
-    outlets_.buttonAction.setTitle(localizedStrings_.localizedStringForKey("BUTTON_EDIT"));
-    outlets_.textFieldRadioName.setStringValue(station->radio());
-    outlets_.textFieldRadioLink.setStringValue(station->link());
+    controls_.buttonAction.setTitle(localizedStrings_.localizedStringForKey("BUTTON_EDIT"));
+    controls_.textFieldRadioName.setStringValue(station->radio());
+    controls_.textFieldRadioLink.setStringValue(station->link());
     open();
 }
 
 void EditSheet::open()
 {
-    outlets_.winEditData.makeFirstResponder();
-    outlets_.winEditData.beginSheet();
+    controls_.winEditData.makeFirstResponder();
+    controls_.winEditData.beginSheet();
 }
 
 void EditSheet::buttonAction()
 {
-    const Text mode = outlets_.buttonAction.title();
+    const Text mode = controls_.buttonAction.title();
     if (mode == localizedStrings_.localizedStringForKey("BUTTON_ADD"))
         addStation();
     else if (mode == localizedStrings_.localizedStringForKey("BUTTON_EDIT"))
         changeSelectedStation();
 
     stationList_.sortingRadioWithKey("radio");
-    outlets_.tableViewListRadio.reloadData();
+    table_.reloadData();
     stationSelection_.updatePopupListRadioWithListStation();
     selectLastRow();
     stationDatabase_.fileRadioDBupdate();
@@ -76,8 +77,8 @@ void EditSheet::buttonAction()
 
 void EditSheet::addStation()
 {
-    const Text name = outlets_.textFieldRadioName.stringValue();
-    const Text address = outlets_.textFieldRadioLink.stringValue();
+    const Text name = controls_.textFieldRadioName.stringValue();
+    const Text address = controls_.textFieldRadioLink.stringValue();
     if (name.length() < shortestName && address.length() < shortestAddress)
         return;
     stationList_.listRadio->push_back(std::make_shared<KVStationWebRadio>(
@@ -86,11 +87,11 @@ void EditSheet::addStation()
 
 void EditSheet::changeSelectedStation()
 {
-    const auto station = stationList_.stationAtIndex(outlets_.tableViewListRadio.selectedRow());
+    const auto station = stationList_.stationAtIndex(table_.selectedRow());
     if (station == nullptr)
         return;
-    station->setRadio(withoutSeparators(outlets_.textFieldRadioName.stringValue()));
-    station->setLink(withoutSeparators(outlets_.textFieldRadioLink.stringValue()));
+    station->setRadio(withoutSeparators(controls_.textFieldRadioName.stringValue()));
+    station->setLink(withoutSeparators(controls_.textFieldRadioLink.stringValue()));
 }
 
 void EditSheet::selectLastRow()
@@ -98,8 +99,8 @@ void EditSheet::selectLastRow()
     if (stationList_.numberOfStations() == 0)
         return;
     const std::size_t last = stationList_.numberOfStations() - 1;
-    outlets_.tableViewListRadio.scrollRowToVisible(static_cast<long>(last));
-    outlets_.tableViewListRadio.selectRowIndexes({last}, TableView::Extending::No);
+    table_.scrollRowToVisible(static_cast<long>(last));
+    table_.selectRowIndexes({last}, TableView::Extending::No);
 }
 
 void EditSheet::buttonCancel()
@@ -109,17 +110,17 @@ void EditSheet::buttonCancel()
 
 void EditSheet::winEditDataCloseAndResetField()
 {
-    outlets_.textFieldRadioName.setStringValue("");
-    outlets_.textFieldRadioLink.setStringValue("");
-    outlets_.winEditData.endSheet();
-    outlets_.winEditData.close();
+    controls_.textFieldRadioName.setStringValue("");
+    controls_.textFieldRadioLink.setStringValue("");
+    controls_.winEditData.endSheet();
+    controls_.winEditData.close();
 }
 
 void EditSheet::controlTextDidChange()
 {
     filteredInputToField(
-        outlets_.textFieldRadioName, static_cast<std::int32_t>(preferences_.PREF_MAX_NAME_RADIO_LENGHT));
-    filteredInputToField(outlets_.textFieldRadioLink, longestAddress);
+        controls_.textFieldRadioName, static_cast<std::int32_t>(preferences_.PREF_MAX_NAME_RADIO_LENGHT));
+    filteredInputToField(controls_.textFieldRadioLink, longestAddress);
 }
 
 void EditSheet::filteredInputToField(TextField& field, std::int32_t limitByteANumber)

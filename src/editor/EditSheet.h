@@ -10,8 +10,9 @@ class LocalizedStrings;
 class StationDatabase;
 class StationList;
 class StationSelection;
+class TableView;
 class TextField;
-struct Outlets;
+struct EditSheetControls;
 struct PreferenceFields;
 
 /// Whether it adds or changes is told by the title of its confirm button alone. Both fields are empty whenever it is
@@ -22,7 +23,7 @@ class EditSheet {
 public:
     EditSheet(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
         EditorWindow& editorWindow, const PreferenceFields& preferences, const LocalizedStrings& localizedStrings,
-        Outlets& outlets);
+        EditSheetControls& controls, TableView& table);
     EditSheet(const EditSheet&) = delete;
     EditSheet& operator=(const EditSheet&) = delete;
     ~EditSheet() = default;
@@ -58,7 +59,8 @@ private:
     EditorWindow& editorWindow_;
     const PreferenceFields& preferences_;
     const LocalizedStrings& localizedStrings_;
-    Outlets& outlets_;
+    EditSheetControls& controls_;
+    TableView& table_;
 };
 
 } // namespace sonavel

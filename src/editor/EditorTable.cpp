@@ -6,7 +6,6 @@
 #include "model/StationListText.h"
 #include "playback/StationSelection.h"
 #include "storage/StationDatabase.h"
-#include "ui/Outlets.h"
 
 namespace sonavel {
 
@@ -34,14 +33,14 @@ Setter setterForKey(std::string_view key)
 } // namespace
 
 EditorTable::EditorTable(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
-    EditSheet& editSheet, Outlets& outlets)
+    EditSheet& editSheet, TableView& table)
     : stationList_(stationList)
     , stationDatabase_(stationDatabase)
     , stationSelection_(stationSelection)
     , editSheet_(editSheet)
-    , outlets_(outlets)
+    , table_(table)
 {
-    outlets.tableViewListRadio.setDataSource(this);
+    table.setDataSource(this);
 }
 
 long EditorTable::numberOfRowsInTableView(const TableView&) const
@@ -70,7 +69,7 @@ void EditorTable::tableView(
 
 void EditorTable::myDoubleClickAction()
 {
-    if (outlets_.tableViewListRadio.selectedRow() >= 0)
+    if (table_.selectedRow() >= 0)
         editSheet_.radioEditToList();
 }
 

@@ -9,7 +9,6 @@ class EditSheet;
 class StationDatabase;
 class StationList;
 class StationSelection;
-struct Outlets;
 
 /// Row r shows the station at position r of the list. The columns are "radio", the name, and "link", the address; any
 /// other shows the station's property of that name.
@@ -18,7 +17,7 @@ struct Outlets;
 class EditorTable final : public TableViewDataSource {
 public:
     EditorTable(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
-        EditSheet& editSheet, Outlets& outlets);
+        EditSheet& editSheet, TableView& table);
     EditorTable(const EditorTable&) = delete;
     EditorTable& operator=(const EditorTable&) = delete;
     ~EditorTable() override = default;
@@ -42,7 +41,7 @@ private:
     StationDatabase& stationDatabase_;
     StationSelection& stationSelection_;
     EditSheet& editSheet_;
-    Outlets& outlets_;
+    TableView& table_;
 };
 
 } // namespace sonavel

@@ -4,7 +4,7 @@
 #include "editor/StationExport.h"
 #include "editor/StationImport.h"
 #include "editor/StationRemoval.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 namespace sonavel {
 
@@ -15,12 +15,12 @@ enum Tag { adding, editing, removing, importing, exporting };
 } // namespace
 
 EditorToolbar::EditorToolbar(EditSheet& editSheet, StationRemoval& stationRemoval, StationImport& stationImport,
-    StationExport& stationExport, Outlets& outlets)
+    StationExport& stationExport, StationListControls& controls)
     : editSheet_(editSheet)
     , stationRemoval_(stationRemoval)
     , stationImport_(stationImport)
     , stationExport_(stationExport)
-    , outlets_(outlets)
+    , controls_(controls)
 {
 }
 
@@ -44,7 +44,7 @@ void EditorToolbar::toolbar(const ToolbarItem& sender)
 
 bool EditorToolbar::validateToolbarItem(const ToolbarItem& item) const
 {
-    const TableView& table = outlets_.tableViewListRadio;
+    const TableView& table = controls_.tableViewListRadio;
     switch (item.tag()) {
     case adding:
     case importing:
@@ -62,8 +62,8 @@ bool EditorToolbar::validateToolbarItem(const ToolbarItem& item) const
 
 void EditorToolbar::validateVisibleItems()
 {
-    for (ToolbarItem* item :
-        {&outlets_.radioAdd, &outlets_.radioEdit, &outlets_.radioRemove, &outlets_.radioImport, &outlets_.radioExport})
+    for (ToolbarItem* item : {&controls_.radioAdd, &controls_.radioEdit, &controls_.radioRemove, &controls_.radioImport,
+             &controls_.radioExport})
         item->setEnabled(validateToolbarItem(*item));
 }
 

@@ -8,13 +8,13 @@ class StationExport;
 class StationImport;
 class StationRemoval;
 class ToolbarItem;
-struct Outlets;
+struct StationListControls;
 
 /// Main thread. Borrows everything it is given.
 class EditorToolbar {
 public:
     EditorToolbar(EditSheet& editSheet, StationRemoval& stationRemoval, StationImport& stationImport,
-        StationExport& stationExport, Outlets& outlets);
+        StationExport& stationExport, StationListControls& controls);
     EditorToolbar(const EditorToolbar&) = delete;
     EditorToolbar& operator=(const EditorToolbar&) = delete;
     ~EditorToolbar() = default;
@@ -33,7 +33,7 @@ private:
     StationRemoval& stationRemoval_;
     StationImport& stationImport_;
     StationExport& stationExport_;
-    Outlets& outlets_;
+    StationListControls& controls_;
 };
 
 } // namespace sonavel

@@ -4,16 +4,16 @@
 #include "model/StationList.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/RunLoop.h"
-#include "ui/Outlets.h"
+#include "ui/Window.h"
 
 namespace sonavel {
 
 EditorWindow::EditorWindow(
-    const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Outlets& outlets)
+    const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Window& window)
     : stationList_(stationList)
     , localizedStrings_(localizedStrings)
     , runLoop_(runLoop)
-    , outlets_(outlets)
+    , window_(window)
 {
 }
 
@@ -22,27 +22,27 @@ void EditorWindow::updateTitleWebRadioListEdit()
     const auto count = static_cast<long>(stationList_.numberOfStations());
     std::string title = localizedStrings_.localizedStringForKey("WIN_EDIT_RADIO_LIST").string();
     title.append(" (").append(decimalText(count).view()).append(")");
-    outlets_.winWebRadioListEdit.setTitle(title);
+    window_.setTitle(title);
 }
 
 void EditorWindow::buttonEditradio()
 {
     updateTitleWebRadioListEdit();
-    if (outlets_.winWebRadioListEdit.isVisible())
-        runLoop_.performOnNextTurn([this] { outlets_.winWebRadioListEdit.makeKeyAndOrderFront(); });
+    if (window_.isVisible())
+        runLoop_.performOnNextTurn([this] { window_.makeKeyAndOrderFront(); });
     else
-        outlets_.winWebRadioListEdit.setIsVisible(true);
+        window_.setIsVisible(true);
 }
 
 void EditorWindow::toggleVisibility()
 {
     updateTitleWebRadioListEdit();
-    outlets_.winWebRadioListEdit.setIsVisible(!outlets_.winWebRadioListEdit.isVisible());
+    window_.setIsVisible(!window_.isVisible());
 }
 
 void EditorWindow::close()
 {
-    outlets_.winWebRadioListEdit.setIsVisible(false);
+    window_.setIsVisible(false);
 }
 
 } // namespace sonavel

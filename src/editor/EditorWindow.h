@@ -6,13 +6,13 @@ namespace sonavel {
 class LocalizedStrings;
 class RunLoop;
 class StationList;
-struct Outlets;
+class Window;
 
 /// Main thread. Borrows everything it is given.
 class EditorWindow {
 public:
     EditorWindow(
-        const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Outlets& outlets);
+        const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Window& window);
     EditorWindow(const EditorWindow&) = delete;
     EditorWindow& operator=(const EditorWindow&) = delete;
     ~EditorWindow() = default;
@@ -33,7 +33,7 @@ private:
     const StationList& stationList_;
     const LocalizedStrings& localizedStrings_;
     RunLoop& runLoop_;
-    Outlets& outlets_;
+    Window& window_;
 };
 
 } // namespace sonavel

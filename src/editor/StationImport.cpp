@@ -11,7 +11,7 @@
 #include "prefs/PreferenceFields.h"
 #include "storage/PlainListFile.h"
 #include "storage/StationDatabase.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <algorithm>
 #include <memory_resource>
@@ -60,7 +60,7 @@ private:
 
 StationImport::StationImport(StationList& stationList, StationDatabase& stationDatabase,
     StationSelection& stationSelection, const PreferenceFields& preferences, Files& files, FilePanels& filePanels,
-    Alerts& alerts, const LocalizedStrings& localizedStrings, Outlets& outlets)
+    Alerts& alerts, const LocalizedStrings& localizedStrings, StationListControls& controls)
     : stationList_(stationList)
     , stationDatabase_(stationDatabase)
     , stationSelection_(stationSelection)
@@ -69,7 +69,7 @@ StationImport::StationImport(StationList& stationList, StationDatabase& stationD
     , filePanels_(filePanels)
     , alerts_(alerts)
     , localizedStrings_(localizedStrings)
-    , outlets_(outlets)
+    , controls_(controls)
 {
 }
 
@@ -86,7 +86,7 @@ void StationImport::importRadioListFromFileAtPath(const Text& path)
     if (stationList_.numberOfStations() > 0 && isToReplaceList()) {
         rescueCopy = stationDatabase_.keepListBeforeImport();
         if (rescueCopy.isAbsent())
-            return outlets_.labelListStatus.announce(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
+            return controls_.labelListStatus.announce(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
         stationList_.listRadio = std::make_shared<StationRecords>();
     }
     const Text text = listTextOfPlainFile(files_, path);
@@ -109,7 +109,7 @@ StationImport::Outcome StationImport::appendStations(const Text& text)
 {
     StationRecords& list = *stationList_.listRadio;
     if (list.empty())
-        outlets_.tableViewListRadio.reloadData(); // rows of the former list must not pass their selection on
+        controls_.tableViewListRadio.reloadData(); // rows of the former list must not pass their selection on
     ImportedNames names(list, text.view());
     const auto initialCount = static_cast<std::int64_t>(list.size());
     std::int64_t runningCount = initialCount;
@@ -136,7 +136,7 @@ StationImport::Outcome StationImport::appendStations(const Text& text)
 void StationImport::showList()
 {
     stationSelection_.updatePopupListRadioWithListStation();
-    outlets_.tableViewListRadio.reloadData();
+    controls_.tableViewListRadio.reloadData();
 }
 
 void StationImport::notify(std::string_view message) const
@@ -155,7 +155,7 @@ void StationImport::tellOutcome(const Outcome& outcome, const Text& rescueCopy)
         const Text name = rescueCopy.view().substr(rescueCopy.view().rfind('/') + 1);
         status.append(" ").append(filledIn(strings.localizedStringForKey("STATUS_LIST_KEPT"), name).view());
     }
-    outlets_.labelListStatus.announce(status);
+    controls_.labelListStatus.announce(status);
 }
 
 } // namespace sonavel

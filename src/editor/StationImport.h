@@ -14,15 +14,15 @@ class LocalizedStrings;
 class StationDatabase;
 class StationList;
 class StationSelection;
-struct Outlets;
 struct PreferenceFields;
+struct StationListControls;
 
 /// Main thread. Borrows everything it is given.
 class StationImport {
 public:
     StationImport(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
         const PreferenceFields& preferences, Files& files, FilePanels& filePanels, Alerts& alerts,
-        const LocalizedStrings& localizedStrings, Outlets& outlets);
+        const LocalizedStrings& localizedStrings, StationListControls& controls);
     StationImport(const StationImport&) = delete;
     StationImport& operator=(const StationImport&) = delete;
     ~StationImport() = default;
@@ -57,7 +57,7 @@ private:
     FilePanels& filePanels_;
     Alerts& alerts_;
     const LocalizedStrings& localizedStrings_;
-    Outlets& outlets_;
+    StationListControls& controls_;
 };
 
 } // namespace sonavel

@@ -7,7 +7,7 @@
 #include "playback/Player.h"
 #include "playback/StationSelection.h"
 #include "storage/StationDatabase.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <algorithm>
 
@@ -37,7 +37,7 @@ void removeAtIndexes(StationRecords& stations, const IndexSet& indexes)
 
 StationRemoval::StationRemoval(StationList& stationList, StationDatabase& stationDatabase,
     StationSelection& stationSelection, Player& player, EditorWindow& editorWindow, Alerts& alerts,
-    const LocalizedStrings& localizedStrings, Outlets& outlets)
+    const LocalizedStrings& localizedStrings, TableView& table, const PopUpButton& popupbuttonRadioList)
     : stationList_(stationList)
     , stationDatabase_(stationDatabase)
     , stationSelection_(stationSelection)
@@ -45,13 +45,14 @@ StationRemoval::StationRemoval(StationList& stationList, StationDatabase& statio
     , editorWindow_(editorWindow)
     , alerts_(alerts)
     , localizedStrings_(localizedStrings)
-    , outlets_(outlets)
+    , table_(table)
+    , popupbuttonRadioList_(popupbuttonRadioList)
 {
 }
 
 void StationRemoval::radioRemoveToList()
 {
-    if (outlets_.tableViewListRadio.numberOfSelectedRows() > 0) {
+    if (table_.numberOfSelectedRows() > 0) {
         const bool isChosen = isSelectedStationChosen();
         if (isAnsweredYes(alerts_, localizedStrings_, question(isChosen)))
             removeSelected(isChosen);
@@ -62,28 +63,27 @@ void StationRemoval::radioRemoveToList()
 /// Asked of a single station; several are removed without a look at what plays.
 bool StationRemoval::isSelectedStationChosen() const
 {
-    const auto station = stationList_.stationAtIndex(outlets_.tableViewListRadio.selectedRow());
-    return outlets_.tableViewListRadio.numberOfSelectedRows() < 2
-        && outlets_.popupbuttonRadioList.titleOfSelectedItem() == station->radio();
+    const auto station = stationList_.stationAtIndex(table_.selectedRow());
+    return table_.numberOfSelectedRows() < 2 && popupbuttonRadioList_.titleOfSelectedItem() == station->radio();
 }
 
 Text StationRemoval::question(bool isChosen) const
 {
-    const long rows = outlets_.tableViewListRadio.numberOfSelectedRows();
+    const long rows = table_.numberOfSelectedRows();
     if (rows >= 2)
         return filledIn(localizedStrings_.localizedStringForKey("REMOVE_ALL_RADIO_SELECTED"), rows);
-    const auto station = stationList_.stationAtIndex(outlets_.tableViewListRadio.selectedRow());
+    const auto station = stationList_.stationAtIndex(table_.selectedRow());
     return filledIn(
         localizedStrings_.localizedStringForKey(isChosen ? "REMOVE_RADIO_TO_PLAY" : "REMOVE_RADIO"), station->radio());
 }
 
 void StationRemoval::removeSelected(bool isChosen)
 {
-    const IndexSet rows = outlets_.tableViewListRadio.selectedRowIndexes();
+    const IndexSet rows = table_.selectedRowIndexes();
     if (isChosen && rows.count() < 2)
         player_.stop();
     removeAtIndexes(*stationList_.listRadio, rows);
-    outlets_.tableViewListRadio.reloadData();
+    table_.reloadData();
     stationSelection_.updatePopupListRadioWithListStation();
     stationDatabase_.fileRadioDBupdate();
 }

@@ -9,17 +9,18 @@ class Alerts;
 class EditorWindow;
 class LocalizedStrings;
 class Player;
+class PopUpButton;
 class StationDatabase;
 class StationList;
 class StationSelection;
-struct Outlets;
+class TableView;
 
 /// Main thread. Borrows everything it is given.
 class StationRemoval {
 public:
     StationRemoval(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
         Player& player, EditorWindow& editorWindow, Alerts& alerts, const LocalizedStrings& localizedStrings,
-        Outlets& outlets);
+        TableView& table, const PopUpButton& popupbuttonRadioList);
     StationRemoval(const StationRemoval&) = delete;
     StationRemoval& operator=(const StationRemoval&) = delete;
     ~StationRemoval() = default;
@@ -41,7 +42,8 @@ private:
     EditorWindow& editorWindow_;
     Alerts& alerts_;
     const LocalizedStrings& localizedStrings_;
-    Outlets& outlets_;
+    TableView& table_;
+    const PopUpButton& popupbuttonRadioList_;
 };
 
 } // namespace sonavel

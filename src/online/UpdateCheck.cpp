@@ -6,20 +6,20 @@
 #include "platform/Clock.h"
 #include "platform/LocalizedStrings.h"
 #include "prefs/Preferences.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <utility>
 
 namespace sonavel {
 
 UpdateCheck::UpdateCheck(UpdaterPorts ports, const Clock& clock, Preferences& preferences, ServerDates& serverDates,
-    StationRefresh& stationRefresh, Outlets& outlets)
+    StationRefresh& stationRefresh, UpdateNoticeControls& notice)
     : ports_(std::move(ports))
     , clock_(clock)
     , preferences_(preferences)
     , serverDates_(serverDates)
     , stationRefresh_(stationRefresh)
-    , outlets_(outlets)
+    , notice_(notice)
 {
 }
 
@@ -49,8 +49,8 @@ void UpdateCheck::showNotification()
 {
     const Text notice = ports_.localizedStrings.localizedStringForKey(
         updaterApp->hasUsableAnswer() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER");
-    outlets_.labelUpdateNotification.setStringValue(filledIn(notice, updaterApp->retrunVersionApp()));
-    outlets_.winUpdateNotification.makeKeyAndOrderFront();
+    notice_.labelUpdateNotification.setStringValue(filledIn(notice, updaterApp->retrunVersionApp()));
+    notice_.winUpdateNotification.makeKeyAndOrderFront();
 }
 
 } // namespace sonavel

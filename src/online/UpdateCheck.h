@@ -11,14 +11,14 @@ namespace sonavel {
 class Clock;
 class Preferences;
 class StationRefresh;
-struct Outlets;
 struct ServerDates;
+struct UpdateNoticeControls;
 
 /// Main thread. Borrows everything it is given but the updater's ports.
 class UpdateCheck {
 public:
     UpdateCheck(UpdaterPorts ports, const Clock& clock, Preferences& preferences, ServerDates& serverDates,
-        StationRefresh& stationRefresh, Outlets& outlets);
+        StationRefresh& stationRefresh, UpdateNoticeControls& notice);
     UpdateCheck(const UpdateCheck&) = delete;
     UpdateCheck& operator=(const UpdateCheck&) = delete;
     ~UpdateCheck() = default;
@@ -49,7 +49,7 @@ private:
     Preferences& preferences_;
     ServerDates& serverDates_;
     StationRefresh& stationRefresh_;
-    Outlets& outlets_;
+    UpdateNoticeControls& notice_;
     std::function<void(const std::shared_ptr<AppUpdater>&)> observer_;
 };
 

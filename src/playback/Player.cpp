@@ -2,14 +2,16 @@
 
 #include "platform/NotificationCenter.h"
 #include "playback/StreamAddress.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 namespace sonavel {
 
-Player::Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, Outlets& outlets)
+Player::Player(
+    StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, MainControls& controls, MenuItem& menuMute)
     : streamPlayers_(streamPlayers)
     , notificationCenter_(notificationCenter)
-    , outlets_(outlets)
+    , controls_(controls)
+    , menuMute_(menuMute)
 {
 }
 
@@ -59,8 +61,8 @@ void Player::resume()
 
 void Player::becomePlaying()
 {
-    outlets_.buttonPlayPause.setImage("pause.png");
-    outlets_.buttonStop.setEnabled(true);
+    controls_.buttonPlayPause.setImage("pause.png");
+    controls_.buttonStop.setEnabled(true);
     isPlay = true;
     isStop = false;
 }
@@ -69,8 +71,8 @@ void Player::pause()
 {
     if (mediaPlayer)
         mediaPlayer->pause();
-    outlets_.buttonPlayPause.setImage("play.png");
-    outlets_.buttonStop.setEnabled(true);
+    controls_.buttonPlayPause.setImage("play.png");
+    controls_.buttonStop.setEnabled(true);
     isPlay = false;
     isStop = false;
 }
@@ -83,8 +85,8 @@ void Player::buttonStop()
 void Player::stop()
 {
     mediaPlayer.reset();
-    outlets_.buttonPlayPause.setImage("play.png");
-    outlets_.buttonStop.setEnabled(false);
+    controls_.buttonPlayPause.setImage("play.png");
+    controls_.buttonStop.setEnabled(false);
     isPlay = false;
     isStop = true;
 }
@@ -97,18 +99,18 @@ void Player::buttonMute()
 
 void Player::mute()
 {
-    outlets_.buttonMute.setTitleColor(isMute ? TitleColor::Red : TitleColor::Black);
-    outlets_.buttonMute.setState(isMute);
-    outlets_.menuMute.setState(isMute);
-    outlets_.imageVolume.setImage(isMute ? "muted.png" : "volume.png");
-    outlets_.sliderVolume.setEnabled(!isMute);
+    controls_.buttonMute.setTitleColor(isMute ? TitleColor::Red : TitleColor::Black);
+    controls_.buttonMute.setState(isMute);
+    menuMute_.setState(isMute);
+    controls_.imageVolume.setImage(isMute ? "muted.png" : "volume.png");
+    controls_.sliderVolume.setEnabled(!isMute);
     if (mediaPlayer)
         mediaPlayer->setMuted(isMute);
 }
 
 void Player::sliderVolume()
 {
-    sliderValue = outlets_.sliderVolume.floatValue();
+    sliderValue = controls_.sliderVolume.floatValue();
     applyVolume();
 }
 

@@ -8,8 +8,9 @@
 
 namespace sonavel {
 
+class MenuItem;
 class NotificationCenter;
-struct Outlets;
+struct MainControls;
 
 /// Three states: Stopped (`isStop`, no `mediaPlayer`), Playing (`isPlay`) and Paused (neither), in each of them muted
 /// or not. What the stream itself does changes none of this: a stream that stalls or fails is still Playing.
@@ -17,7 +18,8 @@ struct Outlets;
 /// Main thread. Borrows everything it is given.
 class Player {
 public:
-    Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, Outlets& outlets);
+    Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, MainControls& controls,
+        MenuItem& menuMute);
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
     ~Player() = default;
@@ -69,7 +71,8 @@ private:
 
     StreamPlayers& streamPlayers_;
     NotificationCenter& notificationCenter_;
-    Outlets& outlets_;
+    MainControls& controls_;
+    MenuItem& menuMute_;
 };
 
 } // namespace sonavel

@@ -5,7 +5,7 @@
 #include "playback/Player.h"
 #include "prefs/PlaceholderKeys.h"
 #include "prefs/PreferenceFields.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <algorithm>
 #include <memory>
@@ -14,14 +14,15 @@
 namespace sonavel {
 
 StationSelection::StationSelection(const StationList& stationList, const PreferenceFields& preferences, Player& player,
-    const LocalizedStrings& localizedStrings, Outlets& outlets)
+    const LocalizedStrings& localizedStrings, MainControls& controls, PopUpButton& popupDefaultButtonListRadio)
     : stationList_(stationList)
     , preferences_(preferences)
     , player_(player)
     , localizedStrings_(localizedStrings)
-    , outlets_(outlets)
+    , controls_(controls)
+    , popupDefaultButtonListRadio_(popupDefaultButtonListRadio)
 {
-    for (PopUpButton* popUp : {&outlets.popupbuttonRadioList, &outlets.popupDefaultButtonListRadio})
+    for (PopUpButton* popUp : {&controls.popupbuttonRadioList, &popupDefaultButtonListRadio})
         popUp->setPresentItems([&stationList] { return stationList.numberOfStations() + 1; });
 }
 
@@ -35,29 +36,29 @@ void StationSelection::updatePopupListRadioWithListStation()
         for (const auto& station : *stationList_.listRadio)
             titles->push_back(station->radio());
 
-    outlets_.popupbuttonRadioList.setItems(titles);
-    outlets_.popupDefaultButtonListRadio.setItems(titles);
-    outlets_.popupbuttonRadioList.setEnabled(hasStations);
-    outlets_.popupDefaultButtonListRadio.setEnabled(hasStations);
-    outlets_.sliderVolume.setEnabled(hasStations);
-    outlets_.buttonMute.setEnabled(hasStations);
+    controls_.popupbuttonRadioList.setItems(titles);
+    popupDefaultButtonListRadio_.setItems(titles);
+    controls_.popupbuttonRadioList.setEnabled(hasStations);
+    popupDefaultButtonListRadio_.setEnabled(hasStations);
+    controls_.sliderVolume.setEnabled(hasStations);
+    controls_.buttonMute.setEnabled(hasStations);
 }
 
 void StationSelection::changeStation(bool previous)
 {
-    outlets_.buttonPlayPause.setEnabled(false);
-    outlets_.buttonPlayPause.setImage("play.png");
+    controls_.buttonPlayPause.setEnabled(false);
+    controls_.buttonPlayPause.setImage("play.png");
     player_.isPlay = false;
     player_.isStop = true;
     choose(0);
 
     const int item = selectedItem();
-    const int last = std::max(outlets_.popupbuttonRadioList.numberOfItems() - 1, 0);
+    const int last = std::max(controls_.popupbuttonRadioList.numberOfItems() - 1, 0);
     const int first = std::min(1, last);
     if (previous)
-        outlets_.popupbuttonRadioList.selectItemAtIndex(item > first ? item - 1 : last);
+        controls_.popupbuttonRadioList.selectItemAtIndex(item > first ? item - 1 : last);
     else
-        outlets_.popupbuttonRadioList.selectItemAtIndex(item < last ? item + 1 : first);
+        controls_.popupbuttonRadioList.selectItemAtIndex(item < last ? item + 1 : first);
     popupRadioList();
 }
 
@@ -65,8 +66,8 @@ void StationSelection::popupRadioList()
 {
     const int item = selectedItem();
     choose(item);
-    outlets_.buttonPlayPause.setEnabled(item > 0);
-    outlets_.buttonPlayPause.setImage("play.png");
+    controls_.buttonPlayPause.setEnabled(item > 0);
+    controls_.buttonPlayPause.setImage("play.png");
     if (item > 0 && preferences_.PREF_IS_AUTOPLAY)
         player_.play();
     else
@@ -84,15 +85,15 @@ void StationSelection::choose(int item)
 /// The selected item, 0 when it stands for no station.
 int StationSelection::selectedItem() const
 {
-    return std::max(outlets_.popupbuttonRadioList.indexOfSelectedItem(), 0);
+    return std::max(controls_.popupbuttonRadioList.indexOfSelectedItem(), 0);
 }
 
 void StationSelection::validateControls()
 {
-    if (outlets_.popupbuttonRadioList.indexOfSelectedItem() < 0 && player_.isStop)
-        outlets_.buttonPlayPause.setEnabled(false);
+    if (controls_.popupbuttonRadioList.indexOfSelectedItem() < 0 && player_.isStop)
+        controls_.buttonPlayPause.setEnabled(false);
     if (stationList_.numberOfStations() == 0)
-        outlets_.popupDefaultButtonListRadio.setEnabled(false);
+        popupDefaultButtonListRadio_.setEnabled(false);
 }
 
 void StationSelection::selectDefaultStation()
@@ -106,10 +107,10 @@ void StationSelection::selectDefaultStation()
     if (found == stations.end())
         return;
     const int item = static_cast<int>(found - stations.begin()) + 1;
-    outlets_.popupDefaultButtonListRadio.selectItemAtIndex(item);
-    outlets_.popupbuttonRadioList.selectItemAtIndex(item);
+    popupDefaultButtonListRadio_.selectItemAtIndex(item);
+    controls_.popupbuttonRadioList.selectItemAtIndex(item);
     choose(item);
-    outlets_.buttonPlayPause.setEnabled(true);
+    controls_.buttonPlayPause.setEnabled(true);
     if (preferences_.PREF_IS_AUTOPLAY_OPEN_APP)
         player_.play();
 }

@@ -5,8 +5,9 @@ namespace sonavel {
 
 class LocalizedStrings;
 class Player;
+class PopUpButton;
 class StationList;
-struct Outlets;
+struct MainControls;
 struct PreferenceFields;
 
 /// Item 0 of both pop-ups is a placeholder, item i shows the station at position i − 1 of the list. No selected item,
@@ -16,7 +17,7 @@ struct PreferenceFields;
 class StationSelection {
 public:
     StationSelection(const StationList& stationList, const PreferenceFields& preferences, Player& player,
-        const LocalizedStrings& localizedStrings, Outlets& outlets);
+        const LocalizedStrings& localizedStrings, MainControls& controls, PopUpButton& popupDefaultButtonListRadio);
     StationSelection(const StationSelection&) = delete;
     StationSelection& operator=(const StationSelection&) = delete;
     ~StationSelection() = default;
@@ -49,7 +50,8 @@ private:
     const PreferenceFields& preferences_;
     Player& player_;
     const LocalizedStrings& localizedStrings_;
-    Outlets& outlets_;
+    MainControls& controls_;
+    PopUpButton& popupDefaultButtonListRadio_;
 };
 
 } // namespace sonavel

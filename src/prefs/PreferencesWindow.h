@@ -4,15 +4,15 @@
 namespace sonavel {
 
 class StationList;
-struct Outlets;
 struct PreferenceFields;
+struct PreferencesControls;
 
 /// Its actions change the fields alone; they are stored at the next store of the preferences.
 ///
 /// Main thread. Borrows everything it is given.
 class PreferencesWindow {
 public:
-    PreferencesWindow(PreferenceFields& preferences, const StationList& stationList, Outlets& outlets);
+    PreferencesWindow(PreferenceFields& preferences, const StationList& stationList, PreferencesControls& controls);
     PreferencesWindow(const PreferencesWindow&) = delete;
     PreferencesWindow& operator=(const PreferencesWindow&) = delete;
     ~PreferencesWindow() = default;
@@ -37,7 +37,7 @@ public:
 private:
     PreferenceFields& preferences_;
     const StationList& stationList_;
-    Outlets& outlets_;
+    PreferencesControls& controls_;
 };
 
 } // namespace sonavel

@@ -6,11 +6,7 @@
 #include "adapters/PlistPreferenceDomains.h"
 #include "adapters/PosixFiles.h"
 #include "adapters/SystemClock.h"
-#include "app/Actions.h"
 #include "app/AppDelegate.h"
-#include "app/CountedAlerts.h"
-#include "app/Gate.h"
-#include "app/MediaControls.h"
 #include "app/Ports.h"
 #include "app/WinSonavelController.h"
 #include "platform/NotificationCenter.h"
@@ -36,7 +32,7 @@
 #include "qt/windows/NowPlayingText.h"
 #include "qt/windows/SplashScreen.h"
 #include "server/DataServer.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -93,10 +89,11 @@ struct Program::Parts {
         , curl(programBundle().shortVersion)
         , httpClient(curl)
         , engine(eventLoop, notificationCenter, enginePath())
-        , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, outlets)
-        , actions(controller, outlets, gate)
-        , mediaControls(controller, outlets, actions, clock)
-        , windows(outlets, actions, settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
+        , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, controls)
+        , windows(
+              controls, controller.actions,
+              [this](const Text& path) { controller.stationImport.importRadioListFromFileAtPath(path); },
+              settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
     {
     }
 
@@ -141,12 +138,9 @@ struct Program::Parts {
     AwaitingHttpClient httpClient;
     EngineProcess engine;
 
-    Outlets outlets;
+    Controls controls;
     AppDelegate appDelegate;
     WinSonavelController controller;
-    Gate gate;
-    Actions actions;
-    MediaControls mediaControls;
 
     ProgramWindows windows;
     std::unique_ptr<SplashScreen> splashScreen;
@@ -207,7 +201,7 @@ void Program::start(std::function<void()> whenVisible)
     parts_->controller.init();
     parts_->isInitialized = true;
     parts_->windows.connectMainWindow();
-    parts_->appDelegate.window = &parts_->outlets.winSonavel;
+    parts_->appDelegate.window = &parts_->controls.main.winSonavel;
     parts_->engine.setNowPlayingObserver([this](const NowPlaying& nowPlaying) { showNowPlaying(nowPlaying); });
     afterFirstPaint(parts_->windows.mainWindow(), [this, whenVisible = std::move(whenVisible)] {
         parts_->engine.start();
@@ -216,18 +210,18 @@ void Program::start(std::function<void()> whenVisible)
         whenVisible();
     });
     parts_->controller.awakeFromNib();
-    parts_->actions.validateItems();
+    parts_->controller.actions.validateItems();
     parts_->appDelegate.applicationDidFinishLaunching();
 }
 
 /// Nothing of it is needed before there is a window.
 void Program::joinDesktop()
 {
-    parts_->mediaPlayerBus = std::make_unique<MediaPlayerBus>(parts_->mediaControls);
-    parts_->actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
+    parts_->mediaPlayerBus = std::make_unique<MediaPlayerBus>(parts_->controller.mediaControls);
+    parts_->controller.actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
     parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
     if (parts_->instance)
-        parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->mediaControls.raise(); });
+        parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->controller.mediaControls.raise(); });
 }
 
 void Program::showNowPlaying(const NowPlaying& nowPlaying)
@@ -244,10 +238,10 @@ void Program::showWaiting(const QString& host)
         return;
     if (!parts_->splashScreen) {
         parts_->splashScreen = std::make_unique<SplashScreen>();
-        connectSplashScreen(parts_->outlets, *parts_->splashScreen);
+        connectSplashScreen(parts_->controls.winSplashScreen, *parts_->splashScreen);
     }
     parts_->splashScreen->setWaitingFor(qtTrId("SPLASH_WAITING").replace(QStringLiteral("%@"), host));
-    parts_->outlets.winSplashScreen.setIsVisible(true);
+    parts_->controls.winSplashScreen.setIsVisible(true);
 }
 
 /// Preferences that are not loaded yet must not be stored.

@@ -1,8 +1,8 @@
 #include "qt/ProgramWindows.h"
 
 #include "app/Actions.h"
-#include "app/WinSonavelController.h"
 #include "platform/Bundle.h"
+#include "qt/binders/InitialState.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"
@@ -24,9 +24,10 @@ constexpr int noticeWidth = 22; // times the height of a line: room for the titl
 
 } // namespace
 
-ProgramWindows::ProgramWindows(Outlets& outlets, Actions& actions, const QString& stateFolder)
-    : outlets_(outlets)
+ProgramWindows::ProgramWindows(Controls& controls, Actions& actions, ImportFile importFile, const QString& stateFolder)
+    : controls_(controls)
     , actions_(actions)
+    , importFile_(std::move(importFile))
     , memory_(stateFolder)
     , menus_(std::make_unique<ProgramMenus>([this] { actions_.validateItems(); }))
     , mainWindow_(std::make_unique<MainWindow>(menus_.get()))
@@ -38,9 +39,9 @@ ProgramWindows::~ProgramWindows() = default;
 
 void ProgramWindows::connectMainWindow()
 {
-    connectMenus(outlets_, *menus_);
-    connectBeforehand(outlets_);
-    sonavel::connectMainWindow(outlets_, *mainWindow_);
+    connectMenus(controls_.menu, *menus_);
+    connectInitialState(controls_);
+    sonavel::connectMainWindow(controls_.main, *mainWindow_);
     isMainWindowConnected_ = true;
 }
 
@@ -54,28 +55,27 @@ void ProgramWindows::buildOtherWindows()
 
 void ProgramWindows::buildStationListWindow()
 {
-    stationListWindow_ = std::make_unique<StationListWindow>(outlets_.tableViewListRadio);
+    stationListWindow_ = std::make_unique<StationListWindow>(controls_.stationList.tableViewListRadio);
     StationListWindow& window = *stationListWindow_;
     menus_->addTo(window);
     memory_.restore(window);
     window.setAttribute(Qt::WA_ShowWithoutActivating);
-    connectStationListWindow(outlets_, window);
+    connectStationListWindow(controls_.stationList, window);
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
     if (window.isVisible() && mainWindow_->isActiveWindow())
         mainWindow_->raise(); // it keeps the keyboard, and is not to be covered
     window.whenFileDropped([this](const Text& path) {
-        actions_.perform(stationListWindow_.get(), ListUse::Exclusive,
-            [path](WinSonavelController& controller) { controller.stationImport.importRadioListFromFileAtPath(path); });
+        actions_.perform(stationListWindow_.get(), ListUse::Exclusive, [this, path] { importFile_(path); });
     });
     auto* sheet = new EditSheetDialog(window);
-    connectEditSheet(outlets_, *sheet);
+    connectEditSheet(controls_.editSheet, *sheet);
 }
 
 void ProgramWindows::buildPreferences()
 {
     ProgramDialog* sheet = ProgramDialog::from<Ui::PreferencesSheet>(mainWindow_.get()).release();
     menus_->addTo(*sheet);
-    connectPreferences(outlets_, *sheet);
+    connectPreferences(controls_.preferences, *sheet);
 }
 
 void ProgramWindows::buildAboutWindow()
@@ -86,7 +86,7 @@ void ProgramWindows::buildAboutWindow()
     label("labelAppName")->setText(QStringLiteral("Sonavel"));
     label("labelAppVersion")
         ->setText(qtTrId("ABOUT_VERSION").replace(QStringLiteral("%@"), toQString(programBundle().shortVersion)));
-    connectAboutWindow(outlets_, window);
+    connectAboutWindow(controls_.about, window);
 }
 
 void ProgramWindows::buildUpdateNotice()
@@ -94,7 +94,7 @@ void ProgramWindows::buildUpdateNotice()
     ProgramDialog& window = *dialogs_.emplace_back(ProgramDialog::from<Ui::UpdateNotice>());
     auto* label = window.findChild<QLabel*>(QStringLiteral("labelUpdateNotification"));
     label->setMinimumWidth(window.fontMetrics().height() * noticeWidth);
-    connectUpdateNotice(outlets_, window);
+    connectUpdateNotice(controls_.updateNotice, window);
 }
 
 void ProgramWindows::showNotice(const QString& text)

@@ -1,8 +1,10 @@
 // All windows of the program, with their menus.
 #pragma once
 
+#include "base/Text.h"
 #include "qt/windows/WindowMemory.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -13,14 +15,17 @@ class MainWindow;
 class ProgramDialog;
 class ProgramMenus;
 class StationListWindow;
-struct Outlets;
+struct Controls;
 
 /// The main window is built first, so that it is on the screen as soon as can be; what the program says to the others
 /// meanwhile is rendered once they are there.
 class ProgramWindows {
 public:
-    /// Builds the main window, which shows what its description says until it is connected.
-    ProgramWindows(Outlets& outlets, Actions& actions, const QString& stateFolder);
+    using ImportFile = std::function<void(const Text& path)>;
+
+    /// Builds the main window, which shows what its description says until it is connected. `importFile` imports a list
+    /// that was dropped on the station list window.
+    ProgramWindows(Controls& controls, Actions& actions, ImportFile importFile, const QString& stateFolder);
     ProgramWindows(const ProgramWindows&) = delete;
     ProgramWindows& operator=(const ProgramWindows&) = delete;
     ~ProgramWindows();
@@ -45,8 +50,9 @@ private:
     void buildAboutWindow();
     void buildUpdateNotice();
 
-    Outlets& outlets_;
+    Controls& controls_;
     Actions& actions_;
+    const ImportFile importFile_;
     WindowMemory memory_;
     std::unique_ptr<ProgramMenus> menus_;
     std::unique_ptr<MainWindow> mainWindow_;

@@ -81,19 +81,6 @@ void TableView::selectedByUser(const IndexSet& rows, long latest)
         action.send();
 }
 
-void TableView::editedByUser(const Text& value, const Text& column, long row)
-{
-    edit_ = {value, column, row};
-    editAction.send();
-}
-
-void TableView::passEditOn()
-{
-    const auto edit = std::exchange(edit_, std::nullopt);
-    if (edit && dataSource_ != nullptr)
-        dataSource_->tableView(*this, edit->value, edit->column.view(), edit->row);
-}
-
 /// Keeps the batches in step, so that the row selected before the last one is known when the last one no longer is.
 void TableView::select(TableViewState& state, IndexSet rows, long latest)
 {

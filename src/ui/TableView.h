@@ -6,8 +6,9 @@
 #include "ui/Rendered.h"
 
 #include <cstddef>
-#include <optional>
+#include <functional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace sonavel {
@@ -32,6 +33,13 @@ public:
     /// The user ended the editing of a cell.
     virtual void tableView(
         const TableView& tableView, const Text& setObjectValue, std::string_view forTableColumn, long row) = 0;
+};
+
+/// What the user typed into a cell.
+struct CellEdit {
+    Text value;
+    Text column;
+    long row;
 };
 
 struct TableViewState {
@@ -80,34 +88,30 @@ public:
     {
         update([](TableViewState& state) { ++state.endsOfEditing; });
     }
-    /// Hands the edit that the user ended last to the data source.
-    void passEditOn();
 
     /// The user selected exactly these rows; `latest` is the one that he touched.
     void selectedByUser(const IndexSet& rows, long latest);
     void doubleClickedByUser() const { doubleAction.send(); }
     /// The user ended the editing of a cell, changed or not.
-    void editedByUser(const Text& value, const Text& column, long row);
+    void editedByUser(const CellEdit& edit) const
+    {
+        if (editAction_)
+            editAction_(edit);
+    }
+    /// What happens when the user ended the editing of a cell.
+    void setEditAction(std::function<void(const CellEdit&)> editAction) { editAction_ = std::move(editAction); }
 
     /// The user selected other rows.
     Action action;
     /// The user clicked a row twice.
     Action doubleAction;
-    /// The user ended the editing of a cell; `passEditOn` is to follow.
-    Action editAction;
 
 private:
-    struct Edit {
-        Text value;
-        Text column;
-        long row;
-    };
-
     void select(TableViewState& state, IndexSet rows, long latest);
     [[nodiscard]] std::size_t rowsInDataSource() const;
 
     TableViewDataSource* dataSource_ = nullptr;
-    std::optional<Edit> edit_;
+    std::function<void(const CellEdit&)> editAction_;
     /// The selected rows as they were selected, each batch at one stroke, the latest last.
     std::vector<IndexSet> batches_;
 };

@@ -12,11 +12,11 @@ class MediaControlsTest : public ControllerTest {
 protected:
     using Status = MediaState::Status;
 
-    MediaControls media{controller, outlets, actions, platform.clock};
+    MediaControls& media = controller.mediaControls;
 
     void choose(int item)
     {
-        outlets.popupbuttonRadioList.chosenByUser(item);
+        controls.main.popupbuttonRadioList.chosenByUser(item);
         (void)media.state();
     }
 
@@ -28,7 +28,7 @@ protected:
             platform.httpClient.whileAsking = [] {};
             given();
         };
-        outlets.menuCheckUpdates.chosenByUser();
+        controls.menu.menuCheckUpdates.chosenByUser();
     }
 };
 
@@ -97,8 +97,8 @@ TEST_F(MediaControlsTest, TheVolumeFollowsTheSliderAndStaysWithinIt)
         EXPECT_EQ(media.state().volume, heard) << set;
         EXPECT_EQ(controller.player.sliderValue, heard);
     }
-    outlets.buttonMute.setEnabled(true);
-    outlets.buttonMute.pressedByUser();
+    controls.main.buttonMute.setEnabled(true);
+    controls.main.buttonMute.pressedByUser();
     media.setVolume(0.9);
     EXPECT_EQ(media.state().volume, 0.5) << "muted, the slider is disabled";
 }
@@ -123,12 +123,12 @@ TEST_F(MediaControlsTest, WhatCameBeforeAQuestionWasAnsweredIsDroppedButPauseAnd
         media.next();
         media.setVolume(0.1);
         media.quit();
-        outlets.buttonMute.setEnabled(true);
-        outlets.buttonMute.pressedByUser();
+        controls.main.buttonMute.setEnabled(true);
+        controls.main.buttonMute.pressedByUser();
     });
     media.quit();
     EXPECT_EQ(media.state().status, Status::Stopped);
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
     EXPECT_EQ(media.state().volume, volume);
     EXPECT_EQ(platform.alerts.shown.size(), 1U);
     EXPECT_TRUE(controller.player.isMute) << "a click waits for as long as it takes";
@@ -139,15 +139,15 @@ TEST_F(MediaControlsTest, NothingOvertakesARemoval)
     startWithStations("A;http://a/\r");
     choose(1);
     media.play();
-    outlets.winWebRadioListEdit.setIsVisible(true);
-    outlets.tableViewListRadio.selectedByUser({0}, 0);
+    controls.stationList.winWebRadioListEdit.setIsVisible(true);
+    controls.stationList.tableViewListRadio.selectedByUser({0}, 0);
     actions.validateItems();
     platform.alerts.expect("<REMOVE_RADIO_TO_PLAY>", secondButtonAnswer, [&] {
         media.pause();
         media.stop();
         EXPECT_EQ(media.state().status, Status::Playing);
     });
-    outlets.radioRemove.pressedByUser();
+    controls.stationList.radioRemove.pressedByUser();
     EXPECT_EQ(media.state().status, Status::Playing);
     media.pause();
     EXPECT_EQ(media.state().status, Status::Paused);
@@ -158,12 +158,12 @@ TEST_F(MediaControlsTest, WhatWaitsForAServerIsDoneWithinTwoSeconds)
     startWithStations("A;http://a/\rB;http://b/\r");
     for (const auto& [answered, chosen] : {std::pair{"12:00:02", 1}, {"12:00:03", 0}}) {
         platform.clock.set("2016-10-05 12:00:00 +0000");
-        outlets.popupbuttonRadioList.selectItemAtIndex(0);
+        controls.main.popupbuttonRadioList.selectItemAtIndex(0);
         doWhileTheServerIsAsked([&, answered = answered] {
             media.next();
             platform.clock.set("2016-10-05 " + std::string(answered) + " +0000");
         });
-        EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), chosen) << answered;
+        EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), chosen) << answered;
     }
 }
 
@@ -205,7 +205,7 @@ TEST_F(MediaControlsTest, NothingThatWaitsForAServerUndoesAPauseOrAStopThatCameA
         else if (row.before == Status::Paused)
             media.pause();
         ASSERT_EQ(media.state().status, row.before);
-        outlets.sliderVolume.setDoubleValue(1.0);
+        controls.main.sliderVolume.setDoubleValue(1.0);
         doWhileTheServerIsAsked([&] {
             for (const Command command : row.commands)
                 (media.*command)();
@@ -213,7 +213,7 @@ TEST_F(MediaControlsTest, NothingThatWaitsForAServerUndoesAPauseOrAStopThatCameA
         });
         const auto number = &row - cases;
         EXPECT_EQ(media.state().status, row.after) << number;
-        EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), row.chosen) << number;
+        EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), row.chosen) << number;
         EXPECT_EQ(media.state().volume, 0.25) << number;
     }
 }

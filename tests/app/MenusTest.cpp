@@ -11,14 +11,14 @@ protected:
         actions.validateItems();
         std::string tags;
         for (const TaggedItem& row : taggedItems())
-            tags += (outlets.*row.item).state().isEnabled ? std::to_string(row.tag) + " " : "";
+            tags += (controls.menu.*row.item).state().isEnabled ? std::to_string(row.tag) + " " : "";
         return tags;
     }
 
     void showEditor(bool hasKeyboard)
     {
-        outlets.winWebRadioListEdit.setIsVisible(true);
-        outlets.winWebRadioListEdit.keyWindowChangedByUser(hasKeyboard);
+        controls.stationList.winWebRadioListEdit.setIsVisible(true);
+        controls.stationList.winWebRadioListEdit.keyWindowChangedByUser(hasKeyboard);
     }
 };
 
@@ -26,15 +26,15 @@ TEST_F(MenusTest, ItemsOfTheListNeedItsWindowWithTheKeyboard)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
     EXPECT_EQ(enabled(), "0 1003 2002 2003 2004 4000 4001 ");
-    EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
+    EXPECT_EQ(controls.menu.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
     showEditor(false);
     EXPECT_EQ(enabled(), "0 1003 2002 2003 2004 ");
-    EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<CLOSE_EDIT_RADIO_LIST>");
+    EXPECT_EQ(controls.menu.menuRadioShowEditRadio.state().title, "<CLOSE_EDIT_RADIO_LIST>");
     showEditor(true);
     EXPECT_EQ(enabled(), "0 1000 1003 2002 2003 2004 3000 3001 ");
-    outlets.tableViewListRadio.selectedByUser({0}, 0);
+    controls.stationList.tableViewListRadio.selectedByUser({0}, 0);
     EXPECT_EQ(enabled(), "0 1000 1001 1002 1003 2002 2003 2004 3000 3001 ");
-    outlets.tableViewListRadio.selectedByUser({0, 1}, 1);
+    controls.stationList.tableViewListRadio.selectedByUser({0, 1}, 1);
     EXPECT_EQ(enabled(), "0 1000 1002 1003 2002 2003 2004 3000 3001 ");
 }
 
@@ -45,105 +45,107 @@ TEST_F(MenusTest, NothingIsEnabledThatActsOnRowsAndItemsLeftOverFromAnErasedList
         controller.stationList.listRadio = std::make_shared<StationRecords>();
         startWithStations("A;http://a/\rB;http://b/\r");
         showEditor(true);
-        outlets.popupbuttonRadioList.chosenByUser(2);
-        outlets.tableViewListRadio.selectedByUser(rows, 1);
+        controls.main.popupbuttonRadioList.chosenByUser(2);
+        controls.stationList.tableViewListRadio.selectedByUser(rows, 1);
         const std::string whileThere = enabled();
         EXPECT_NE(whileThere.find("1002 "), std::string::npos);
         EXPECT_NE(whileThere.find("2000 "), std::string::npos);
-        EXPECT_TRUE(outlets.buttonPlayPause.state().isEnabled);
+        EXPECT_TRUE(controls.main.buttonPlayPause.state().isEnabled);
 
         platform.alerts.expect("<ERASE_ALL_PREVIOUS_DATA>", firstButtonAnswer);
         platform.files.files["/unreadable.csv"] = "\xFF";
         platform.filePanels.choice = "/unreadable.csv";
-        outlets.menuRadioImport.chosenByUser();
+        controls.menu.menuRadioImport.chosenByUser();
         EXPECT_EQ(enabled(), "0 1000 1003 2002 2003 2004 3000 ");
-        for (const ToolbarItem* item : {&outlets.radioEdit, &outlets.radioRemove, &outlets.radioExport})
+        for (const ToolbarItem* item :
+            {&controls.stationList.radioEdit, &controls.stationList.radioRemove, &controls.stationList.radioExport})
             EXPECT_FALSE(item->state().isEnabled) << item->tag();
-        EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
-        EXPECT_FALSE(outlets.popupDefaultButtonListRadio.state().isEnabled);
+        EXPECT_FALSE(controls.main.buttonPlayPause.state().isEnabled);
+        EXPECT_FALSE(controls.preferences.popupDefaultButtonListRadio.state().isEnabled);
         controller.preferencesWindow.setRadioDefault();
         EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, "B");
-        outlets.tableViewListRadio.doubleClickedByUser();
-        EXPECT_FALSE(outlets.winEditData.isVisible());
+        controls.stationList.tableViewListRadio.doubleClickedByUser();
+        EXPECT_FALSE(controls.editSheet.winEditData.isVisible());
     }
 }
 
 TEST_F(MenusTest, AStreamOfAnErasedListCanBeHeldAndOnceStoppedNotPlayedAgain)
 {
     startWithStations("A;http://a/\r");
-    outlets.popupbuttonRadioList.chosenByUser(1);
-    outlets.buttonPlayPause.pressedByUser();
+    controls.main.popupbuttonRadioList.chosenByUser(1);
+    controls.main.buttonPlayPause.pressedByUser();
     controller.stationList.listRadio = std::make_shared<StationRecords>();
     actions.validateItems();
     for (const bool isPlaying : {false, true}) {
-        outlets.buttonPlayPause.pressedByUser();
+        controls.main.buttonPlayPause.pressedByUser();
         EXPECT_EQ(controller.player.isPlay, isPlaying);
     }
-    outlets.buttonStop.pressedByUser();
-    EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
+    controls.main.buttonStop.pressedByUser();
+    EXPECT_FALSE(controls.main.buttonPlayPause.state().isEnabled);
 }
 
 TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)
 {
     startWithStations("A;http://a/\r");
-    outlets.popupbuttonRadioList.chosenByUser(1);
+    controls.main.popupbuttonRadioList.chosenByUser(1);
     EXPECT_EQ(enabled(), "0 1003 2000 2002 2003 2004 4000 4001 ");
-    outlets.menuPlayPause.chosenByUser();
+    controls.menu.menuPlayPause.chosenByUser();
     EXPECT_EQ(enabled(), "0 1003 2000 2001 2002 2003 2004 4000 4001 ");
-    outlets.menuPlayPause.chosenByUser();
+    controls.menu.menuPlayPause.chosenByUser();
     EXPECT_EQ(enabled(), "0 1003 2000 2001 2002 2003 2004 4000 4001 ") << "paused";
     controller.stationSelection.updatePopupListRadioWithListStation();
     EXPECT_EQ(enabled(), "0 1003 2001 2002 2003 2004 4000 4001 ")
         << "still held, while the pop-up shows its placeholder";
-    outlets.menuMute.chosenByUser();
+    controls.menu.menuMute.chosenByUser();
     EXPECT_TRUE(controller.player.isMute);
-    outlets.menuStop.chosenByUser();
+    controls.menu.menuStop.chosenByUser();
     EXPECT_TRUE(controller.player.isStop);
-    outlets.menuNextStation.chosenByUser();
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    controls.menu.menuNextStation.chosenByUser();
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
 }
 
 TEST_F(MenusTest, ItemsDoWhatTheirTagsSay)
 {
     startWithStations("A;http://a/\rB;http://b/\rC;http://c/\r");
-    outlets.menuPreviousStation.chosenByUser();
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 3);
-    outlets.menuNextStation.chosenByUser();
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    controls.menu.menuPreviousStation.chosenByUser();
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 3);
+    controls.menu.menuNextStation.chosenByUser();
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
 
     showEditor(true);
-    outlets.tableViewListRadio.selectedByUser({1}, 1);
+    controls.stationList.tableViewListRadio.selectedByUser({1}, 1);
     actions.validateItems();
-    outlets.menuRadioEdit.chosenByUser();
-    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "B");
-    outlets.buttonCancel.pressedByUser();
+    controls.menu.menuRadioEdit.chosenByUser();
+    EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "B");
+    controls.editSheet.buttonCancel.pressedByUser();
     platform.alerts.expect("<REMOVE_RADIO>", secondButtonAnswer);
-    outlets.menuRadioRemove.chosenByUser();
+    controls.menu.menuRadioRemove.chosenByUser();
 }
 
 TEST_F(MenusTest, APlaybackItemLeavesAnOpenCellAlone)
 {
     startWithStations("A;http://a/\r");
-    const unsigned before = outlets.tableViewListRadio.state().endsOfEditing;
-    for (MenuItem* item : {&outlets.menuMute, &outlets.menuNextStation, &outlets.menuPlayPause, &outlets.menuStop})
+    const unsigned before = controls.stationList.tableViewListRadio.state().endsOfEditing;
+    for (MenuItem* item : {&controls.menu.menuMute, &controls.menu.menuNextStation, &controls.menu.menuPlayPause,
+             &controls.menu.menuStop})
         item->chosenByUser();
-    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before);
-    outlets.menuRadioShowEditRadio.chosenByUser();
+    EXPECT_EQ(controls.stationList.tableViewListRadio.state().endsOfEditing, before);
+    controls.menu.menuRadioShowEditRadio.chosenByUser();
     platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", secondButtonAnswer);
-    outlets.menuQuit.chosenByUser();
-    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before + 2);
+    controls.menu.menuQuit.chosenByUser();
+    EXPECT_EQ(controls.stationList.tableViewListRadio.state().endsOfEditing, before + 2);
 }
 
 TEST_F(MenusTest, TheListItemTogglesItsWindowAndWaitsForThePreferences)
 {
     start();
-    outlets.menuRadioShowEditRadio.chosenByUser();
-    EXPECT_TRUE(outlets.winWebRadioListEdit.isVisible());
-    outlets.menuRadioShowEditRadio.chosenByUser();
-    EXPECT_FALSE(outlets.winWebRadioListEdit.isVisible());
-    outlets.winPreferences.setIsVisible(true);
+    controls.menu.menuRadioShowEditRadio.chosenByUser();
+    EXPECT_TRUE(controls.stationList.winWebRadioListEdit.isVisible());
+    controls.menu.menuRadioShowEditRadio.chosenByUser();
+    EXPECT_FALSE(controls.stationList.winWebRadioListEdit.isVisible());
+    controls.preferences.winPreferences.setIsVisible(true);
     EXPECT_EQ(enabled(), "0 2002 2003 2004 4000 4001 ");
-    EXPECT_EQ(outlets.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
+    EXPECT_EQ(controls.menu.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");
 }
 
 TEST_F(MenusTest, TagsThatNoItemHasDoNothing)

@@ -18,10 +18,10 @@ protected:
 TEST_F(QuitTest, ThePreferencesAreStoredBeforeTheQuestionWhateverTheAnswer)
 {
     const auto expectStored = [&] { EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A")); };
-    outlets.winSonavel.setIsVisible(false);
+    controls.main.winSonavel.setIsVisible(false);
     platform.alerts.expect(question, secondButtonAnswer, expectStored);
-    EXPECT_EQ(statusOfEnd([&] { outlets.winSonavel.closeRequestedByUser(); }), std::nullopt);
-    EXPECT_TRUE(outlets.winSonavel.isVisible());
+    EXPECT_EQ(statusOfEnd([&] { controls.main.winSonavel.closeRequestedByUser(); }), std::nullopt);
+    EXPECT_TRUE(controls.main.winSonavel.isVisible());
     EXPECT_EQ(platform.alerts.shown.front().buttonTitles, (std::vector<Text>{"<BUTTON_YES>", "<BUTTON_NO>"}));
 
     platform.preferenceDomains.stored.clear();
@@ -31,9 +31,9 @@ TEST_F(QuitTest, ThePreferencesAreStoredBeforeTheQuestionWhateverTheAnswer)
 
 TEST_F(QuitTest, ASessionThatEndsKeepsAnOpenCellAndThePreferences)
 {
-    const unsigned before = outlets.tableViewListRadio.state().endsOfEditing;
+    const unsigned before = controls.stationList.tableViewListRadio.state().endsOfEditing;
     controller.keepWhatIsOpen();
-    EXPECT_EQ(outlets.tableViewListRadio.state().endsOfEditing, before + 1);
+    EXPECT_EQ(controls.stationList.tableViewListRadio.state().endsOfEditing, before + 1);
     EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A"));
 }
 

@@ -21,14 +21,14 @@ TEST_F(StartTest, TheStepsComeInTheirOrder)
     const auto logWhenShown = [&](auto& outlet, const std::string& name) {
         outlet.connect(outlet.state(), [this, name](const auto&) { platform.log.push_back(name); });
     };
-    logWhenShown(outlets.popupbuttonRadioList, "pop-up");
-    logWhenShown(outlets.winSonavel, "main window");
-    logWhenShown(outlets.checkBoxDefaultAutoPlay, "check box");
-    logWhenShown(outlets.sliderDefaultVolume, "default volume");
-    logWhenShown(outlets.tableViewListRadio, "table");
-    logWhenShown(outlets.winWebRadioListEdit, "station list");
-    logWhenShown(outlets.sliderVolume, "volume");
-    logWhenShown(outlets.buttonPlayPause, "play/pause");
+    logWhenShown(controls.main.popupbuttonRadioList, "pop-up");
+    logWhenShown(controls.main.winSonavel, "main window");
+    logWhenShown(controls.preferences.checkBoxDefaultAutoPlay, "check box");
+    logWhenShown(controls.preferences.sliderDefaultVolume, "default volume");
+    logWhenShown(controls.stationList.tableViewListRadio, "table");
+    logWhenShown(controls.stationList.winWebRadioListEdit, "station list");
+    logWhenShown(controls.main.sliderVolume, "volume");
+    logWhenShown(controls.main.buttonPlayPause, "play/pause");
     platform.log.clear();
     controller.stationList.listRadio->push_back(std::make_shared<KVStationWebRadio>(1, "A", "http://a/"));
     controller.preferences.PREF_DEFAULT_STATION = "A";
@@ -58,13 +58,13 @@ TEST_F(StartTest, TheControlsShowThePreferences)
 {
     putPreferences({{"isAutoPlay", "YES"}, {"isVisibleWinEdit", "YES"}, {"defaultVolume", "0.25"}});
     startWithStations("A;http://a/\r");
-    EXPECT_TRUE(outlets.checkBoxDefaultAutoPlay.state().isOn);
-    EXPECT_FALSE(outlets.checkBoxDefaultAutoPlayAtStartApp.state().isOn);
-    EXPECT_TRUE(outlets.winWebRadioListEdit.isVisible());
-    EXPECT_EQ(outlets.sliderVolume.floatValue(), 0.25F);
-    EXPECT_EQ(outlets.sliderDefaultVolume.state(), (SliderState{0.0, 1.0, 0.25, false}));
-    EXPECT_FALSE(outlets.tableViewListRadio.state().allowsMultipleSelection);
-    EXPECT_EQ(outlets.winSonavel.state().frontRequests, 1U);
+    EXPECT_TRUE(controls.preferences.checkBoxDefaultAutoPlay.state().isOn);
+    EXPECT_FALSE(controls.preferences.checkBoxDefaultAutoPlayAtStartApp.state().isOn);
+    EXPECT_TRUE(controls.stationList.winWebRadioListEdit.isVisible());
+    EXPECT_EQ(controls.main.sliderVolume.floatValue(), 0.25F);
+    EXPECT_EQ(controls.preferences.sliderDefaultVolume.state(), (SliderState{0.0, 1.0, 0.25, false}));
+    EXPECT_FALSE(controls.stationList.tableViewListRadio.state().allowsMultipleSelection);
+    EXPECT_EQ(controls.main.winSonavel.state().frontRequests, 1U);
 }
 
 TEST_F(StartTest, ARefreshAtTheStartStoresThatTheStationListIsHidden)
@@ -72,7 +72,7 @@ TEST_F(StartTest, ARefreshAtTheStartStoresThatTheStationListIsHidden)
     putPreferences({{"isVisibleWinEdit", "YES"}});
     platform.clock.microsecond = 123'456;
     start();
-    EXPECT_FALSE(outlets.winWebRadioListEdit.isVisible());
+    EXPECT_FALSE(controls.stationList.winWebRadioListEdit.isVisible());
     EXPECT_EQ(controller.preferences.PREF_DATE_UPDATE_LAST_DATACHECK,
         momentFromInternationalForm("2016-10-05 12:00:00 +0000"));
 }
@@ -81,9 +81,9 @@ TEST_F(StartTest, TheFirstStationOfTheDefaultsNameIsSelectedAndPlayedWhenAskedFo
 {
     putPreferences({{"defaultStation", "Same"}, {"isAutoPlayOpenApp", "YES"}, {"defaultVolume", "0.4"}});
     startWithStations("Other;http://other/\rSame;http://first/\rSame;http://second/\r");
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 2);
-    EXPECT_EQ(outlets.popupDefaultButtonListRadio.indexOfSelectedItem(), 2);
-    EXPECT_TRUE(outlets.buttonPlayPause.state().isEnabled);
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 2);
+    EXPECT_EQ(controls.preferences.popupDefaultButtonListRadio.indexOfSelectedItem(), 2);
+    EXPECT_TRUE(controls.main.buttonPlayPause.state().isEnabled);
     EXPECT_EQ(platform.streamPlayers.last().address, Text("http://first/"));
     EXPECT_EQ(platform.streamPlayers.last().volume, 0.4F);
 }
@@ -92,9 +92,9 @@ TEST_F(StartTest, TheDefaultStationIsReadyAndSilentUnlessItIsToPlayAtTheStart)
 {
     putPreferences({{"defaultStation", "A"}, {"isAutoPlay", "YES"}, {"isAutoPlayOpenApp", "NO"}});
     startWithStations("A;http://a/\r");
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
     EXPECT_EQ(controller.player.playRadioLink, Text("http://a/"));
-    EXPECT_TRUE(outlets.buttonPlayPause.state().isEnabled);
+    EXPECT_TRUE(controls.main.buttonPlayPause.state().isEnabled);
     EXPECT_TRUE(controller.player.isStop);
     EXPECT_TRUE(platform.streamPlayers.players.empty());
 }
@@ -116,7 +116,7 @@ TEST_F(StartTest, NoDefaultStationSelectsAndPlaysNothing)
     for (const char* name : {"POP_UP_BUTTON_SELECT_RADIO", "POP_UP_BUTTON_SELECT_RADIO_NULL", "Gone", ""}) {
         putPreferences({{"defaultStation", name}, {"isAutoPlayOpenApp", "YES"}});
         startWithStations("POP_UP_BUTTON_SELECT_RADIO;http://a/\rPOP_UP_BUTTON_SELECT_RADIO_NULL;http://b/\r");
-        EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 0) << name;
+        EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 0) << name;
         EXPECT_TRUE(platform.streamPlayers.players.empty());
         EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, Text(name));
     }
@@ -129,7 +129,7 @@ TEST_F(StartTest, OutletsThatAreNotConnectedAreLeftAlone)
     controller.init();
     controller.awakeFromNib();
     platform.runLoop.turn();
-    EXPECT_EQ(outlets.popupbuttonRadioList.state(), PopUpButtonState());
+    EXPECT_EQ(controls.main.popupbuttonRadioList.state(), PopUpButtonState());
     EXPECT_EQ(platform.streamPlayers.last().volume, 0.0F);
 }
 

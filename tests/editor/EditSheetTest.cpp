@@ -8,24 +8,24 @@ class EditSheetTest : public ControllerTest {
 protected:
     void select(const IndexSet& rows)
     {
-        outlets.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
+        controls.stationList.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
     }
 
     void add(const Text& name, const Text& address)
     {
         controller.editSheet.radioAddToList();
         type(name, address);
-        outlets.buttonAction.setEnabled(true);
-        outlets.buttonAction.pressedByUser();
+        controls.editSheet.buttonAction.setEnabled(true);
+        controls.editSheet.buttonAction.pressedByUser();
     }
 
     void type(const Text& name, const Text& address)
     {
-        outlets.textFieldRadioName.typedByUser(name);
-        outlets.textFieldRadioLink.typedByUser(address);
+        controls.editSheet.textFieldRadioName.typedByUser(name);
+        controls.editSheet.textFieldRadioLink.typedByUser(address);
     }
 
-    [[nodiscard]] Text title() const { return outlets.winWebRadioListEdit.state().title; }
+    [[nodiscard]] Text title() const { return controls.stationList.winWebRadioListEdit.state().title; }
 };
 
 TEST_F(EditSheetTest, AStationNeedsANameOrAnAddressOfItsLeastLength)
@@ -45,36 +45,36 @@ TEST_F(EditSheetTest, AStationNeedsANameOrAnAddressOfItsLeastLength)
 TEST_F(EditSheetTest, AnAddedStationIsSortedInAndTheLastRowSelected)
 {
     startWithStations("B;http://b/\rC;http://c/\rD;http://d/\r");
-    outlets.popupbuttonRadioList.chosenByUser(2);
+    controls.main.popupbuttonRadioList.chosenByUser(2);
     controller.editSheet.radioAddToList();
-    EXPECT_EQ(outlets.buttonAction.title(), "<BUTTON_ADD>");
-    EXPECT_TRUE(outlets.winEditData.state().isSheet);
-    EXPECT_EQ(outlets.winEditData.state().focusReleases, 1U);
+    EXPECT_EQ(controls.editSheet.buttonAction.title(), "<BUTTON_ADD>");
+    EXPECT_TRUE(controls.editSheet.winEditData.state().isSheet);
+    EXPECT_EQ(controls.editSheet.winEditData.state().focusReleases, 1U);
     type("Aa", "http://a/");
-    outlets.buttonAction.setEnabled(true);
-    outlets.buttonAction.pressedByUser();
+    controls.editSheet.buttonAction.setEnabled(true);
+    controls.editSheet.buttonAction.pressedByUser();
     EXPECT_EQ(list(), "Aa;http://a/\rB;http://b/\rC;http://c/\rD;http://d/\r");
     EXPECT_EQ(controller.stationList.listRadio->front()->idRadio(), 4U);
-    EXPECT_EQ(outlets.tableViewListRadio.selectedRowIndexes(), IndexSet{3});
-    EXPECT_EQ(outlets.tableViewListRadio.state().rowToShow, 3);
-    EXPECT_EQ(outlets.popupbuttonRadioList.numberOfItems(), 5);
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 0);
+    EXPECT_EQ(controls.stationList.tableViewListRadio.selectedRowIndexes(), IndexSet{3});
+    EXPECT_EQ(controls.stationList.tableViewListRadio.state().rowToShow, 3);
+    EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 5);
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 0);
     EXPECT_EQ(title(), "<WIN_EDIT_RADIO_LIST> (4)");
-    EXPECT_FALSE(outlets.winEditData.isVisible());
-    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "");
-    EXPECT_EQ(outlets.textFieldRadioLink.stringValue(), "");
+    EXPECT_FALSE(controls.editSheet.winEditData.isVisible());
+    EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "");
+    EXPECT_EQ(controls.editSheet.textFieldRadioLink.stringValue(), "");
 }
 
 TEST_F(EditSheetTest, ChangingTakesWhateverIsTypedAndTheStreamGoesOn)
 {
     putPreferences({{"isAutoPlay", "YES"}});
     startWithStations("A;http://a/\rB;http://b/\r");
-    outlets.popupbuttonRadioList.chosenByUser(1);
+    controls.main.popupbuttonRadioList.chosenByUser(1);
     select({0});
     controller.editorTable.myDoubleClickAction();
-    EXPECT_EQ(outlets.buttonAction.title(), "<BUTTON_EDIT>");
-    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "A");
-    EXPECT_EQ(outlets.textFieldRadioLink.stringValue(), "http://a/");
+    EXPECT_EQ(controls.editSheet.buttonAction.title(), "<BUTTON_EDIT>");
+    EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "A");
+    EXPECT_EQ(controls.editSheet.textFieldRadioLink.stringValue(), "http://a/");
     type("", "");
     controller.editSheet.buttonAction();
     EXPECT_EQ(list(), ";\rB;http://b/\r");
@@ -89,30 +89,30 @@ TEST_F(EditSheetTest, CancelStoresNothing)
     controller.editSheet.radioEditToList();
     type("Z", "Z");
     platform.log.clear();
-    outlets.winEditData.closeRequestedByUser();
+    controls.editSheet.winEditData.closeRequestedByUser();
     EXPECT_EQ(list(), "A;http://a/\r");
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "");
+    EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "");
 }
 
 TEST_F(EditSheetTest, TheFieldsHoldWhatTheFilterLeavesWhicheverChanged)
 {
     putPreferences({{"maxLenghtRadioName", "5"}});
     start();
-    outlets.textFieldRadioName.setStringValue("set  by the program");
-    outlets.textFieldRadioLink.typedByUser("http://a/  ;x");
-    EXPECT_EQ(outlets.textFieldRadioLink.stringValue(), "http://a/ x");
-    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "set b");
+    controls.editSheet.textFieldRadioName.setStringValue("set  by the program");
+    controls.editSheet.textFieldRadioLink.typedByUser("http://a/  ;x");
+    EXPECT_EQ(controls.editSheet.textFieldRadioLink.stringValue(), "http://a/ x");
+    EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "set b");
     controller.preferences.PREF_MAX_NAME_RADIO_LENGHT = 0x1'0000'0002;
-    outlets.textFieldRadioName.typedByUser("abcdef");
-    EXPECT_EQ(outlets.textFieldRadioName.stringValue(), "ab") << "the low 32 bits are the limit";
+    controls.editSheet.textFieldRadioName.typedByUser("abcdef");
+    EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "ab") << "the low 32 bits are the limit";
 }
 
 TEST_F(EditSheetTest, NoSeparatorReachesTheListByAPathAroundTheFilter)
 {
     start();
     controller.editSheet.radioAddToList();
-    outlets.textFieldRadioName.setStringValue("a;b\rc");
+    controls.editSheet.textFieldRadioName.setStringValue("a;b\rc");
     controller.editSheet.buttonAction();
     EXPECT_EQ(database(), "abc;\r");
 }
@@ -128,7 +128,7 @@ TEST_F(EditSheetTest, ASelectionThatIsGoneIsNotEdited)
     EXPECT_EQ(list(), "A;http://a/\r");
     controller.stationList.listRadio->clear();
     controller.editSheet.radioEditToList();
-    EXPECT_FALSE(outlets.winEditData.isVisible());
+    EXPECT_FALSE(controls.editSheet.winEditData.isVisible());
 }
 
 } // namespace

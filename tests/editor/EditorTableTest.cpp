@@ -6,13 +6,14 @@ namespace {
 
 class EditorTableTest : public ControllerTest {
 protected:
-    TableView& table = outlets.tableViewListRadio;
+    TableView& table = controls.stationList.tableViewListRadio;
 
     [[nodiscard]] std::string enabledItems() const
     {
         std::string tags;
         for (const ToolbarItem* item :
-            {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
+            {&controls.stationList.radioAdd, &controls.stationList.radioEdit, &controls.stationList.radioRemove,
+                &controls.stationList.radioImport, &controls.stationList.radioExport})
             tags += item->state().isEnabled ? std::to_string(item->tag()) : "";
         return tags;
     }
@@ -21,11 +22,11 @@ protected:
 TEST_F(EditorTableTest, ACellTakesWhatIsTypedWithoutSeparatorsAndKeepsItsRow)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
-    table.editedByUser("Z;  \r ", "radio", 0);
-    table.editedByUser("", "link", 1);
+    table.editedByUser({"Z;  \r ", "radio", 0});
+    table.editedByUser({"", "link", 1});
     EXPECT_EQ(list(), "Z   ;http://a/\rB;\r");
     EXPECT_EQ(database(), Text(list()));
-    EXPECT_EQ(outlets.popupbuttonRadioList.state().titles->at(1), "Z   ");
+    EXPECT_EQ(controls.main.popupbuttonRadioList.state().titles->at(1), "Z   ");
     EXPECT_EQ(table.textOfCell("radio", 0), "Z   ");
     EXPECT_EQ(table.state().reloads, 1U);
 }
@@ -33,15 +34,15 @@ TEST_F(EditorTableTest, ACellTakesWhatIsTypedWithoutSeparatorsAndKeepsItsRow)
 TEST_F(EditorTableTest, AnUnchangedCellOrOneOfAGoneRowIsNoEdit)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
-    outlets.popupbuttonRadioList.chosenByUser(1);
+    controls.main.popupbuttonRadioList.chosenByUser(1);
     platform.log.clear();
-    table.editedByUser("A", "radio", 0);
-    table.editedByUser("A;", "radio", 0);
-    table.editedByUser("Z", "radio", 2);
-    table.editedByUser("Z", "radio", -1);
-    table.editedByUser("Z", "other", 0);
+    table.editedByUser({"A", "radio", 0});
+    table.editedByUser({"A;", "radio", 0});
+    table.editedByUser({"Z", "radio", 2});
+    table.editedByUser({"Z", "radio", -1});
+    table.editedByUser({"Z", "other", 0});
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
     EXPECT_TRUE(table.textOfCell("radio", 2).isAbsent());
 }
 
@@ -51,12 +52,12 @@ TEST_F(EditorTableTest, ACellThatIsOpenIsEndedBeforeACommandWorksOnTheRows)
     unsigned ends = 0;
     table.connect(table.state(), [&](const TableViewState& state) {
         if (std::exchange(ends, state.endsOfEditing) != state.endsOfEditing)
-            table.editedByUser("Typed", "radio", 1);
+            table.editedByUser({"Typed", "radio", 1});
     });
     table.selectedByUser({0}, 0);
     platform.alerts.expect(
         "<REMOVE_RADIO>", firstButtonAnswer, [&] { EXPECT_EQ(list(), "A;http://a/\rTyped;http://b/\r"); });
-    outlets.radioRemove.pressedByUser();
+    controls.stationList.radioRemove.pressedByUser();
     EXPECT_EQ(list(), "Typed;http://b/\r");
 }
 
@@ -73,7 +74,7 @@ TEST_F(EditorTableTest, TheToolbarFollowsSelectionAndRows)
     table.selectedByUser({}, 2);
     EXPECT_EQ(enabledItems(), "034");
     controller.editorTable.myDoubleClickAction();
-    EXPECT_FALSE(outlets.winEditData.isVisible()) << "no selected row";
+    EXPECT_FALSE(controls.editSheet.winEditData.isVisible()) << "no selected row";
     ToolbarItem other;
     other.connect({5, true});
     controller.editorToolbar.toolbar(other);
@@ -83,14 +84,14 @@ TEST_F(EditorTableTest, TheToolbarFollowsSelectionAndRows)
 TEST_F(EditorTableTest, TheButtonShowsTheWindowThenBringsItToTheFront)
 {
     startWithStations("A;http://a/\r");
-    Window& window = outlets.winWebRadioListEdit;
+    Window& window = controls.stationList.winWebRadioListEdit;
     EXPECT_EQ(window.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
     controller.stationList.listRadio->clear();
-    outlets.buttonEditRadioList.setEnabled(true);
-    outlets.buttonEditRadioList.pressedByUser();
+    controls.main.buttonEditRadioList.setEnabled(true);
+    controls.main.buttonEditRadioList.pressedByUser();
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(window.state().title, "<WIN_EDIT_RADIO_LIST> (0)");
-    outlets.buttonEditRadioList.pressedByUser();
+    controls.main.buttonEditRadioList.pressedByUser();
     EXPECT_EQ(window.state().frontRequests, 0U);
     platform.runLoop.turn();
     EXPECT_EQ(window.state().frontRequests, 1U);

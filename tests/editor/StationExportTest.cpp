@@ -10,7 +10,7 @@ TEST_F(StationExportTest, WritesTheHeadingAndALineForEachStation)
 {
     startWithStations("Ä;http://a/\rB;http://b/\r");
     platform.filePanels.choice = platform.files.inPreferences("mine.csv");
-    outlets.radioExport.pressedByUser();
+    controls.stationList.radioExport.pressedByUser();
     EXPECT_EQ(platform.files.files.at(platform.filePanels.choice.string()), "radio;link\rB;http://b/\rÄ;http://a/\r");
     EXPECT_EQ(platform.filePanels.saved->nameFieldStringValue, "Radio List.csv");
     EXPECT_EQ(platform.filePanels.saved->directory, platform.files.homeDirectory());

@@ -11,15 +11,15 @@ protected:
     {
         putPreferences({{"isAutoPlay", "YES"}, {"enableMultipleSelection", "YES"}});
         startWithStations(listText);
-        outlets.popupbuttonRadioList.chosenByUser(1);
+        controls.main.popupbuttonRadioList.chosenByUser(1);
         ASSERT_TRUE(controller.player.isPlay);
     }
 
     void remove(const IndexSet& rows, const Text& question, int answer)
     {
-        outlets.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
+        controls.stationList.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
         platform.alerts.expect(question, answer);
-        outlets.radioRemove.pressedByUser();
+        controls.stationList.radioRemove.pressedByUser();
     }
 };
 
@@ -30,8 +30,8 @@ TEST_F(StationRemovalTest, TheChosenStationIsStoppedBeforeItGoes)
     EXPECT_FALSE(controller.player.isPlay);
     EXPECT_EQ(list(), "B;http://b/\r");
     EXPECT_EQ(database(), Text(list()));
-    EXPECT_EQ(outlets.popupbuttonRadioList.numberOfItems(), 2);
-    EXPECT_EQ(outlets.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
+    EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 2);
+    EXPECT_EQ(controls.stationList.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
 }
 
 TEST_F(StationRemovalTest, AnotherOfTheSameNameCountsAsTheChosenOne)
@@ -49,29 +49,29 @@ TEST_F(StationRemovalTest, AmongSeveralThePlayingStationGoesWithoutAStop)
     EXPECT_EQ(list(), "B;http://b/\rD;http://d/\r");
     remove({0, 1}, "<REMOVE_ALL_RADIO_SELECTED>", firstButtonAnswer);
     EXPECT_EQ(database(), "");
-    EXPECT_EQ(outlets.tableViewListRadio.selectedRow(), -1);
-    EXPECT_FALSE(outlets.popupbuttonRadioList.state().isEnabled);
+    EXPECT_EQ(controls.stationList.tableViewListRadio.selectedRow(), -1);
+    EXPECT_FALSE(controls.main.popupbuttonRadioList.state().isEnabled);
 }
 
 TEST_F(StationRemovalTest, NoLeavesListAndFileAndRefreshesTheTitle)
 {
     startPlayingFirst("A;http://a/\rB;http://b/\r");
     platform.log.clear();
-    outlets.winWebRadioListEdit.setTitle("old");
+    controls.stationList.winWebRadioListEdit.setTitle("old");
     remove({1}, "<REMOVE_RADIO>", secondButtonAnswer);
     EXPECT_EQ(list(), "A;http://a/\rB;http://b/\r");
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(outlets.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (2)");
+    EXPECT_EQ(controls.stationList.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (2)");
 }
 
 TEST_F(StationRemovalTest, RowsLeftOverFromALongerListAreNotRemoved)
 {
     startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
-    outlets.tableViewListRadio.selectedByUser({2}, 2);
+    controls.stationList.tableViewListRadio.selectedByUser({2}, 2);
     controller.stationList.listRadio->resize(2);
     controller.stationRemoval.radioRemoveToList();
     EXPECT_EQ(controller.stationList.numberOfStations(), 2U);
-    outlets.tableViewListRadio.selectedByUser({1, 2}, 2);
+    controls.stationList.tableViewListRadio.selectedByUser({1, 2}, 2);
     platform.alerts.expect("<REMOVE_RADIO>", firstButtonAnswer);
     controller.stationRemoval.radioRemoveToList();
     EXPECT_EQ(list(), "A;http://a/\r");
@@ -94,10 +94,10 @@ TEST_F(StationRemovalTest, WhatIsSelectedAtTheAnswerGoesAndDecidesAboutTheStop)
     for (const auto& [asked, question, answered, left, isPlaying] : cases) {
         controller.stationList.listRadio = std::make_shared<StationRecords>();
         startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
-        outlets.tableViewListRadio.selectedByUser(asked, 0);
+        controls.stationList.tableViewListRadio.selectedByUser(asked, 0);
         platform.alerts.expect(question, firstButtonAnswer,
-            [this, rows = answered] { outlets.tableViewListRadio.selectedByUser(rows, -1); });
-        outlets.radioRemove.pressedByUser();
+            [this, rows = answered] { controls.stationList.tableViewListRadio.selectedByUser(rows, -1); });
+        controls.stationList.radioRemove.pressedByUser();
         EXPECT_EQ(list(), left);
         EXPECT_EQ(controller.player.isPlay, isPlaying) << left;
     }

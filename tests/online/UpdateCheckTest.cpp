@@ -26,11 +26,11 @@ protected:
     void checkOnDemand()
     {
         actions.validateItems();
-        outlets.menuCheckUpdates.chosenByUser();
+        controls.menu.menuCheckUpdates.chosenByUser();
     }
 
     [[nodiscard]] AppUpdater& updater() const { return *controller.updateCheck.updaterApp; }
-    [[nodiscard]] Text notice() const { return outlets.labelUpdateNotification.stringValue(); }
+    [[nodiscard]] Text notice() const { return controls.updateNotice.labelUpdateNotification.stringValue(); }
 
     [[nodiscard]] long requestsForVersion() const
     {
@@ -94,12 +94,12 @@ TEST_F(UpdateCheckTest, NothingNewIsSaidOnDemandAloneWithTheVersionThatTheUserHa
     platform.localizedStrings.texts["UPDATE_NONE"] = "newest, %@.";
     publishVersion("1.1.0");
     startOnTheNextDay();
-    EXPECT_FALSE(outlets.winUpdateNotification.isVisible());
+    EXPECT_FALSE(controls.updateNotice.winUpdateNotification.isVisible());
     checkOnDemand();
-    EXPECT_TRUE(outlets.winUpdateNotification.isVisible());
+    EXPECT_TRUE(controls.updateNotice.winUpdateNotification.isVisible());
     EXPECT_EQ(notice(), "newest, 1.2.0 (5).");
-    outlets.winUpdateNotification.closeRequestedByUser();
-    EXPECT_FALSE(outlets.winUpdateNotification.isVisible());
+    controls.updateNotice.winUpdateNotification.closeRequestedByUser();
+    EXPECT_FALSE(controls.updateNotice.winUpdateNotification.isVisible());
 }
 
 TEST_F(UpdateCheckTest, ServersWithoutAUsableAnswerAreToldAndTheirDatesForgotten)
@@ -170,23 +170,23 @@ TEST_F(UpdateCheckTest, ACheckThatBringsStationsShowsThemWhileOnePlaysOn)
     startOnTheNextDay();
     publishVersion("1.2.0", "", "2016-10-05 00:00:00 +0000");
     publishOnline("A;http://moved/\rC;http://c/\r");
-    outlets.popupbuttonRadioList.chosenByUser(1);
-    outlets.buttonPlayPause.setEnabled(true);
-    outlets.buttonPlayPause.pressedByUser();
-    outlets.winPreferences.beginSheet();
+    controls.main.popupbuttonRadioList.chosenByUser(1);
+    controls.main.buttonPlayPause.setEnabled(true);
+    controls.main.buttonPlayPause.pressedByUser();
+    controls.preferences.winPreferences.beginSheet();
     checkOnDemand();
     EXPECT_EQ(list(), "A;http://moved/\rB;http://b/\rC;http://c/\r");
-    EXPECT_EQ(outlets.popupbuttonRadioList.numberOfItems(), 4);
-    EXPECT_EQ(outlets.popupDefaultButtonListRadio.numberOfItems(), 4);
-    EXPECT_EQ(outlets.tableViewListRadio.numberOfRows(), 3);
-    EXPECT_EQ(outlets.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (3)");
+    EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 4);
+    EXPECT_EQ(controls.preferences.popupDefaultButtonListRadio.numberOfItems(), 4);
+    EXPECT_EQ(controls.stationList.tableViewListRadio.numberOfRows(), 3);
+    EXPECT_EQ(controls.stationList.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (3)");
     EXPECT_TRUE(controller.player.isPlay);
     EXPECT_EQ(controller.player.playRadioLink, "http://a/");
     EXPECT_EQ(platform.streamPlayers.players.size(), 1U) << "the stream goes on";
 
-    outlets.popupbuttonRadioList.chosenByUser(2);
+    controls.main.popupbuttonRadioList.chosenByUser(2);
     checkOnDemand();
-    EXPECT_EQ(outlets.popupbuttonRadioList.indexOfSelectedItem(), 2) << "the list is no newer than the refresh";
+    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 2) << "the list is no newer than the refresh";
 }
 
 TEST_F(UpdateCheckTest, AnUnreadableDateOfTheListBringsNoRefresh)
@@ -206,19 +206,19 @@ TEST_F(UpdateCheckTest, AnUnreadableDateOfTheListBringsNoRefresh)
 TEST_F(UpdateCheckTest, PlayPressedWhileTheServerIsAskedIsDoneOnceAfterwards)
 {
     startOnTheNextDay();
-    outlets.popupbuttonRadioList.chosenByUser(1);
+    controls.main.popupbuttonRadioList.chosenByUser(1);
     int presses = 0;
     platform.httpClient.whileAsking = [this, &presses] {
         for (int press = 0; press < presses; ++press) {
-            outlets.buttonPlayPause.setEnabled(true);
-            outlets.buttonPlayPause.pressedByUser();
+            controls.main.buttonPlayPause.setEnabled(true);
+            controls.main.buttonPlayPause.pressedByUser();
         }
         EXPECT_FALSE(controller.player.isPlay);
     };
     for (presses = 2; presses <= 3; ++presses) {
         checkOnDemand();
         EXPECT_TRUE(controller.player.isPlay) << presses;
-        outlets.buttonStop.pressedByUser();
+        controls.main.buttonStop.pressedByUser();
     }
     EXPECT_EQ(platform.streamPlayers.players.size(), 2U);
 }

@@ -9,7 +9,7 @@ protected:
     {
         putPreferences({{"defaultVolume", "0.5"}});
         startWithStations("Alpha;http://alpha.example/\rBeta;http://beta.example/\r");
-        outlets.popupbuttonRadioList.chosenByUser(1);
+        controls.main.popupbuttonRadioList.chosenByUser(1);
     }
 
     Player& player = controller.player;
@@ -18,7 +18,7 @@ protected:
     void expectStopped()
     {
         expectState(false, true, "play.png");
-        EXPECT_FALSE(outlets.buttonStop.state().isEnabled);
+        EXPECT_FALSE(controls.main.buttonStop.state().isEnabled);
         EXPECT_EQ(player.mediaPlayer, nullptr);
     }
     void expectPlaying() { expectState(true, false, "pause.png"); }
@@ -29,21 +29,21 @@ private:
     {
         EXPECT_EQ(player.isPlay, isPlay);
         EXPECT_EQ(player.isStop, isStop);
-        EXPECT_EQ(outlets.buttonPlayPause.state().image, image);
-        EXPECT_EQ(outlets.buttonStop.state().isEnabled, !isStop);
+        EXPECT_EQ(controls.main.buttonPlayPause.state().image, image);
+        EXPECT_EQ(controls.main.buttonStop.state().isEnabled, !isStop);
     }
 };
 
 TEST_F(PlayerTest, PlayPauseGoesOnWithTheSamePlayer)
 {
     expectStopped();
-    outlets.buttonPlayPause.pressedByUser();
+    controls.main.buttonPlayPause.pressedByUser();
     expectPlaying();
     EXPECT_TRUE(streams.last().isPlaying);
-    outlets.buttonPlayPause.pressedByUser();
+    controls.main.buttonPlayPause.pressedByUser();
     expectPaused();
     EXPECT_FALSE(streams.last().isPlaying);
-    outlets.buttonPlayPause.pressedByUser();
+    controls.main.buttonPlayPause.pressedByUser();
     expectPlaying();
     EXPECT_TRUE(streams.last().isPlaying);
     EXPECT_EQ(streams.players.size(), 1U);
@@ -53,28 +53,28 @@ TEST_F(PlayerTest, PlayPauseGoesOnWithTheSamePlayer)
 
 TEST_F(PlayerTest, ANewPlayerSoundsAsTheControlsSayBeforeItStarts)
 {
-    outlets.imageVolume.connect({});
-    outlets.menuMute.connect({});
-    outlets.buttonMute.pressedByUser();
+    controls.main.imageVolume.connect({});
+    controls.menu.menuMute.connect({});
+    controls.main.buttonMute.pressedByUser();
     player.play();
     EXPECT_EQ(streams.last().said, (std::vector<std::string>{"volume", "muted", "play"}));
     EXPECT_EQ(streams.last().volume, 0.5F);
     EXPECT_TRUE(streams.last().isMuted);
-    EXPECT_FALSE(outlets.sliderVolume.state().isEnabled);
-    EXPECT_EQ(outlets.buttonMute.state().titleColor, TitleColor::Red);
-    EXPECT_EQ(outlets.buttonMute.state().title, Text("Mute"));
-    EXPECT_TRUE(outlets.buttonMute.state().isOn);
-    EXPECT_TRUE(outlets.menuMute.state().isOn);
-    EXPECT_EQ(outlets.imageVolume.state().image, Text("muted.png"));
+    EXPECT_FALSE(controls.main.sliderVolume.state().isEnabled);
+    EXPECT_EQ(controls.main.buttonMute.state().titleColor, TitleColor::Red);
+    EXPECT_EQ(controls.main.buttonMute.state().title, Text("Mute"));
+    EXPECT_TRUE(controls.main.buttonMute.state().isOn);
+    EXPECT_TRUE(controls.menu.menuMute.state().isOn);
+    EXPECT_EQ(controls.main.imageVolume.state().image, Text("muted.png"));
 
-    outlets.buttonMute.pressedByUser();
+    controls.main.buttonMute.pressedByUser();
     EXPECT_FALSE(streams.last().isMuted);
     EXPECT_EQ(streams.last().volume, 0.5F);
-    EXPECT_TRUE(outlets.sliderVolume.state().isEnabled);
-    EXPECT_EQ(outlets.buttonMute.state().titleColor, TitleColor::Black);
-    EXPECT_FALSE(outlets.buttonMute.state().isOn);
-    EXPECT_FALSE(outlets.menuMute.state().isOn);
-    EXPECT_EQ(outlets.imageVolume.state().image, Text("volume.png"));
+    EXPECT_TRUE(controls.main.sliderVolume.state().isEnabled);
+    EXPECT_EQ(controls.main.buttonMute.state().titleColor, TitleColor::Black);
+    EXPECT_FALSE(controls.main.buttonMute.state().isOn);
+    EXPECT_FALSE(controls.menu.menuMute.state().isOn);
+    EXPECT_EQ(controls.main.imageVolume.state().image, Text("volume.png"));
 }
 
 TEST_F(PlayerTest, PlayWhilePlayingSilencesTheFormerPlayer)
@@ -104,7 +104,7 @@ TEST_F(PlayerTest, StopSilencesAndKeepsTheItem)
 {
     player.play();
     player.pause();
-    outlets.buttonStop.pressedByUser();
+    controls.main.buttonStop.pressedByUser();
     expectStopped();
     EXPECT_TRUE(streams.last().isGone);
     EXPECT_EQ(player.playerItem->address, Text("http://alpha.example/"));
@@ -114,11 +114,11 @@ TEST_F(PlayerTest, StopSilencesAndKeepsTheItem)
 
 TEST_F(PlayerTest, TheSliderIsHeardAtOnceAndRememberedWhileStopped)
 {
-    outlets.sliderVolume.movedByUser(0.25);
+    controls.main.sliderVolume.movedByUser(0.25);
     EXPECT_EQ(player.sliderValue, 0.25F);
     player.play();
     EXPECT_EQ(streams.last().volume, 0.25F);
-    outlets.sliderVolume.movedByUser(0.75);
+    controls.main.sliderVolume.movedByUser(0.75);
     EXPECT_EQ(streams.last().volume, 0.75F);
     EXPECT_EQ(controller.preferences.PREF_DEFAULT_VOLUME, 0.5F);
 }

@@ -5,7 +5,7 @@ namespace {
 
 class StationSelectionTest : public ControllerTest {
 protected:
-    PopUpButton& popUp = outlets.popupbuttonRadioList;
+    PopUpButton& popUp = controls.main.popupbuttonRadioList;
     Player& player = controller.player;
     StationSelection& selection = controller.stationSelection;
 
@@ -22,7 +22,7 @@ protected:
         EXPECT_TRUE(player.playRadioName.isAbsent());
         EXPECT_TRUE(player.isStop);
         EXPECT_EQ(player.mediaPlayer, nullptr);
-        EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
+        EXPECT_FALSE(controls.main.buttonPlayPause.state().isEnabled);
     }
 };
 
@@ -30,7 +30,7 @@ TEST_F(StationSelectionTest, PopUpsMirrorTheListItemForItemAlsoWithEqualNames)
 {
     startWithStations("Same;http://1/\rSame;http://2/\rOther;http://3/\r");
     const std::vector<Text> titles{"<POP_UP_BUTTON_SELECT_RADIO>", "Other", "Same", "Same"};
-    for (PopUpButton* each : {&popUp, &outlets.popupDefaultButtonListRadio}) {
+    for (PopUpButton* each : {&popUp, &controls.preferences.popupDefaultButtonListRadio}) {
         EXPECT_EQ(*each->state().titles, titles);
         EXPECT_TRUE(each->state().isEnabled);
     }
@@ -41,12 +41,12 @@ TEST_F(StationSelectionTest, PopUpsMirrorTheListItemForItemAlsoWithEqualNames)
 TEST_F(StationSelectionTest, WithoutStationsNothingCanBeChosen)
 {
     start();
-    for (PopUpButton* each : {&popUp, &outlets.popupDefaultButtonListRadio}) {
+    for (PopUpButton* each : {&popUp, &controls.preferences.popupDefaultButtonListRadio}) {
         EXPECT_EQ(*each->state().titles, std::vector<Text>{"<POP_UP_BUTTON_SELECT_RADIO_NULL>"});
         EXPECT_FALSE(each->state().isEnabled);
     }
-    EXPECT_FALSE(outlets.sliderVolume.state().isEnabled);
-    EXPECT_FALSE(outlets.buttonMute.state().isEnabled);
+    EXPECT_FALSE(controls.main.sliderVolume.state().isEnabled);
+    EXPECT_FALSE(controls.main.buttonMute.state().isEnabled);
     for (const bool previous : {true, false}) {
         selection.changeStation(previous);
         expectPlaceholder();
@@ -57,12 +57,12 @@ TEST_F(StationSelectionTest, ChoosingWithoutAutoPlayStopsAndMakesReady)
 {
     startWithThree(false);
     popUp.chosenByUser(1);
-    outlets.buttonPlayPause.pressedByUser();
+    controls.main.buttonPlayPause.pressedByUser();
     popUp.chosenByUser(2);
     EXPECT_TRUE(platform.streamPlayers.last().isGone);
     EXPECT_TRUE(player.isStop);
-    EXPECT_TRUE(outlets.buttonPlayPause.state().isEnabled);
-    EXPECT_EQ(outlets.buttonPlayPause.state().image, Text("play.png"));
+    EXPECT_TRUE(controls.main.buttonPlayPause.state().isEnabled);
+    EXPECT_EQ(controls.main.buttonPlayPause.state().image, Text("play.png"));
     EXPECT_EQ(player.playRadioLink, Text("http://s2/"));
 }
 
@@ -73,7 +73,7 @@ TEST_F(StationSelectionTest, ChoosingWithAutoPlayPlaysAtOnceAndThePlaceholderSto
     popUp.chosenByUser(3);
     EXPECT_EQ(platform.streamPlayers.last().address, Text("http://s3/"));
     EXPECT_TRUE(player.isPlay);
-    EXPECT_EQ(outlets.buttonPlayPause.state().image, Text("pause.png"));
+    EXPECT_EQ(controls.main.buttonPlayPause.state().image, Text("pause.png"));
     popUp.chosenByUser(0);
     expectPlaceholder();
 }
@@ -135,7 +135,7 @@ TEST_F(StationSelectionTest, ItemsBeyondThePresentListStandForNoStation)
     popUp.chosenByUser(3);
     EXPECT_TRUE(player.playRadioLink.isAbsent());
     EXPECT_TRUE(player.isStop);
-    EXPECT_FALSE(outlets.buttonPlayPause.state().isEnabled);
+    EXPECT_FALSE(controls.main.buttonPlayPause.state().isEnabled);
     selection.changeStation(true);
     EXPECT_EQ(player.playRadioLink, Text("http://s1/"));
     controller.stationList.listRadio->clear();
@@ -147,10 +147,10 @@ TEST_F(StationSelectionTest, ARefillShowsThePlaceholderEnablesTheSliderAndLetsTh
 {
     startWithThree(true);
     popUp.chosenByUser(2);
-    outlets.buttonMute.pressedByUser();
+    controls.main.buttonMute.pressedByUser();
     selection.updatePopupListRadioWithListStation();
     EXPECT_EQ(popUp.indexOfSelectedItem(), 0);
-    EXPECT_TRUE(outlets.sliderVolume.state().isEnabled);
+    EXPECT_TRUE(controls.main.sliderVolume.state().isEnabled);
     EXPECT_TRUE(player.isPlay);
     EXPECT_FALSE(platform.streamPlayers.last().isGone);
     EXPECT_EQ(player.playRadioLink, Text("http://s2/"));

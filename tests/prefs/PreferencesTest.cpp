@@ -55,8 +55,8 @@ TEST_F(PreferencesTest, HugeAndOddValuesAreHarmless)
             {"setTimeOutLimit", volume}, {"lastUpdateDataCheck", "99999-99-99 99:99:99 +9999"}});
         putDatabase("A;http://a/\r");
         start();
-        EXPECT_GE(outlets.sliderVolume.floatValue(), 0.0F) << volume;
-        EXPECT_LE(outlets.sliderVolume.floatValue(), 1.0F) << volume;
+        EXPECT_GE(controls.main.sliderVolume.floatValue(), 0.0F) << volume;
+        EXPECT_LE(controls.main.sliderVolume.floatValue(), 1.0F) << volume;
         EXPECT_TRUE(std::isfinite(controller.preferences.PREF_DEFAULT_VOLUME)) << volume;
         EXPECT_FALSE(controller.preferences.PREF_DATE_UPDATE_LAST_DATACHECK);
         controller.preferences.updatePreference();
@@ -66,7 +66,7 @@ TEST_F(PreferencesTest, HugeAndOddValuesAreHarmless)
 TEST_F(PreferencesTest, EveryWriteTakesOverWhetherTheStationListIsVisible)
 {
     startWithStations("A;http://a/\r");
-    outlets.winWebRadioListEdit.setIsVisible(true);
+    controls.stationList.winWebRadioListEdit.setIsVisible(true);
     controller.preferences.updatePreference();
     EXPECT_EQ(storedPreferences().at("isVisibleWinEdit"), Text("YES"));
 }

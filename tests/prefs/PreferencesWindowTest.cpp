@@ -10,7 +10,7 @@ protected:
     PreferenceDomain quit()
     {
         platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", firstButtonAnswer);
-        EXPECT_EQ(statusOfEnd([&] { outlets.winSonavel.closeRequestedByUser(); }), 0);
+        EXPECT_EQ(statusOfEnd([&] { controls.main.winSonavel.closeRequestedByUser(); }), 0);
         return storedPreferences();
     }
 
@@ -19,7 +19,7 @@ protected:
     {
         controller.init();
         controller.awakeFromNib();
-        return outlets.popupbuttonRadioList.indexOfSelectedItem();
+        return controls.main.popupbuttonRadioList.indexOfSelectedItem();
     }
 };
 
@@ -27,20 +27,21 @@ TEST_F(PreferencesWindowTest, WhatIsSetIsStoredWithTheNextStoreAndNotBefore)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
     platform.log.clear();
-    outlets.menuPreferences.chosenByUser();
-    EXPECT_TRUE(outlets.winPreferences.state().isSheet);
-    outlets.checkBoxDefaultAutoPlay.toggledByUser(true);
+    controls.menu.menuPreferences.chosenByUser();
+    EXPECT_TRUE(controls.preferences.winPreferences.state().isSheet);
+    controls.preferences.checkBoxDefaultAutoPlay.toggledByUser(true);
     for (const bool isOn : {true, false}) {
         controller.preferencesWindow.setAutoPlayAtStart();
-        EXPECT_EQ(outlets.checkBoxDefaultAutoPlayAtStartApp.state().isOn, isOn);
+        EXPECT_EQ(controls.preferences.checkBoxDefaultAutoPlayAtStartApp.state().isOn, isOn);
     }
-    outlets.popupDefaultButtonListRadio.chosenByUser(2);
-    outlets.sliderDefaultVolume.setEnabled(true);
-    outlets.sliderDefaultVolume.movedByUser(0.25);
-    outlets.winPreferences.closeRequestedByUser();
-    EXPECT_FALSE(outlets.winPreferences.isVisible() || outlets.winPreferences.state().isSheet);
+    controls.preferences.popupDefaultButtonListRadio.chosenByUser(2);
+    controls.preferences.sliderDefaultVolume.setEnabled(true);
+    controls.preferences.sliderDefaultVolume.movedByUser(0.25);
+    controls.preferences.winPreferences.closeRequestedByUser();
+    EXPECT_FALSE(
+        controls.preferences.winPreferences.isVisible() || controls.preferences.winPreferences.state().isSheet);
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(outlets.sliderVolume.floatValue(), 0.7F) << "what is heard now stays";
+    EXPECT_EQ(controls.main.sliderVolume.floatValue(), 0.7F) << "what is heard now stays";
 
     const PreferenceDomain stored = quit();
     EXPECT_EQ(stored.at("isAutoPlay"), "YES");
@@ -54,11 +55,11 @@ TEST_F(PreferencesWindowTest, ABoxThatIsToggledTwiceWhileAQuestionIsOpenShowsWha
 {
     startWithStations("A;http://a/\r");
     platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", secondButtonAnswer, [this] {
-        outlets.checkBoxDefaultAutoPlay.toggledByUser(true);
-        outlets.checkBoxDefaultAutoPlay.toggledByUser(false);
+        controls.preferences.checkBoxDefaultAutoPlay.toggledByUser(true);
+        controls.preferences.checkBoxDefaultAutoPlay.toggledByUser(false);
     });
-    outlets.winSonavel.closeRequestedByUser();
-    EXPECT_EQ(outlets.checkBoxDefaultAutoPlay.state().isOn, controller.preferences.PREF_IS_AUTOPLAY);
+    controls.main.winSonavel.closeRequestedByUser();
+    EXPECT_EQ(controls.preferences.checkBoxDefaultAutoPlay.state().isOn, controller.preferences.PREF_IS_AUTOPLAY);
 }
 
 TEST_F(PreferencesWindowTest, ADefaultStationIsKnownByItsNameAlone)
@@ -87,7 +88,7 @@ TEST_F(PreferencesWindowTest, ADefaultStationIsKnownByItsNameAlone)
 TEST_F(PreferencesWindowTest, ThePlaceholderIsNoDefaultStation)
 {
     startWithStations("A;http://a/\r");
-    outlets.popupDefaultButtonListRadio.chosenByUser(0);
+    controls.preferences.popupDefaultButtonListRadio.chosenByUser(0);
     EXPECT_EQ(quit().at("defaultStation"), "<POP_UP_BUTTON_SELECT_RADIO>");
     EXPECT_EQ(itemSelectedAtTheNextStart(), 0);
 }
@@ -95,13 +96,13 @@ TEST_F(PreferencesWindowTest, ThePlaceholderIsNoDefaultStation)
 TEST_F(PreferencesWindowTest, AListThatChangesMeanwhileKeepsTheDefaultThatWasChosen)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
-    outlets.menuPreferences.chosenByUser();
-    outlets.popupDefaultButtonListRadio.chosenByUser(1);
+    controls.menu.menuPreferences.chosenByUser();
+    controls.preferences.popupDefaultButtonListRadio.chosenByUser(1);
     controller.stationList.listRadio->clear();
     controller.stationSelection.updatePopupListRadioWithListStation();
     EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, "A");
-    outlets.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(true);
-    EXPECT_FALSE(outlets.popupDefaultButtonListRadio.state().isEnabled);
+    controls.preferences.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(true);
+    EXPECT_FALSE(controls.preferences.popupDefaultButtonListRadio.state().isEnabled);
 }
 
 TEST_F(PreferencesWindowTest, TheListAloneSaysWhetherADefaultStationCanBeChosen)
@@ -109,12 +110,12 @@ TEST_F(PreferencesWindowTest, TheListAloneSaysWhetherADefaultStationCanBeChosen)
     start();
     platform.files.files["/one-line.csv"] = "A;http://a/";
     platform.filePanels.choice = "/one-line.csv";
-    outlets.radioImport.setEnabled(true);
-    outlets.radioImport.pressedByUser();
+    controls.stationList.radioImport.setEnabled(true);
+    controls.stationList.radioImport.pressedByUser();
     ASSERT_EQ(list(), "A;http://a/\r");
-    ASSERT_EQ(outlets.popupDefaultButtonListRadio.numberOfItems(), 1);
-    outlets.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(true);
-    EXPECT_TRUE(outlets.popupDefaultButtonListRadio.state().isEnabled);
+    ASSERT_EQ(controls.preferences.popupDefaultButtonListRadio.numberOfItems(), 1);
+    controls.preferences.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(true);
+    EXPECT_TRUE(controls.preferences.popupDefaultButtonListRadio.state().isEnabled);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "UserInput.h"
 #include "platform/Interfaces.h"
 #include "qt/binders/ButtonBinder.h"
+#include "qt/binders/InitialState.h"
 #include "qt/binders/LabelBinder.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/binders/PopUpBinder.h"
@@ -16,7 +17,7 @@
 #include "qt/windows/ProgramMenus.h"
 #include "qt/windows/SplashScreen.h"
 #include "qt/windows/StationListWindow.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 #include "ui_AboutWindow.h"
 #include "ui_PreferencesSheet.h"
 #include "ui_UpdateNotice.h"
@@ -313,32 +314,81 @@ TEST(WindowBinding, ClosingAsksTheProgramAndHidesNothing)
 
 TEST(Connecting, AMissingOrMistakenWidgetIsNamed)
 {
-    Outlets outlets;
+    Controls controls;
     QWidget window;
     window.setObjectName("winSonavel");
     auto* impostor = new QComboBox(&window);
     impostor->setObjectName("popupbuttonRadioList");
     try {
-        connectMainWindow(outlets, window);
+        connectMainWindow(controls.main, window);
         FAIL() << "connected a plain combo box";
     } catch (const MissingOutlet& fault) {
         EXPECT_NE(std::string(fault.what()).find("popupbuttonRadioList"), std::string::npos);
     }
 }
 
-template <class... Controls> void expectConnected(const char* window, const Controls&... controls)
+auto tied(const MainControls& c)
 {
-    for (const bool isConnected : {controls.isConnected()...})
-        EXPECT_TRUE(isConnected) << "a control of the window " << window;
+    return std::tie(c.winSonavel, c.popupbuttonRadioList, c.buttonPlayPause, c.buttonStop, c.buttonMute,
+        c.buttonEditRadioList, c.imageVolume, c.sliderVolume, c.labelVolume);
 }
 
-TEST(Connecting, EveryControlOfEveryWindowHasItsWidget)
+auto tied(const StationListControls& c)
 {
-    Outlets outlets;
+    return std::tie(c.winWebRadioListEdit, c.toolBar, c.radioAdd, c.radioEdit, c.radioRemove, c.radioImport,
+        c.radioExport, c.tableViewListRadio, c.labelListStatus);
+}
+
+auto tied(const EditSheetControls& c)
+{
+    return std::tie(c.winEditData, c.textFieldRadioName, c.textFieldRadioLink, c.buttonAction, c.buttonCancel);
+}
+
+auto tied(const PreferencesControls& c)
+{
+    return std::tie(c.winPreferences, c.checkBoxDefaultAutoPlayAtStartApp, c.checkBoxDefaultAutoPlay,
+        c.labelSetDeaultRadio, c.popupDefaultButtonListRadio, c.labelSetDefaultVolume, c.sliderDefaultVolume,
+        c.buttonClosePreferences);
+}
+
+auto tied(const UpdateNoticeControls& c)
+{
+    return std::tie(c.winUpdateNotification, c.labelUpdateNotification, c.buttonCloseNotification);
+}
+
+auto tied(const AboutControls& c)
+{
+    return std::tie(c.winAbout, c.buttonCloseAbout, c.imageAppIcon, c.labelAppName, c.labelAppVersion,
+        c.labelAppLicense, c.labelAppCopytight);
+}
+
+template <class... Control> void expectConnected(const char* window, const std::tuple<const Control&...>& controls)
+{
+    const auto areConnected = [](const auto&... control) { return (control.isConnected() && ...); };
+    EXPECT_TRUE(std::apply(areConnected, controls)) << "each control of the window " << window;
+}
+
+template <class Controls, std::size_t... place>
+void expectSameStates(const Controls& some, const Controls& others, std::index_sequence<place...>)
+{
+    const auto expectSame = [](std::size_t number, const auto& state, const auto& other) {
+        EXPECT_TRUE(state == other) << "control " << number;
+    };
+    (expectSame(place, std::get<place>(some).state(), std::get<place>(others).state()), ...);
+}
+
+template <class Controls> void expectSameStates(const Controls& some, const Controls& others)
+{
+    expectSameStates(tied(some), tied(others), std::make_index_sequence<std::tuple_size_v<decltype(tied(some))>>());
+}
+
+TEST(Connecting, EveryControlHasItsWidgetAndBeforeThatItsState)
+{
+    Controls controls;
     ProgramMenus menus([] {});
     MainWindow main(&menus);
     SplashScreen splash;
-    StationListWindow list(outlets.tableViewListRadio);
+    StationListWindow list(controls.stationList.tableViewListRadio);
     EditSheetDialog sheet(list);
     const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
     const auto about = ProgramDialog::from<Ui::AboutWindow>();
@@ -350,32 +400,32 @@ TEST(Connecting, EveryControlOfEveryWindowHasItsWidget)
     Button update;
     Button remind;
     const auto updater = ProgramDialog::from<Ui::UpdateWindow>();
-    connectMainWindow(outlets, main);
-    connectSplashScreen(outlets, splash);
-    connectStationListWindow(outlets, list);
-    connectEditSheet(outlets, sheet);
-    connectPreferences(outlets, *preferences);
-    connectAboutWindow(outlets, *about);
-    connectUpdateNotice(outlets, *notice);
+    connectMainWindow(controls.main, main);
+    connectSplashScreen(controls.winSplashScreen, splash);
+    connectStationListWindow(controls.stationList, list);
+    connectEditSheet(controls.editSheet, sheet);
+    connectPreferences(controls.preferences, *preferences);
+    connectAboutWindow(controls.about, *about);
+    connectUpdateNotice(controls.updateNotice, *notice);
     connectUpdateWindow({window, name, version, notes, update, remind}, *updater);
 
-    expectConnected("main", outlets.winSonavel, outlets.popupbuttonRadioList, outlets.buttonPlayPause,
-        outlets.buttonStop, outlets.buttonMute, outlets.buttonEditRadioList, outlets.imageVolume, outlets.sliderVolume,
-        outlets.labelVolume);
-    expectConnected("splash", outlets.winSplashScreen);
-    expectConnected("list", outlets.winWebRadioListEdit, outlets.toolBar, outlets.radioAdd, outlets.radioEdit,
-        outlets.radioRemove, outlets.radioImport, outlets.radioExport, outlets.tableViewListRadio,
-        outlets.labelListStatus);
-    expectConnected("sheet", outlets.winEditData, outlets.textFieldRadioName, outlets.textFieldRadioLink,
-        outlets.buttonAction, outlets.buttonCancel);
-    expectConnected("preferences", outlets.winPreferences, outlets.checkBoxDefaultAutoPlayAtStartApp,
-        outlets.checkBoxDefaultAutoPlay, outlets.labelSetDeaultRadio, outlets.popupDefaultButtonListRadio,
-        outlets.labelSetDefaultVolume, outlets.sliderDefaultVolume, outlets.buttonClosePreferences);
-    expectConnected("about", outlets.winAbout, outlets.imageAppIcon, outlets.labelAppName, outlets.labelAppVersion,
-        outlets.labelAppLicense, outlets.labelAppCopytight, outlets.buttonCloseAbout);
-    expectConnected(
-        "notice", outlets.winUpdateNotification, outlets.labelUpdateNotification, outlets.buttonCloseNotification);
-    expectConnected("updates", window, name, version, notes, update, remind);
+    expectConnected("main", tied(controls.main));
+    EXPECT_TRUE(controls.winSplashScreen.isConnected());
+    expectConnected("list", tied(controls.stationList));
+    expectConnected("sheet", tied(controls.editSheet));
+    expectConnected("preferences", tied(controls.preferences));
+    expectConnected("about", tied(controls.about));
+    expectConnected("notice", tied(controls.updateNotice));
+    expectConnected("updates", std::tie(std::as_const(window), std::as_const(name), std::as_const(version)));
+    expectConnected("updates", std::tie(std::as_const(notes), std::as_const(update), std::as_const(remind)));
+
+    Controls announced;
+    connectInitialState(announced);
+    expectSameStates(announced.stationList, controls.stationList);
+    expectSameStates(announced.editSheet, controls.editSheet);
+    expectSameStates(announced.preferences, controls.preferences);
+    expectSameStates(announced.updateNotice, controls.updateNotice);
+    EXPECT_EQ(announced.about.winAbout.state(), controls.about.winAbout.state());
 }
 
 TEST(Connecting, WhenTheWindowGoesAwayItsOutletsLetGo)

@@ -22,9 +22,9 @@ namespace {
 
 TEST(MainWindow, NothingMovesWhenTextsChange)
 {
-    Outlets outlets;
+    Controls controls;
     MainWindow window{nullptr};
-    connectMainWindow(outlets, window);
+    connectMainWindow(controls.main, window);
     window.show();
     QApplication::processEvents();
     const auto shape = [&] {
@@ -38,8 +38,9 @@ TEST(MainWindow, NothingMovesWhenTextsChange)
     const QString veryLong(3'000, u'W');
     window.showNowPlaying(veryLong, MainWindow::Emphasis::Failure);
     window.showNotice(veryLong);
-    outlets.buttonPlayPause.setImage("pause.png");
-    outlets.popupbuttonRadioList.setItems(std::make_shared<const std::vector<Text>>(1, Text(veryLong.toStdString())));
+    controls.main.buttonPlayPause.setImage("pause.png");
+    controls.main.popupbuttonRadioList.setItems(
+        std::make_shared<const std::vector<Text>>(1, Text(veryLong.toStdString())));
     EXPECT_EQ(shape(), before);
 }
 
@@ -123,16 +124,16 @@ TEST(MainWindow, FromRightToLeftTheWordOfAButtonIsAsFarFromItsEdge)
 
 TEST(MainWindow, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)
 {
-    Outlets outlets;
+    Controls controls;
     MainWindow window{nullptr};
-    connectMainWindow(outlets, window);
+    connectMainWindow(controls.main, window);
     auto& button = *window.findChild<QPushButton*>("buttonMute");
     const auto icon = [&] { return window.findChild<QLabel*>("imageVolume")->pixmap().toImage(); };
     const QImage heard = icon();
     EXPECT_FALSE(heard.isNull());
-    outlets.buttonMute.setEnabled(true);
-    outlets.buttonMute.setState(true);
-    outlets.imageVolume.setImage("muted.png");
+    controls.main.buttonMute.setEnabled(true);
+    controls.main.buttonMute.setState(true);
+    controls.main.imageVolume.setImage("muted.png");
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(&button)->state().checked);
     EXPECT_NE(icon(), heard);
     const QImage light = icon();
@@ -140,10 +141,10 @@ TEST(MainWindow, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)
     EXPECT_NE(icon(), light);
 
     int presses = 0;
-    outlets.buttonMute.action.set([&] { ++presses; });
+    controls.main.buttonMute.action.set([&] { ++presses; });
     button.toggle();
     EXPECT_EQ(presses, 1);
-    EXPECT_FALSE(outlets.buttonMute.state().isOn);
+    EXPECT_FALSE(controls.main.buttonMute.state().isOn);
 }
 
 TEST(WindowMemory, AWindowComesBackWhereItWasAndRubbishIsForgotten)
@@ -176,13 +177,13 @@ TEST(WindowMemory, AWindowComesBackWhereItWasAndRubbishIsForgotten)
 
 TEST(MainWindow, TheKeyboardGoesThroughTheControlsInReadingOrder)
 {
-    Outlets outlets;
+    Controls controls;
     MainWindow window{nullptr};
-    connectMainWindow(outlets, window);
-    for (Button* button : {&outlets.buttonPlayPause, &outlets.buttonStop, &outlets.buttonMute})
+    connectMainWindow(controls.main, window);
+    for (Button* button : {&controls.main.buttonPlayPause, &controls.main.buttonStop, &controls.main.buttonMute})
         button->setEnabled(true);
-    outlets.popupbuttonRadioList.setEnabled(true);
-    outlets.sliderVolume.setEnabled(true);
+    controls.main.popupbuttonRadioList.setEnabled(true);
+    controls.main.sliderVolume.setEnabled(true);
     window.show();
     window.activateWindow();
     ASSERT_TRUE(handleEventsUntil([&] { return window.focusWidget() != nullptr; }));

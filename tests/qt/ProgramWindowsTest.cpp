@@ -2,6 +2,7 @@
 #include "qt/ProgramWindows.h"
 
 #include "UserInput.h"
+#include "qt/kit/TextConversion.h"
 #include "qt/windows/MainWindow.h"
 #include "qt/windows/StationListWindow.h"
 #include "support/ControllerTest.h"
@@ -34,9 +35,9 @@ public:
 TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnotherProgram)
 {
     for (const bool isLeft : {false, true}) {
-        ProgramWindows windows(outlets, actions, state.path());
+        ProgramWindows windows(controls, actions, {}, state.path());
         windows.connectMainWindow();
-        outlets.winSonavel.makeKeyAndOrderFront();
+        controls.main.winSonavel.makeKeyAndOrderFront();
         ASSERT_TRUE(handleEventsUntil([&] { return windows.mainWindow().isActiveWindow(); }));
         QWidget another;
         if (isLeft) {
@@ -44,7 +45,7 @@ TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnother
             another.activateWindow();
             ASSERT_TRUE(handleEventsUntil([&] { return another.isActiveWindow(); }));
         }
-        outlets.winWebRadioListEdit.setIsVisible(true);
+        controls.stationList.winWebRadioListEdit.setIsVisible(true);
         Raises raises;
         windows.mainWindow().installEventFilter(&raises);
         windows.buildOtherWindows();
@@ -54,13 +55,13 @@ TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnother
 
 TEST_F(ProgramWindowsTest, AListThatIsDroppedOnTheListWindowIsImported)
 {
-    controller.init();
-    ProgramWindows windows(outlets, actions, state.path());
+    Text imported;
+    ProgramWindows windows(
+        controls, actions, [&](const Text& path) { imported = path; }, state.path());
     windows.connectMainWindow();
     windows.buildOtherWindows();
     QFile dropped(state.filePath(QStringLiteral("list.csv")));
     ASSERT_TRUE(dropped.open(QFile::WriteOnly));
-    platform.files.files[dropped.fileName().toStdString()] = "Station;http://host/\r";
     QMimeData dragged;
     dragged.setUrls({QUrl::fromLocalFile(dropped.fileName())});
     QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
@@ -71,7 +72,7 @@ TEST_F(ProgramWindowsTest, AListThatIsDroppedOnTheListWindowIsImported)
         QApplication::sendEvent(window, &enter);
         QApplication::sendEvent(window, &drop);
     }
-    EXPECT_TRUE(handleEventsUntil([&] { return list() == "Station;http://host/\r"; }));
+    EXPECT_TRUE(handleEventsUntil([&] { return imported == toText(dropped.fileName()); }));
 }
 
 } // namespace

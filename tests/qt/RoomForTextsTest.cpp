@@ -12,7 +12,7 @@
 #include "qt/windows/StationComboBox.h"
 #include "qt/windows/StationListWindow.h"
 #include "qt/windows/StatusLine.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 #include "ui/TableView.h"
 #include "ui_AboutWindow.h"
 #include "ui_PreferencesSheet.h"
@@ -105,10 +105,10 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
 {
     const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
     ProgramMenus menus([] {});
-    Outlets outlets;
+    Controls controls;
     MainWindow main(&menus);
-    connectMainWindow(outlets, main);
-    outlets.buttonPlayPause.setImage("play.png");
+    connectMainWindow(controls.main, main);
+    controls.main.buttonPlayPause.setImage("play.png");
     expectRoomIn(main);
     expectAllShown(main);
 

@@ -3,6 +3,7 @@
 
 #include "StationRows.h"
 #include "UserInput.h"
+#include "qt/binders/InitialState.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/windows/EditSheetDialog.h"
 #include "qt/windows/FindField.h"
@@ -38,25 +39,25 @@ class StationListWindowTest : public testing::Test {
 protected:
     StationListWindowTest()
     {
-        outlets.tableViewListRadio.setDataSource(&rows);
+        controls.stationList.tableViewListRadio.setDataSource(&rows);
         menus.addTo(window);
-        connectMenus(outlets, menus);
-        connectStationListWindow(outlets, window);
-        connectEditSheet(outlets, sheet);
+        connectMenus(controls.menu, menus);
+        connectStationListWindow(controls.stationList, window);
+        connectEditSheet(controls.editSheet, sheet);
         rows.names = {"Alpha", "Beta", "Café Olé", "Gamma", "Österreich 1"};
         table().reloadData();
-        outlets.winWebRadioListEdit.makeKeyAndOrderFront();
+        controls.stationList.winWebRadioListEdit.makeKeyAndOrderFront();
         EXPECT_TRUE(handleEventsUntil([&] { return window.isActiveWindow(); }));
         tableWidget().setFocus();
     }
 
-    TableView& table() { return outlets.tableViewListRadio; }
+    TableView& table() { return controls.stationList.tableViewListRadio; }
     template <class Widget> Widget& child(QWidget& parent, const char* name)
     {
         return *parent.findChild<Widget*>(QString::fromLatin1(name));
     }
     StationTable& tableWidget() { return child<StationTable>(window, "tableViewListRadio"); }
-    QAction& action(MenuItem Outlets::*item)
+    QAction& action(MenuItem MenuControls::*item)
     {
         return *std::ranges::find(menus.items(), item, &ProgramMenus::Item::first)->second;
     }
@@ -75,52 +76,31 @@ protected:
     }
     void openSheet()
     {
-        outlets.winEditData.makeFirstResponder();
-        outlets.winEditData.beginSheet();
+        controls.editSheet.winEditData.makeFirstResponder();
+        controls.editSheet.winEditData.beginSheet();
         EXPECT_TRUE(handleEventsUntil([&] { return sheet.isActiveWindow(); }));
     }
 
     StationRows rows;
-    Outlets outlets;
+    Controls controls;
     int validations = 0;
     ProgramMenus menus{[this] { ++validations; }};
-    StationListWindow window{outlets.tableViewListRadio};
+    StationListWindow window{controls.stationList.tableViewListRadio};
     EditSheetDialog& sheet = *new EditSheetDialog(window);
 };
 
-TEST_F(StationListWindowTest, WhatIsSaidOfTheWindowBeforeItIsBuiltIsWhatItSays)
-{
-    Outlets built;
-    StationListWindow another(built.tableViewListRadio);
-    connectStationListWindow(built, another);
-    EditSheetDialog anotherSheet(another);
-    connectEditSheet(built, anotherSheet);
-    Outlets announced;
-    connectBeforehand(announced);
-    EXPECT_EQ(announced.winWebRadioListEdit.state(), built.winWebRadioListEdit.state());
-    EXPECT_EQ(announced.toolBar.state(), built.toolBar.state());
-    EXPECT_EQ(announced.radioAdd.state(), built.radioAdd.state());
-    EXPECT_EQ(announced.radioExport.state(), built.radioExport.state());
-    EXPECT_EQ(announced.labelListStatus.state(), built.labelListStatus.state());
-    EXPECT_EQ(announced.winEditData.state(), built.winEditData.state());
-    EXPECT_EQ(announced.textFieldRadioLink.state(), built.textFieldRadioLink.state());
-    EXPECT_EQ(announced.buttonAction.state(), built.buttonAction.state());
-    EXPECT_EQ(announced.buttonCancel.state(), built.buttonCancel.state());
-    EXPECT_EQ(announced.tableViewListRadio.state().allowsMultipleSelection, false);
-}
-
 TEST_F(StationListWindowTest, AWindowThatIsBuiltLaterShowsWhatWasSaidMeanwhile)
 {
-    Outlets early;
-    early.tableViewListRadio.setDataSource(&rows);
-    connectBeforehand(early);
-    early.winWebRadioListEdit.setTitle("Station List (5)");
-    early.winWebRadioListEdit.setIsVisible(true);
-    early.radioImport.setEnabled(true);
-    early.tableViewListRadio.reloadData();
-    early.tableViewListRadio.selectRowIndexes({3}, TableView::Extending::No);
-    StationListWindow late(early.tableViewListRadio);
-    connectStationListWindow(early, late);
+    Controls early;
+    early.stationList.tableViewListRadio.setDataSource(&rows);
+    connectInitialState(early);
+    early.stationList.winWebRadioListEdit.setTitle("Station List (5)");
+    early.stationList.winWebRadioListEdit.setIsVisible(true);
+    early.stationList.radioImport.setEnabled(true);
+    early.stationList.tableViewListRadio.reloadData();
+    early.stationList.tableViewListRadio.selectRowIndexes({3}, TableView::Extending::No);
+    StationListWindow late(early.stationList.tableViewListRadio);
+    connectStationListWindow(early.stationList, late);
     EXPECT_TRUE(late.isVisible());
     EXPECT_EQ(late.windowTitle(), "Station List (5)");
     EXPECT_TRUE(child<QAction>(late, "radioImport").isEnabled());
@@ -175,7 +155,7 @@ TEST_F(StationListWindowTest, EveryMessageIsShownForItsOwnTimeAFailureBeforeWhat
 {
     window.showNotice("disk full");
     for (int time = 0; time < 2; ++time) {
-        outlets.labelListStatus.announce("Stations imported: 4.");
+        controls.stationList.labelListStatus.announce("Stations imported: 4.");
         EXPECT_EQ(status(), "disk full");
     }
     QTest::keyClicks(&findField(), "a");
@@ -186,7 +166,7 @@ TEST_F(StationListWindowTest, EveryMessageIsShownForItsOwnTimeAFailureBeforeWhat
     for (int time = 0; time < 2; ++time) {
         endTimeOf(Message::Usual);
         EXPECT_EQ(status(), "");
-        outlets.labelListStatus.announce("Stations imported: 4.");
+        controls.stationList.labelListStatus.announce("Stations imported: 4.");
         EXPECT_EQ(status(), "Stations imported: 4.") << "the same words anew";
     }
 }
@@ -194,14 +174,14 @@ TEST_F(StationListWindowTest, EveryMessageIsShownForItsOwnTimeAFailureBeforeWhat
 TEST_F(StationListWindowTest, KeysOfTheTableUseTheToolsThatAreEnabled)
 {
     QStringList used;
-    outlets.radioEdit.action.set([&] { used << "edit"; });
-    outlets.radioRemove.action.set([&] { used << "remove"; });
+    controls.stationList.radioEdit.action.set([&] { used << "edit"; });
+    controls.stationList.radioRemove.action.set([&] { used << "remove"; });
     QTest::keyClick(&tableWidget(), Qt::Key_Return);
     QTest::keyClick(&tableWidget(), Qt::Key_Delete);
     QApplication::processEvents();
     EXPECT_TRUE(used.isEmpty());
-    outlets.radioEdit.setEnabled(true);
-    outlets.radioRemove.setEnabled(true);
+    controls.stationList.radioEdit.setEnabled(true);
+    controls.stationList.radioRemove.setEnabled(true);
     QTest::keyClick(&tableWidget(), Qt::Key_Return);
     QTest::keyClick(&tableWidget(), Qt::Key_Delete);
     QApplication::processEvents();
@@ -262,8 +242,8 @@ TEST_F(StationListWindowTest, TheSheetOpensWithTheFocusInNeitherFieldEveryTime)
         EXPECT_TRUE(qobject_cast<QLineEdit*>(sheet.focusWidget()) == nullptr);
         QTest::keyClick(&sheet, Qt::Key_Tab);
         EXPECT_EQ(sheet.focusWidget()->objectName(), "textFieldRadioName");
-        outlets.winEditData.endSheet();
-        outlets.winEditData.close();
+        controls.editSheet.winEditData.endSheet();
+        controls.editSheet.winEditData.close();
         EXPECT_FALSE(sheet.isVisible());
         window.activateWindow();
         QApplication::processEvents();
@@ -273,9 +253,9 @@ TEST_F(StationListWindowTest, TheSheetOpensWithTheFocusInNeitherFieldEveryTime)
 TEST_F(StationListWindowTest, ReturnConfirmsAndEscapeTheTitleBarAndCtrlWClose)
 {
     QStringList asked;
-    outlets.buttonAction.action.set([&] { asked << "confirm"; });
-    outlets.buttonCancel.action.set([&] { asked << "cancel"; });
-    outlets.winEditData.action.set([&] { asked << "close"; });
+    controls.editSheet.buttonAction.action.set([&] { asked << "confirm"; });
+    controls.editSheet.buttonCancel.action.set([&] { asked << "cancel"; });
+    controls.editSheet.winEditData.action.set([&] { asked << "close"; });
     openSheet();
     auto& name = child<QLineEdit>(sheet, "textFieldRadioName");
     QTest::keyClick(&sheet, Qt::Key_Return);
@@ -293,24 +273,24 @@ TEST_F(StationListWindowTest, ReturnConfirmsAndEscapeTheTitleBarAndCtrlWClose)
 TEST_F(StationListWindowTest, TheSheetBlocksItsWindowAloneAndKeepsTheKeysOfTheMenus)
 {
     int stops = 0;
-    outlets.menuStop.action.set([&] { ++stops; });
-    outlets.menuStop.setEnabled(true);
+    controls.menu.menuStop.action.set([&] { ++stops; });
+    controls.menu.menuStop.setEnabled(true);
     openSheet();
     EXPECT_EQ(sheet.windowModality(), Qt::WindowModal);
     QTest::keyClick(&sheet, Qt::Key_Period, Qt::ControlModifier);
     QApplication::processEvents();
     EXPECT_EQ(stops, 1);
-    EXPECT_FALSE(outlets.winWebRadioListEdit.isKeyWindow());
-    EXPECT_TRUE(outlets.winEditData.isKeyWindow());
+    EXPECT_FALSE(controls.stationList.winWebRadioListEdit.isKeyWindow());
+    EXPECT_TRUE(controls.editSheet.winEditData.isKeyWindow());
 }
 
 TEST_F(StationListWindowTest, ASheetGoesAndComesWithItsWindow)
 {
     openSheet();
-    outlets.winWebRadioListEdit.setIsVisible(false);
+    controls.stationList.winWebRadioListEdit.setIsVisible(false);
     QApplication::processEvents();
     EXPECT_FALSE(sheet.isVisible());
-    outlets.winWebRadioListEdit.setIsVisible(true);
+    controls.stationList.winWebRadioListEdit.setIsVisible(true);
     QApplication::processEvents();
     EXPECT_TRUE(sheet.isVisible());
 }
@@ -318,8 +298,8 @@ TEST_F(StationListWindowTest, ASheetGoesAndComesWithItsWindow)
 TEST_F(StationListWindowTest, KeysOfTheMenusDoNotDisturbTyping)
 {
     QStringList chosen;
-    const std::initializer_list<std::pair<MenuItem&, const char*>> items{
-        {outlets.menuPlayPause, "play"}, {outlets.menuPreviousStation, "previous"}, {outlets.menuNextStation, "next"}};
+    const std::initializer_list<std::pair<MenuItem&, const char*>> items{{controls.menu.menuPlayPause, "play"},
+        {controls.menu.menuPreviousStation, "previous"}, {controls.menu.menuNextStation, "next"}};
     for (const auto& [item, name] : items) {
         item.setEnabled(true);
         item.action.set([&chosen, name = QString(name)] { chosen << name; });
@@ -345,15 +325,15 @@ TEST_F(StationListWindowTest, KeysOfTheMenusDoNotDisturbTyping)
 TEST_F(StationListWindowTest, AKeyIsHeardOnceInWhicheverWindowIsActive)
 {
     QStringList heard;
-    outlets.menuMute.action.set([&] { heard << "mute"; });
-    outlets.winWebRadioListEdit.action.set([&] { heard << "close list"; });
-    outlets.winAbout.action.set([&] { heard << "close dialog"; });
+    controls.menu.menuMute.action.set([&] { heard << "mute"; });
+    controls.stationList.winWebRadioListEdit.action.set([&] { heard << "close list"; });
+    controls.about.winAbout.action.set([&] { heard << "close dialog"; });
     QMainWindow other;
     menus.addTo(other);
     StationComboBox box(&other);
     box.addItem(QStringLiteral("Station"));
     const auto dialog = ProgramDialog::from<Ui::AboutWindow>();
-    connectAboutWindow(outlets, *dialog);
+    connectAboutWindow(controls.about, *dialog);
     const auto press = [&](QWidget& active, QWidget& receiver, Qt::Key key) {
         active.show();
         active.activateWindow();
@@ -384,18 +364,18 @@ TEST_F(StationListWindowTest, AKeyIsHeardOnceInWhicheverWindowIsActive)
 TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
 {
     bool isChosen = false;
-    Outlets others;
-    ProgramMenus late([&] { others.menuMute.setEnabled(true); });
-    connectMenus(others, late);
-    others.menuMute.action.set([&] { isChosen = true; });
-    others.menuMute.setEnabled(false);
+    Controls others;
+    ProgramMenus late([&] { others.menu.menuMute.setEnabled(true); });
+    connectMenus(others.menu, late);
+    others.menu.menuMute.action.set([&] { isChosen = true; });
+    others.menu.menuMute.setEnabled(false);
     QMainWindow main;
     late.addTo(main);
     main.show();
     main.activateWindow();
     ASSERT_TRUE(handleEventsUntil([&] { return main.isActiveWindow(); }));
     QApplication::processEvents();
-    others.menuMute.setEnabled(false);
+    others.menu.menuMute.setEnabled(false);
     QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
     QApplication::processEvents();
     EXPECT_TRUE(isChosen);
@@ -407,21 +387,21 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
 TEST_F(StationListWindowTest, EveryItemHasTheTagOfWhatItSaysAndItsKeys)
 {
     struct Row {
-        MenuItem Outlets::*item;
+        MenuItem MenuControls::*item;
         int tag;
         const char* keys;
     };
-    const std::array items{Row{&Outlets::menuQuit, 0, "Ctrl+Q"}, Row{&Outlets::menuRadioAdd, 1000, "Ctrl+N"},
-        Row{&Outlets::menuRadioEdit, 1001, ""}, Row{&Outlets::menuRadioRemove, 1002, ""},
-        Row{&Outlets::menuRadioShowEditRadio, 1003, "Ctrl+E"}, Row{&Outlets::menuPlayPause, 2000, "Ctrl+P; Space"},
-        Row{&Outlets::menuStop, 2001, "Ctrl+."}, Row{&Outlets::menuMute, 2002, "Ctrl+M"},
-        Row{&Outlets::menuPreviousStation, 2003, "Ctrl+Left"}, Row{&Outlets::menuNextStation, 2004, "Ctrl+Right"},
-        Row{&Outlets::menuRadioImport, 3000, "Ctrl+I"}, Row{&Outlets::menuRadioExport, 3001, "Ctrl+Shift+E"},
-        Row{&Outlets::menuPreferences, 4000, "Ctrl+,"}, Row{&Outlets::menuCheckUpdates, 4001, ""},
-        Row{&Outlets::menuAbout, -1, ""}};
+    const std::array items{Row{&MenuControls::menuQuit, 0, "Ctrl+Q"}, Row{&MenuControls::menuRadioAdd, 1000, "Ctrl+N"},
+        Row{&MenuControls::menuRadioEdit, 1001, ""}, Row{&MenuControls::menuRadioRemove, 1002, ""},
+        Row{&MenuControls::menuRadioShowEditRadio, 1003, "Ctrl+E"},
+        Row{&MenuControls::menuPlayPause, 2000, "Ctrl+P; Space"}, Row{&MenuControls::menuStop, 2001, "Ctrl+."},
+        Row{&MenuControls::menuMute, 2002, "Ctrl+M"}, Row{&MenuControls::menuPreviousStation, 2003, "Ctrl+Left"},
+        Row{&MenuControls::menuNextStation, 2004, "Ctrl+Right"}, Row{&MenuControls::menuRadioImport, 3000, "Ctrl+I"},
+        Row{&MenuControls::menuRadioExport, 3001, "Ctrl+Shift+E"}, Row{&MenuControls::menuPreferences, 4000, "Ctrl+,"},
+        Row{&MenuControls::menuCheckUpdates, 4001, ""}, Row{&MenuControls::menuAbout, -1, ""}};
     for (const auto& [item, tag, keys] : items) {
         const QAction& shown = action(item);
-        EXPECT_EQ((outlets.*item).tag(), tag) << shown.text().toStdString();
+        EXPECT_EQ((controls.menu.*item).tag(), tag) << shown.text().toStdString();
         EXPECT_EQ(QKeySequence::listToString(shown.shortcuts()), keys) << shown.text().toStdString();
     }
 }
@@ -429,25 +409,25 @@ TEST_F(StationListWindowTest, EveryItemHasTheTagOfWhatItSaysAndItsKeys)
 TEST_F(StationListWindowTest, ACheckMarkIsTheProgramsToSet)
 {
     QAction& mute = *window.menuBar()->actions().at(1)->menu()->actions().at(2);
-    outlets.menuMute.setEnabled(true);
+    controls.menu.menuMute.setEnabled(true);
     mute.trigger();
     QApplication::processEvents();
     EXPECT_FALSE(mute.isChecked());
-    outlets.menuMute.setState(true);
+    controls.menu.menuMute.setState(true);
     EXPECT_TRUE(mute.isChecked());
 }
 
 TEST_F(StationListWindowTest, AMenuTitleFromTheProgramIsShownAsItIs)
 {
-    EXPECT_EQ(outlets.menuRadioAdd.state().title, Text("Add…"));
-    outlets.menuRadioShowEditRadio.setTitle("Close R&B");
-    outlets.menuRadioShowEditRadio.setEnabled(false);
+    EXPECT_EQ(controls.menu.menuRadioAdd.state().title, Text("Add…"));
+    controls.menu.menuRadioShowEditRadio.setTitle("Close R&B");
+    controls.menu.menuRadioShowEditRadio.setEnabled(false);
     const QAction& shown = *window.menuBar()->actions().at(2)->menu()->actions().constFirst();
     EXPECT_EQ(shown.text(), "Close R&&B");
     EXPECT_FALSE(shown.isEnabled());
     EXPECT_EQ(shown.shortcut(), QKeySequence("Ctrl+E"));
-    EXPECT_EQ(outlets.menuRadioShowEditRadio.tag(), 1003);
-    EXPECT_EQ(action(&Outlets::menuRadioAdd).text(), "&Add…");
+    EXPECT_EQ(controls.menu.menuRadioShowEditRadio.tag(), 1003);
+    EXPECT_EQ(action(&MenuControls::menuRadioAdd).text(), "&Add…");
 }
 
 TEST_F(StationListWindowTest, AnEmptyListSaysWhatToDo)
@@ -496,11 +476,11 @@ TEST_F(StationListWindowTest, TheColumnsComeBackAsTheyWere)
     const WindowMemory memory(state.path());
     tableWidget().horizontalHeader()->resizeSection(0, 277);
     memory.keep(window);
-    Outlets others;
-    StationListWindow again(others.tableViewListRadio);
+    Controls others;
+    StationListWindow again(others.stationList.tableViewListRadio);
     memory.restore(again);
-    connectStationListWindow(others, again);
-    others.tableViewListRadio.reloadData();
+    connectStationListWindow(others.stationList, again);
+    others.stationList.tableViewListRadio.reloadData();
     EXPECT_EQ(child<StationTable>(again, "tableViewListRadio").horizontalHeader()->sectionSize(0), 277);
 }
 

@@ -21,7 +21,8 @@ protected:
     {
         table.setDataSource(&rows);
         table.action.set([this] { ++selections; });
-        table.editAction.set([this] { table.passEditOn(); });
+        table.setEditAction(
+            [this](const CellEdit& edit) { rows.tableView(table, edit.value, edit.column.view(), edit.row); });
         table.doubleAction.set([this] { ++doubleClicks; });
         new TableBinder(table, widget);
         table.setAllowsMultipleSelection(true);

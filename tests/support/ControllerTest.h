@@ -1,13 +1,11 @@
-// The controller on the platform in memory, with connected outlets: the ground of most tests.
+// The controller on the platform in memory, with connected controls: the ground of most tests.
 #pragma once
 
-#include "app/Actions.h"
-#include "app/Gate.h"
 #include "app/WinSonavelController.h"
 #include "model/KVStationWebRadio.h"
 #include "storage/StationListCodec.h"
 #include "support/MemoryPlatform.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <gtest/gtest.h>
 
@@ -23,10 +21,9 @@ protected:
         "http://data.example/app_data_files/testget.php?file=20161001000000_lr.rdb";
 
     MemoryPlatform platform;
-    Outlets outlets;
-    WinSonavelController controller{platform.ports(), platform.configuration, outlets};
-    Gate gate;
-    Actions actions{controller, outlets, gate};
+    Controls controls;
+    WinSonavelController controller{platform.ports(), platform.configuration, controls};
+    Actions& actions = controller.actions;
 
     /// Both phases, and the loop's next turn.
     void start()
@@ -46,23 +43,26 @@ protected:
 
     void connectOutlets()
     {
-        for (Window* window : {&outlets.winSonavel, &outlets.winWebRadioListEdit, &outlets.winEditData,
-                 &outlets.winPreferences, &outlets.winUpdateNotification, &outlets.winAbout})
+        for (Window* window : {&controls.main.winSonavel, &controls.stationList.winWebRadioListEdit,
+                 &controls.editSheet.winEditData, &controls.preferences.winPreferences,
+                 &controls.updateNotice.winUpdateNotification, &controls.about.winAbout})
             window->connect({});
-        for (PopUpButton* popUp : {&outlets.popupbuttonRadioList, &outlets.popupDefaultButtonListRadio})
+        for (PopUpButton* popUp :
+            {&controls.main.popupbuttonRadioList, &controls.preferences.popupDefaultButtonListRadio})
             popUp->connect({});
-        for (Button* button : {&outlets.buttonPlayPause, &outlets.buttonStop, &outlets.buttonMute,
-                 &outlets.buttonEditRadioList, &outlets.buttonAction, &outlets.buttonCancel,
-                 &outlets.checkBoxDefaultAutoPlayAtStartApp, &outlets.checkBoxDefaultAutoPlay})
+        for (Button* button :
+            {&controls.main.buttonPlayPause, &controls.main.buttonStop, &controls.main.buttonMute,
+                &controls.main.buttonEditRadioList, &controls.editSheet.buttonAction, &controls.editSheet.buttonCancel,
+                &controls.preferences.checkBoxDefaultAutoPlayAtStartApp, &controls.preferences.checkBoxDefaultAutoPlay})
             button->connect({});
-        outlets.buttonPlayPause.setImage("play.png");
-        outlets.buttonMute.setTitle("Mute");
-        for (Slider* slider : {&outlets.sliderVolume, &outlets.sliderDefaultVolume})
+        controls.main.buttonPlayPause.setImage("play.png");
+        controls.main.buttonMute.setTitle("Mute");
+        for (Slider* slider : {&controls.main.sliderVolume, &controls.preferences.sliderDefaultVolume})
             slider->connect({});
-        outlets.sliderVolume.setMaxValue(1.0);
-        outlets.tableViewListRadio.connect({});
-        for (TextField* field : {&outlets.textFieldRadioName, &outlets.textFieldRadioLink, &outlets.labelListStatus,
-                 &outlets.labelUpdateNotification})
+        controls.main.sliderVolume.setMaxValue(1.0);
+        controls.stationList.tableViewListRadio.connect({});
+        for (TextField* field : {&controls.editSheet.textFieldRadioName, &controls.editSheet.textFieldRadioLink,
+                 &controls.stationList.labelListStatus, &controls.updateNotice.labelUpdateNotification})
             field->connect({});
         connectItems();
     }
@@ -72,10 +72,11 @@ protected:
     {
         int tag = 0;
         for (ToolbarItem* item :
-            {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
+            {&controls.stationList.radioAdd, &controls.stationList.radioEdit, &controls.stationList.radioRemove,
+                &controls.stationList.radioImport, &controls.stationList.radioExport})
             item->connect({tag++, false});
         for (const TaggedItem& row : taggedItems())
-            (outlets.*row.item).connect({{}, row.tag, false});
+            (controls.menu.*row.item).connect({{}, row.tag, false});
     }
 
     void putDatabase(const Text& listText)

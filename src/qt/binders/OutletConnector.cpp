@@ -13,7 +13,6 @@
 #include "qt/binders/TextFieldBinder.h"
 #include "qt/binders/ToolbarItemBinder.h"
 #include "qt/binders/WindowBinder.h"
-#include "qt/kit/TextConversion.h"
 #include "qt/windows/ProgramMenus.h"
 
 #include <QToolBar>
@@ -31,11 +30,6 @@ template <class Object> Object& objectNamed(QWidget& window, const char* name)
         throw MissingOutlet(
             std::string("the window has no ") + Object::staticMetaObject.className() + " named " + name);
     return *object;
-}
-
-Text translated(const char* key)
-{
-    return toText(qtTrId(key));
 }
 
 // Qt owns the binders: each is a child of its widget.
@@ -84,106 +78,76 @@ void connect(Toolbar& outlet, QWidget& window, const char* name)
     outlet.connect({objectNamed<QToolBar>(window, name).isVisibleTo(&window)});
 }
 
-void connectStationListWindowBeforehand(Outlets& outlets)
-{
-    outlets.winWebRadioListEdit.connect({translated("WIN_EDIT_RADIO_LIST")});
-    outlets.toolBar.connect({true});
-    int tag = 0;
-    for (ToolbarItem* item :
-        {&outlets.radioAdd, &outlets.radioEdit, &outlets.radioRemove, &outlets.radioImport, &outlets.radioExport})
-        item->connect({tag++, false});
-    outlets.tableViewListRadio.connect({});
-    outlets.labelListStatus.connect({Text("")});
-
-    outlets.winEditData.connect({translated("WIN_EDIT_DATA")});
-    outlets.textFieldRadioName.connect({Text("")});
-    outlets.textFieldRadioLink.connect({Text("")});
-    outlets.buttonAction.connect({translated("BUTTON_ADD"), TitleColor::Black, {}, true});
-    outlets.buttonCancel.connect({translated("BUTTON_CANCEL"), TitleColor::Black, {}, true});
-}
-
-void connectPreferencesBeforehand(Outlets& outlets)
-{
-    outlets.winPreferences.connect({translated("WIN_PREFERENCES")});
-    outlets.checkBoxDefaultAutoPlayAtStartApp.connect({translated("CHECK_PLAY_AT_START"), TitleColor::Black, {}, true});
-    outlets.checkBoxDefaultAutoPlay.connect({translated("CHECK_PLAY_WHEN_CHOSEN"), TitleColor::Black, {}, true});
-    outlets.labelSetDeaultRadio.connect({translated("LABEL_DEFAULT_STATION")});
-    outlets.popupDefaultButtonListRadio.connect({nullptr, -1, true});
-    outlets.labelSetDefaultVolume.connect({translated("LABEL_DEFAULT_VOLUME")});
-    outlets.sliderDefaultVolume.connect({0.0, 1.0, 0.0, true});
-    outlets.buttonClosePreferences.connect({translated("BUTTON_CLOSE"), TitleColor::Black, {}, true});
-}
-
 } // namespace
 
-void connectSplashScreen(Outlets& outlets, QWidget& window)
+void connectSplashScreen(Window& winSplashScreen, QWidget& window)
 {
-    connect(outlets.winSplashScreen, window, "winSplashScreen");
+    connect(winSplashScreen, window, "winSplashScreen");
 }
 
-void connectMainWindow(Outlets& outlets, QWidget& window)
+void connectMainWindow(MainControls& controls, QWidget& window)
 {
-    connect(outlets.winSonavel, window, "winSonavel");
-    connect(outlets.popupbuttonRadioList, window, "popupbuttonRadioList");
-    connect(outlets.buttonPlayPause, window, "buttonPlayPause");
-    connect(outlets.buttonStop, window, "buttonStop");
-    connect(outlets.buttonMute, window, "buttonMute");
-    connect(outlets.buttonEditRadioList, window, "buttonEditRadioList");
-    connect(outlets.imageVolume, window, "imageVolume");
-    connect(outlets.sliderVolume, window, "sliderVolume");
-    connect(outlets.labelVolume, window, "labelVolume");
+    connect(controls.winSonavel, window, "winSonavel");
+    connect(controls.popupbuttonRadioList, window, "popupbuttonRadioList");
+    connect(controls.buttonPlayPause, window, "buttonPlayPause");
+    connect(controls.buttonStop, window, "buttonStop");
+    connect(controls.buttonMute, window, "buttonMute");
+    connect(controls.buttonEditRadioList, window, "buttonEditRadioList");
+    connect(controls.imageVolume, window, "imageVolume");
+    connect(controls.sliderVolume, window, "sliderVolume");
+    connect(controls.labelVolume, window, "labelVolume");
 }
 
-void connectStationListWindow(Outlets& outlets, QWidget& window)
+void connectStationListWindow(StationListControls& controls, QWidget& window)
 {
-    connect(outlets.winWebRadioListEdit, window, "winWebRadioListEdit");
-    connect(outlets.toolBar, window, "toolBar");
-    connect(outlets.radioAdd, window, "radioAdd");
-    connect(outlets.radioEdit, window, "radioEdit");
-    connect(outlets.radioRemove, window, "radioRemove");
-    connect(outlets.radioImport, window, "radioImport");
-    connect(outlets.radioExport, window, "radioExport");
-    connect(outlets.tableViewListRadio, window, "tableViewListRadio");
-    connect(outlets.labelListStatus, window, "labelListStatus");
+    connect(controls.winWebRadioListEdit, window, "winWebRadioListEdit");
+    connect(controls.toolBar, window, "toolBar");
+    connect(controls.radioAdd, window, "radioAdd");
+    connect(controls.radioEdit, window, "radioEdit");
+    connect(controls.radioRemove, window, "radioRemove");
+    connect(controls.radioImport, window, "radioImport");
+    connect(controls.radioExport, window, "radioExport");
+    connect(controls.tableViewListRadio, window, "tableViewListRadio");
+    connect(controls.labelListStatus, window, "labelListStatus");
 }
 
-void connectEditSheet(Outlets& outlets, QWidget& sheet)
+void connectEditSheet(EditSheetControls& controls, QWidget& sheet)
 {
-    connect(outlets.winEditData, sheet, "winEditData");
-    connect(outlets.textFieldRadioName, sheet, "textFieldRadioName");
-    connect(outlets.textFieldRadioLink, sheet, "textFieldRadioLink");
-    connect(outlets.buttonAction, sheet, "buttonAction");
-    connect(outlets.buttonCancel, sheet, "buttonCancel");
+    connect(controls.winEditData, sheet, "winEditData");
+    connect(controls.textFieldRadioName, sheet, "textFieldRadioName");
+    connect(controls.textFieldRadioLink, sheet, "textFieldRadioLink");
+    connect(controls.buttonAction, sheet, "buttonAction");
+    connect(controls.buttonCancel, sheet, "buttonCancel");
 }
 
-void connectPreferences(Outlets& outlets, QWidget& sheet)
+void connectPreferences(PreferencesControls& controls, QWidget& sheet)
 {
-    connect(outlets.winPreferences, sheet, "winPreferences");
-    connect(outlets.checkBoxDefaultAutoPlayAtStartApp, sheet, "checkBoxDefaultAutoPlayAtStartApp");
-    connect(outlets.checkBoxDefaultAutoPlay, sheet, "checkBoxDefaultAutoPlay");
-    connect(outlets.labelSetDeaultRadio, sheet, "labelSetDeaultRadio");
-    connect(outlets.popupDefaultButtonListRadio, sheet, "popupDefaultButtonListRadio");
-    connect(outlets.labelSetDefaultVolume, sheet, "labelSetDefaultVolume");
-    connect(outlets.sliderDefaultVolume, sheet, "sliderDefaultVolume");
-    connect(outlets.buttonClosePreferences, sheet, "buttonClosePreferences");
+    connect(controls.winPreferences, sheet, "winPreferences");
+    connect(controls.checkBoxDefaultAutoPlayAtStartApp, sheet, "checkBoxDefaultAutoPlayAtStartApp");
+    connect(controls.checkBoxDefaultAutoPlay, sheet, "checkBoxDefaultAutoPlay");
+    connect(controls.labelSetDeaultRadio, sheet, "labelSetDeaultRadio");
+    connect(controls.popupDefaultButtonListRadio, sheet, "popupDefaultButtonListRadio");
+    connect(controls.labelSetDefaultVolume, sheet, "labelSetDefaultVolume");
+    connect(controls.sliderDefaultVolume, sheet, "sliderDefaultVolume");
+    connect(controls.buttonClosePreferences, sheet, "buttonClosePreferences");
 }
 
-void connectAboutWindow(Outlets& outlets, QWidget& window)
+void connectAboutWindow(AboutControls& controls, QWidget& window)
 {
-    connect(outlets.winAbout, window, "winAbout");
-    connect(outlets.imageAppIcon, window, "imageAppIcon");
-    connect(outlets.labelAppName, window, "labelAppName");
-    connect(outlets.labelAppVersion, window, "labelAppVersion");
-    connect(outlets.labelAppLicense, window, "labelAppLicense");
-    connect(outlets.labelAppCopytight, window, "labelAppCopytight");
-    connect(outlets.buttonCloseAbout, window, "buttonCloseAbout");
+    connect(controls.winAbout, window, "winAbout");
+    connect(controls.imageAppIcon, window, "imageAppIcon");
+    connect(controls.labelAppName, window, "labelAppName");
+    connect(controls.labelAppVersion, window, "labelAppVersion");
+    connect(controls.labelAppLicense, window, "labelAppLicense");
+    connect(controls.labelAppCopytight, window, "labelAppCopytight");
+    connect(controls.buttonCloseAbout, window, "buttonCloseAbout");
 }
 
-void connectUpdateNotice(Outlets& outlets, QWidget& window)
+void connectUpdateNotice(UpdateNoticeControls& controls, QWidget& window)
 {
-    connect(outlets.winUpdateNotification, window, "winUpdateNotification");
-    connect(outlets.labelUpdateNotification, window, "labelUpdateNotification");
-    connect(outlets.buttonCloseNotification, window, "buttonCloseNotification");
+    connect(controls.winUpdateNotification, window, "winUpdateNotification");
+    connect(controls.labelUpdateNotification, window, "labelUpdateNotification");
+    connect(controls.buttonCloseNotification, window, "buttonCloseNotification");
 }
 
 void connectUpdateWindow(const UpdaterControls& controls, QWidget& window)
@@ -196,19 +160,10 @@ void connectUpdateWindow(const UpdaterControls& controls, QWidget& window)
     connect(controls.buttonRemind, window, "buttonRemind");
 }
 
-void connectBeforehand(Outlets& outlets)
-{
-    connectStationListWindowBeforehand(outlets);
-    connectPreferencesBeforehand(outlets);
-    outlets.winAbout.connect({translated("WIN_ABOUT")});
-    outlets.winUpdateNotification.connect({translated("WIN_UPDATE")});
-    outlets.labelUpdateNotification.connect({Text("")});
-}
-
-void connectMenus(Outlets& outlets, const ProgramMenus& menus)
+void connectMenus(MenuControls& controls, const ProgramMenus& menus)
 {
     for (const auto& [item, action] : menus.items())
-        new MenuItemBinder(outlets.*item, tagOf(item), *action);
+        new MenuItemBinder(controls.*item, tagOf(item), *action);
 }
 
 } // namespace sonavel

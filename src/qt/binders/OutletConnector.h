@@ -1,7 +1,7 @@
 // Connects the outlets of the program to the widgets of the same object name.
 #pragma once
 
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <QWidget>
 
@@ -20,17 +20,14 @@ struct UpdaterControls;
 
 /// Each connects every outlet that belongs to the window, a top-level widget, or to the menus. They throw
 /// MissingOutlet.
-void connectSplashScreen(Outlets& outlets, QWidget& window);
-void connectMainWindow(Outlets& outlets, QWidget& window);
-void connectStationListWindow(Outlets& outlets, QWidget& window);
-void connectEditSheet(Outlets& outlets, QWidget& sheet);
-void connectPreferences(Outlets& outlets, QWidget& sheet);
-void connectAboutWindow(Outlets& outlets, QWidget& window);
-void connectUpdateNotice(Outlets& outlets, QWidget& window);
+void connectSplashScreen(Window& winSplashScreen, QWidget& window);
+void connectMainWindow(MainControls& controls, QWidget& window);
+void connectStationListWindow(StationListControls& controls, QWidget& window);
+void connectEditSheet(EditSheetControls& controls, QWidget& sheet);
+void connectPreferences(PreferencesControls& controls, QWidget& sheet);
+void connectAboutWindow(AboutControls& controls, QWidget& window);
+void connectUpdateNotice(UpdateNoticeControls& controls, QWidget& window);
 void connectUpdateWindow(const UpdaterControls& controls, QWidget& window);
-/// For as long as the windows beside the main window are not built, connects their outlets to what the descriptions of
-/// these windows say. What the program says meanwhile is rendered when the windows are connected.
-void connectBeforehand(Outlets& outlets);
-void connectMenus(Outlets& outlets, const ProgramMenus& menus);
+void connectMenus(MenuControls& controls, const ProgramMenus& menus);
 
 } // namespace sonavel

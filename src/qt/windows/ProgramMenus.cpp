@@ -1,7 +1,7 @@
 #include "qt/windows/ProgramMenus.h"
 
 #include "qt/windows/ProgramDialog.h"
-#include "ui/Outlets.h"
+#include "ui/Controls.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -17,8 +17,10 @@ namespace sonavel {
 
 namespace {
 
+using Items = MenuControls;
+
 struct Entry {
-    MenuItem Outlets::*outlet; ///< null for a line between items
+    MenuItem MenuControls::*outlet; ///< null for a line between items
     const char* title = nullptr;
     QList<QKeySequence> keys = {};
     bool bearsCheckMark = false;
@@ -33,21 +35,21 @@ const QList<Menu>& layout()
 {
     static const QList<Menu> menus{
         {"MENU_SONAVEL",
-            {{&Outlets::menuAbout, "MENU_ABOUT"}, {&Outlets::menuCheckUpdates, "MENU_CHECK_UPDATES"}, {nullptr},
-                {&Outlets::menuPreferences, "MENU_PREFERENCES", {Qt::CTRL | Qt::Key_Comma}}, {nullptr},
-                {&Outlets::menuQuit, "MENU_QUIT", {Qt::CTRL | Qt::Key_Q}}}},
+            {{&Items::menuAbout, "MENU_ABOUT"}, {&Items::menuCheckUpdates, "MENU_CHECK_UPDATES"}, {nullptr},
+                {&Items::menuPreferences, "MENU_PREFERENCES", {Qt::CTRL | Qt::Key_Comma}}, {nullptr},
+                {&Items::menuQuit, "MENU_QUIT", {Qt::CTRL | Qt::Key_Q}}}},
         {"MENU_PLAYBACK",
-            {{&Outlets::menuPlayPause, "MENU_PLAY_PAUSE", {Qt::CTRL | Qt::Key_P, Qt::Key_Space}},
-                {&Outlets::menuStop, "MENU_STOP", {Qt::CTRL | Qt::Key_Period}},
-                {&Outlets::menuMute, "MENU_MUTE", {Qt::CTRL | Qt::Key_M}, true}, {nullptr},
-                {&Outlets::menuPreviousStation, "MENU_PREVIOUS", {Qt::CTRL | Qt::Key_Left}},
-                {&Outlets::menuNextStation, "MENU_NEXT", {Qt::CTRL | Qt::Key_Right}}}},
+            {{&Items::menuPlayPause, "MENU_PLAY_PAUSE", {Qt::CTRL | Qt::Key_P, Qt::Key_Space}},
+                {&Items::menuStop, "MENU_STOP", {Qt::CTRL | Qt::Key_Period}},
+                {&Items::menuMute, "MENU_MUTE", {Qt::CTRL | Qt::Key_M}, true}, {nullptr},
+                {&Items::menuPreviousStation, "MENU_PREVIOUS", {Qt::CTRL | Qt::Key_Left}},
+                {&Items::menuNextStation, "MENU_NEXT", {Qt::CTRL | Qt::Key_Right}}}},
         {"MENU_STATIONS",
-            {{&Outlets::menuRadioShowEditRadio, "SHOW_EDIT_RADIO_LIST", {Qt::CTRL | Qt::Key_E}}, {nullptr},
-                {&Outlets::menuRadioAdd, "MENU_ADD", {Qt::CTRL | Qt::Key_N}}, {&Outlets::menuRadioEdit, "MENU_EDIT"},
-                {&Outlets::menuRadioRemove, "MENU_REMOVE"}, {nullptr},
-                {&Outlets::menuRadioImport, "MENU_IMPORT", {Qt::CTRL | Qt::Key_I}},
-                {&Outlets::menuRadioExport, "MENU_EXPORT", {Qt::CTRL | Qt::SHIFT | Qt::Key_E}}}},
+            {{&Items::menuRadioShowEditRadio, "SHOW_EDIT_RADIO_LIST", {Qt::CTRL | Qt::Key_E}}, {nullptr},
+                {&Items::menuRadioAdd, "MENU_ADD", {Qt::CTRL | Qt::Key_N}}, {&Items::menuRadioEdit, "MENU_EDIT"},
+                {&Items::menuRadioRemove, "MENU_REMOVE"}, {nullptr},
+                {&Items::menuRadioImport, "MENU_IMPORT", {Qt::CTRL | Qt::Key_I}},
+                {&Items::menuRadioExport, "MENU_EXPORT", {Qt::CTRL | Qt::SHIFT | Qt::Key_E}}}},
     };
     return menus;
 }

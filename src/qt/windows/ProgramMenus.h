@@ -14,14 +14,14 @@ class QMenuBar;
 namespace sonavel {
 
 class MenuItem;
-struct Outlets;
+struct MenuControls;
 
 /// One action for each item, and for each window items of its own that look like it and choose it. A key works in the
 /// active window, which Ctrl+W closes. Keys that a control needs stay with it: Space, where it presses or types, and
 /// whatever edits a text.
 class ProgramMenus : public QObject {
 public:
-    using Item = std::pair<MenuItem Outlets::*, QAction*>;
+    using Item = std::pair<MenuItem MenuControls::*, QAction*>;
 
     /// `validate` enables the items as they are to be; it is called before a menu is shown, before a key is matched,
     /// and when the keyboard has come to another window.

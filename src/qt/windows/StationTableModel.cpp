@@ -86,7 +86,7 @@ bool StationTableModel::setData(const QModelIndex& index, const QVariant& value,
     const QString text = value.toString();
     if (text == textAt(index.row(), column))
         return false;
-    table_.editedByUser(toText(text), columnIdentifiers.at(column), index.row());
+    table_.editedByUser({toText(text), columnIdentifiers.at(column), index.row()});
     emit dataChanged(index, index);
     return true;
 }

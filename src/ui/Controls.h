@@ -1,4 +1,4 @@
-// Every control of the program, by its outlet name.
+// Every control of the program by its outlet name, window by window.
 #pragma once
 
 #include "ui/Button.h"
@@ -14,9 +14,7 @@
 
 namespace sonavel {
 
-/// The controls exist from the start; a toolkit connects those whose windows it has, between the two start-up phases.
-/// Some are there for the windows' own use: the program neither reads nor sets them.
-struct Outlets {
+struct MenuControls {
     MenuItem menuRadioAdd;
     MenuItem menuRadioEdit;
     MenuItem menuRadioRemove;
@@ -32,9 +30,9 @@ struct Outlets {
     MenuItem menuQuit;
     MenuItem menuPreferences;
     MenuItem menuAbout;
+};
 
-    Window winSplashScreen;
-
+struct MainControls {
     Window winSonavel;
     PopUpButton popupbuttonRadioList;
     Button buttonPlayPause;
@@ -44,7 +42,9 @@ struct Outlets {
     ImageView imageVolume;
     Slider sliderVolume;
     TextField labelVolume;
+};
 
+struct StationListControls {
     Window winWebRadioListEdit;
     Toolbar toolBar;
     ToolbarItem radioAdd;
@@ -53,16 +53,20 @@ struct Outlets {
     ToolbarItem radioImport;
     ToolbarItem radioExport;
     TableView tableViewListRadio;
-    /// One line on what came of an import, or of a list that could not be saved.
+    /// One line on the result of an import, or on a list that could not be saved.
     TextField labelListStatus;
+};
 
-    /// The sheet of the station list window.
+/// The sheet of the station list window.
+struct EditSheetControls {
     Window winEditData;
     TextField textFieldRadioName;
     TextField textFieldRadioLink;
     Button buttonAction;
     Button buttonCancel;
+};
 
+struct PreferencesControls {
     Window winPreferences;
     Button checkBoxDefaultAutoPlayAtStartApp;
     Button checkBoxDefaultAutoPlay;
@@ -71,13 +75,16 @@ struct Outlets {
     TextField labelSetDefaultVolume;
     Slider sliderDefaultVolume;
     Button buttonClosePreferences;
+};
 
-    /// The notice of a check that found no newer version.
+/// The notice of a check that found no newer version.
+struct UpdateNoticeControls {
     Window winUpdateNotification;
     TextField labelUpdateNotification;
     Button buttonCloseNotification;
+};
 
-    // What the program tells of itself.
+struct AboutControls {
     Window winAbout;
     Button buttonCloseAbout;
     ImageView imageAppIcon;
@@ -85,6 +92,19 @@ struct Outlets {
     TextField labelAppVersion;
     TextField labelAppLicense;
     TextField labelAppCopytight;
+};
+
+/// The controls exist from the start; a toolkit connects those whose windows it has, between the two start-up phases.
+/// Some are there for the windows' own use: the program neither reads nor sets them.
+struct Controls {
+    Window winSplashScreen;
+    MenuControls menu;
+    MainControls main;
+    StationListControls stationList;
+    EditSheetControls editSheet;
+    PreferencesControls preferences;
+    UpdateNoticeControls updateNotice;
+    AboutControls about;
 };
 
 } // namespace sonavel

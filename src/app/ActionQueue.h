@@ -1,4 +1,4 @@
-// The one gate for everything that comes from outside: one action at a time.
+// The queue through which every user action passes: one at a time.
 #pragma once
 
 #include <deque>
@@ -8,7 +8,7 @@ namespace sonavel {
 
 /// While an action shows a question or waits for a server, other events of the program are handled; an action that one
 /// of them brings must not run in the middle of it. Main thread.
-class Gate {
+class ActionQueue {
 public:
     /// Runs `action` at once when none is running; else it waits until the running one has returned. For each `control`
     /// one action waits at most: a later one takes the place of an earlier one.

@@ -1,11 +1,11 @@
-#include "app/Gate.h"
+#include "app/ActionQueue.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace sonavel {
 
-void Gate::perform(const void* control, std::function<void()> action)
+void ActionQueue::perform(const void* control, std::function<void()> action)
 {
     wait(control, std::move(action));
     if (isRunning_)
@@ -19,7 +19,7 @@ void Gate::perform(const void* control, std::function<void()> action)
     isRunning_ = false;
 }
 
-void Gate::wait(const void* control, std::function<void()> action)
+void ActionQueue::wait(const void* control, std::function<void()> action)
 {
     const auto earlier = std::find_if(
         waiting_.begin(), waiting_.end(), [control](const Waiting& waiting) { return waiting.control == control; });
