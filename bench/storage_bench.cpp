@@ -48,7 +48,7 @@ Text makeListText()
 StationList makeList(FileOrder order)
 {
     StationList list;
-    list.listRadio = std::make_shared<StationRecords>(recordsFromListText(makeListText()));
+    list.setListRadio(recordsFromListText(makeListText()));
     if (order == FileOrder::Sorted)
         list.sortingRadioWithKey("radio");
     return list;
@@ -79,7 +79,7 @@ private:
 class Limit {
 public:
     explicit Limit(const StationList& list)
-        : plain_(listTextFromRecords(*list.listRadio, Heading::None))
+        : plain_(listTextFromRecords(*list.listRadio(), Heading::None))
         , base64_(encodeStationList(plain_).string())
         , buffer_(base64_.size() + 64, '\0')
         , output_(base64_.size() + 64, '\0')
@@ -129,7 +129,7 @@ void loading(benchmark::State& state, FileOrder order)
     HomeWithDatabase home(list);
     Limit limit(list);
     std::vector<std::string_view> namesInFile;
-    for (const auto& record : *list.listRadio)
+    for (const auto& record : *list.listRadio())
         namesInFile.push_back(record->radio().view());
 
     measureAgainst(
@@ -143,8 +143,7 @@ void loading(benchmark::State& state, FileOrder order)
         [&] {
             StationList loaded;
             StationDatabase database(home.files(), loaded);
-            loaded.listRadio =
-                std::make_shared<StationRecords>(recordsFromListText(database.fileRadioDBreadCypted(true)));
+            loaded.setListRadio(recordsFromListText(database.fileRadioDBreadCypted(true)));
             loaded.sortingRadioWithKey("radio");
             return loaded;
         });
@@ -156,7 +155,7 @@ void writing(benchmark::State& state)
     Limit limit(list);
     measureAgainst(
         state, [&] { return limit.encryptAndEncode(); },
-        [&] { return encodeStationList(listTextFromRecords(*list.listRadio, Heading::None)); });
+        [&] { return encodeStationList(listTextFromRecords(*list.listRadio(), Heading::None)); });
 }
 
 BENCHMARK_CAPTURE(loading, sorted, FileOrder::Sorted)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(101);

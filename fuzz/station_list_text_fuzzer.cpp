@@ -75,18 +75,18 @@ bool comesBefore(std::string_view left, std::string_view right)
 void checkSorting(const StationRecords& records)
 {
     StationList list;
-    list.listRadio = std::make_shared<StationRecords>(records);
+    list.setListRadio(records);
     list.sortingRadioWithKey("radio");
     StationRecords expected = records;
     std::stable_sort(expected.begin(), expected.end(),
         [](const auto& left, const auto& right) { return comesBefore(left->radio().view(), right->radio().view()); });
-    require(*list.listRadio == expected, "sorting is stable and by name");
+    require(*list.listRadio() == expected, "sorting is stable and by name");
 }
 
 void checkJson(const StationRecords& records, const Text& text)
 {
     StationList list;
-    list.listRadio = std::make_shared<StationRecords>(records);
+    list.setListRadio(records);
     const Text json = list.convertRadioListToJSON();
     require(!json.isAbsent() || !isValidUtf8(text.view()), "a list in UTF-8 has a JSON form");
 }

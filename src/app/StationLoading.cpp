@@ -3,13 +3,15 @@
 #include "model/StationList.h"
 #include "model/StationListText.h"
 #include "online/StationRefresh.h"
+#include "storage/ListWriter.h"
 #include "storage/StationDatabase.h"
 
 namespace sonavel {
 
-StationLoading::StationLoading(
-    StationList& stationList, StationDatabase& stationDatabase, StationRefresh& stationRefresh)
+StationLoading::StationLoading(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
+    StationRefresh& stationRefresh)
     : stationList_(stationList)
+    , listWriter_(listWriter)
     , stationDatabase_(stationDatabase)
     , stationRefresh_(stationRefresh)
 {
@@ -17,15 +19,12 @@ StationLoading::StationLoading(
 
 void StationLoading::initRadioList()
 {
-    stationList_.listRadio = std::make_shared<StationRecords>();
     const Text legacyText = legacyListText();
     const bool isMigrating = !legacyText.isAbsent();
-    *stationList_.listRadio =
-        recordsFromListText(isMigrating ? legacyText : stationDatabase_.fileRadioDBreadCypted(true));
-    stationList_.sortingRadioWithKey("radio");
+    listWriter_.load(recordsFromListText(isMigrating ? legacyText : stationDatabase_.fileRadioDBreadCypted(true)));
     if (isMigrating) {
         stationDatabase_.removeLegacyFileAfterWrite();
-        stationDatabase_.fileRadioDBupdate();
+        listWriter_.follow(ListOperation::LegacyFileRead);
     }
 
     if (stationList_.numberOfStations() == 0)

@@ -5,6 +5,7 @@
 
 namespace sonavel {
 
+class ListWriter;
 class StationDatabase;
 class StationList;
 class StationRefresh;
@@ -12,7 +13,8 @@ class StationRefresh;
 /// Main thread. Borrows everything it is given.
 class StationLoading {
 public:
-    StationLoading(StationList& stationList, StationDatabase& stationDatabase, StationRefresh& stationRefresh);
+    StationLoading(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
+        StationRefresh& stationRefresh);
     StationLoading(const StationLoading&) = delete;
     StationLoading& operator=(const StationLoading&) = delete;
     ~StationLoading() = default;
@@ -24,7 +26,8 @@ public:
 private:
     [[nodiscard]] Text legacyListText();
 
-    StationList& stationList_;
+    const StationList& stationList_;
+    ListWriter& listWriter_;
     StationDatabase& stationDatabase_;
     StationRefresh& stationRefresh_;
 };

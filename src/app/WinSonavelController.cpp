@@ -15,26 +15,27 @@ namespace sonavel {
 WinSonavelController::WinSonavelController(const Ports& ports, const Configuration& configuration, Controls& controls)
     : alerts(ports.alerts)
     , stationDatabase(ports.files, stationList)
+    , listWriter(stationList, stationDatabase)
     , preferences(ports.preferenceDomains, ports.bundle, controls.stationList.winWebRadioListEdit)
     , preferencesWindow(preferences, stationList, controls.preferences)
     , player(ports.streamPlayers, ports.notificationCenter, controls.main, controls.menu.menuMute)
     , stationSelection(stationList, preferences, player, ports.localizedStrings, controls.main,
           controls.preferences.popupDefaultButtonListRadio)
-    , stationRefresh(ports.httpClient, ports.clock, configuration.dataServer, serverDates, preferences, stationList,
-          stationDatabase)
+    , stationRefresh(
+          ports.httpClient, ports.clock, configuration.dataServer, serverDates, preferences, stationList, listWriter)
     , updateCheck({ports.httpClient, ports.localizedStrings, ports.interfaces, ports.webBrowser, ports.bundle,
                       configuration.dataServer},
           ports.clock, preferences, serverDates, stationRefresh, controls.updateNotice)
-    , stationLoading(stationList, stationDatabase, stationRefresh)
+    , stationLoading(stationList, listWriter, stationDatabase, stationRefresh)
     , editorWindow(stationList, ports.localizedStrings, ports.runLoop, controls.stationList.winWebRadioListEdit)
-    , editSheet(stationList, stationDatabase, stationSelection, editorWindow, preferences, ports.localizedStrings,
-          controls.editSheet, controls.stationList.tableViewListRadio)
-    , stationRemoval(stationList, stationDatabase, stationSelection, player, editorWindow, alerts,
-          ports.localizedStrings, controls.stationList.tableViewListRadio, controls.main.popupbuttonRadioList)
-    , stationImport(stationList, stationDatabase, stationSelection, preferences, ports.files, ports.filePanels, alerts,
+    , editSheet(stationList, listWriter, preferences, ports.localizedStrings, controls.editSheet,
+          controls.stationList.tableViewListRadio)
+    , stationRemoval(stationList, listWriter, player, alerts, ports.localizedStrings,
+          controls.stationList.tableViewListRadio, controls.main.popupbuttonRadioList)
+    , stationImport(stationList, listWriter, stationDatabase, preferences, ports.files, ports.filePanels, alerts,
           ports.localizedStrings, controls.stationList)
     , stationExport(stationList, ports.files, ports.filePanels)
-    , editorTable(stationList, stationDatabase, stationSelection, editSheet, controls.stationList.tableViewListRadio)
+    , editorTable(stationList, listWriter, editSheet, controls.stationList.tableViewListRadio)
     , editorToolbar(editSheet, stationRemoval, stationImport, stationExport, controls.stationList)
     , menus(controls.menu,
           {player, stationSelection, editorWindow, editSheet, stationRemoval, stationImport, stationExport,
@@ -48,6 +49,7 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
     , configuration_(configuration)
     , controls_(controls)
 {
+    listWriter.setObserver([this](ListStep step) { show(step); });
     wireMainWindow(actions, controls.main, player, stationSelection, editorWindow, [this] { quitApp(); });
     wireStationList(actions, controls.stationList, editorWindow, editorTable, editorToolbar);
     wireEditSheet(actions, controls.editSheet, editSheet);
@@ -136,13 +138,28 @@ void WinSonavelController::keepWhatIsOpen()
 
 void WinSonavelController::checkUpdateOnDemand()
 {
-    const unsigned changesBefore = stationRefresh.changes();
+    const unsigned changesBefore = listWriter.changes();
     updateCheck.checkUpdate();
-    if (stationRefresh.changes() == changesBefore)
+    if (listWriter.changes() != changesBefore)
+        listWriter.follow(ListOperation::RefreshShown);
+}
+
+void WinSonavelController::show(ListStep step)
+{
+    switch (step) {
+    case ListStep::Save:
         return;
-    stationSelection.updatePopupListRadioWithListStation();
-    controls_.stationList.tableViewListRadio.reloadData();
-    editorWindow.updateTitleWebRadioListEdit();
+    case ListStep::RefillPopUps:
+        return stationSelection.updatePopupListRadioWithListStation();
+    case ListStep::ReloadTable:
+        return controls_.stationList.tableViewListRadio.reloadData();
+    case ListStep::SelectLastRow:
+        return editSheet.selectLastRow();
+    case ListStep::CloseSheet:
+        return editSheet.winEditDataCloseAndResetField();
+    case ListStep::UpdateTitle:
+        return editorWindow.updateTitleWebRadioListEdit();
+    }
 }
 
 void WinSonavelController::buttonClose()

@@ -23,6 +23,7 @@
 #include "playback/StationSelection.h"
 #include "prefs/Preferences.h"
 #include "prefs/PreferencesWindow.h"
+#include "storage/ListWriter.h"
 #include "storage/StationDatabase.h"
 
 namespace sonavel {
@@ -61,6 +62,7 @@ public:
     CountedAlerts& alerts;
     StationList stationList;
     StationDatabase stationDatabase;
+    ListWriter listWriter;
     Preferences preferences;
     PreferencesWindow preferencesWindow;
     Player player;
@@ -84,6 +86,7 @@ public:
 private:
     void endWithoutInternet();
     void validateItems();
+    void show(ListStep step);
     void showPreferences();
     void prepareDefaultStation();
 

@@ -1,13 +1,11 @@
 #include "editor/EditSheet.h"
 
-#include "editor/EditorWindow.h"
 #include "editor/InputFilter.h"
 #include "model/StationList.h"
 #include "model/StationListText.h"
 #include "platform/LocalizedStrings.h"
-#include "playback/StationSelection.h"
 #include "prefs/PreferenceFields.h"
-#include "storage/StationDatabase.h"
+#include "storage/ListWriter.h"
 #include "ui/Controls.h"
 
 namespace sonavel {
@@ -21,13 +19,10 @@ constexpr std::int32_t longestAddress = 2048;
 
 } // namespace
 
-EditSheet::EditSheet(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
-    EditorWindow& editorWindow, const PreferenceFields& preferences, const LocalizedStrings& localizedStrings,
-    EditSheetControls& controls, TableView& table)
+EditSheet::EditSheet(const StationList& stationList, ListWriter& listWriter, const PreferenceFields& preferences,
+    const LocalizedStrings& localizedStrings, EditSheetControls& controls, TableView& table)
     : stationList_(stationList)
-    , stationDatabase_(stationDatabase)
-    , stationSelection_(stationSelection)
-    , editorWindow_(editorWindow)
+    , listWriter_(listWriter)
     , preferences_(preferences)
     , localizedStrings_(localizedStrings)
     , controls_(controls)
@@ -60,38 +55,36 @@ void EditSheet::open()
 
 void EditSheet::buttonAction()
 {
+    const StationRecords& present = *stationList_.listRadio();
+    StationRecords stations = present;
     const Text mode = controls_.buttonAction.title();
     if (mode == localizedStrings_.localizedStringForKey("BUTTON_ADD"))
-        addStation();
+        addStation(stations);
     else if (mode == localizedStrings_.localizedStringForKey("BUTTON_EDIT"))
-        changeSelectedStation();
-
-    stationList_.sortingRadioWithKey("radio");
-    table_.reloadData();
-    stationSelection_.updatePopupListRadioWithListStation();
-    selectLastRow();
-    stationDatabase_.fileRadioDBupdate();
-    winEditDataCloseAndResetField();
-    editorWindow_.updateTitleWebRadioListEdit();
+        changeSelectedStation(stations);
+    sortRecords(stations, "radio");
+    listWriter_.perform(ListChange::replaced(present, stations), ListOperation::SheetConfirmed);
 }
 
-void EditSheet::addStation()
+void EditSheet::addStation(StationRecords& stations) const
 {
     const Text name = controls_.textFieldRadioName.stringValue();
     const Text address = controls_.textFieldRadioLink.stringValue();
     if (name.length() < shortestName && address.length() < shortestAddress)
         return;
-    stationList_.listRadio->push_back(std::make_shared<KVStationWebRadio>(
-        stationList_.numberOfStations() + 1, withoutSeparators(name), withoutSeparators(address)));
+    stations.push_back(
+        std::make_shared<KVStationWebRadio>(stations.size() + 1, withoutSeparators(name), withoutSeparators(address)));
 }
 
-void EditSheet::changeSelectedStation()
+void EditSheet::changeSelectedStation(StationRecords& stations) const
 {
-    const auto station = stationList_.stationAtIndex(table_.selectedRow());
-    if (station == nullptr)
+    const long row = table_.selectedRow();
+    if (row < 0)
         return;
-    station->setRadio(withoutSeparators(controls_.textFieldRadioName.stringValue()));
-    station->setLink(withoutSeparators(controls_.textFieldRadioLink.stringValue()));
+    StationRecord& station = stations.at(static_cast<std::size_t>(row));
+    station = std::make_shared<KVStationWebRadio>(station->idRadio(),
+        withoutSeparators(controls_.textFieldRadioName.stringValue()),
+        withoutSeparators(controls_.textFieldRadioLink.stringValue()));
 }
 
 void EditSheet::selectLastRow()

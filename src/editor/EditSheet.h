@@ -1,15 +1,15 @@
 // The sheet in which one station is added or changed.
 #pragma once
 
+#include "model/StationRecords.h"
+
 #include <cstdint>
 
 namespace sonavel {
 
-class EditorWindow;
+class ListWriter;
 class LocalizedStrings;
-class StationDatabase;
 class StationList;
-class StationSelection;
 class TableView;
 class TextField;
 struct EditSheetControls;
@@ -21,9 +21,8 @@ struct PreferenceFields;
 /// Main thread. Borrows everything it is given.
 class EditSheet {
 public:
-    EditSheet(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
-        EditorWindow& editorWindow, const PreferenceFields& preferences, const LocalizedStrings& localizedStrings,
-        EditSheetControls& controls, TableView& table);
+    EditSheet(const StationList& stationList, ListWriter& listWriter, const PreferenceFields& preferences,
+        const LocalizedStrings& localizedStrings, EditSheetControls& controls, TableView& table);
     EditSheet(const EditSheet&) = delete;
     EditSheet& operator=(const EditSheet&) = delete;
     ~EditSheet() = default;
@@ -39,6 +38,8 @@ public:
     /// Closes the sheet and changes nothing.
     void buttonCancel();
 
+    /// Selects the list's last row in the table and scrolls to it.
+    void selectLastRow();
     /// Empties both fields and closes the sheet.
     void winEditDataCloseAndResetField();
 
@@ -49,14 +50,11 @@ public:
 
 private:
     void open();
-    void addStation();
-    void changeSelectedStation();
-    void selectLastRow();
+    void addStation(StationRecords& stations) const;
+    void changeSelectedStation(StationRecords& stations) const;
 
-    StationList& stationList_;
-    StationDatabase& stationDatabase_;
-    StationSelection& stationSelection_;
-    EditorWindow& editorWindow_;
+    const StationList& stationList_;
+    ListWriter& listWriter_;
     const PreferenceFields& preferences_;
     const LocalizedStrings& localizedStrings_;
     EditSheetControls& controls_;

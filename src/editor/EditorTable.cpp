@@ -4,8 +4,7 @@
 #include "editor/EditSheet.h"
 #include "model/StationList.h"
 #include "model/StationListText.h"
-#include "playback/StationSelection.h"
-#include "storage/StationDatabase.h"
+#include "storage/ListWriter.h"
 
 namespace sonavel {
 
@@ -32,11 +31,9 @@ Setter setterForKey(std::string_view key)
 
 } // namespace
 
-EditorTable::EditorTable(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
-    EditSheet& editSheet, TableView& table)
+EditorTable::EditorTable(const StationList& stationList, ListWriter& listWriter, EditSheet& editSheet, TableView& table)
     : stationList_(stationList)
-    , stationDatabase_(stationDatabase)
-    , stationSelection_(stationSelection)
+    , listWriter_(listWriter)
     , editSheet_(editSheet)
     , table_(table)
 {
@@ -62,9 +59,10 @@ void EditorTable::tableView(
     const Text value = withoutSeparators(setObjectValue);
     if (station == nullptr || setValue == nullptr || value == this->tableView(tableView, forTableColumn, row))
         return;
-    ((*station).*setValue)(value);
-    stationSelection_.updatePopupListRadioWithListStation();
-    stationDatabase_.fileRadioDBupdate();
+    const auto changed = std::make_shared<KVStationWebRadio>(*station);
+    ((*changed).*setValue)(value);
+    listWriter_.perform(ListChange::changed(*stationList_.listRadio(), static_cast<std::size_t>(row), changed),
+        ListOperation::CellEdited);
 }
 
 void EditorTable::myDoubleClickAction()

@@ -6,9 +6,8 @@
 namespace sonavel {
 
 class EditSheet;
-class StationDatabase;
+class ListWriter;
 class StationList;
-class StationSelection;
 
 /// Row r shows the station at position r of the list. The columns are "radio", the name, and "link", the address; any
 /// other shows the station's property of that name.
@@ -16,8 +15,7 @@ class StationSelection;
 /// Main thread. Borrows everything it is given.
 class EditorTable final : public TableViewDataSource {
 public:
-    EditorTable(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
-        EditSheet& editSheet, TableView& table);
+    EditorTable(const StationList& stationList, ListWriter& listWriter, EditSheet& editSheet, TableView& table);
     EditorTable(const EditorTable&) = delete;
     EditorTable& operator=(const EditorTable&) = delete;
     ~EditorTable() override = default;
@@ -37,9 +35,8 @@ public:
     void myDoubleClickAction();
 
 private:
-    StationList& stationList_;
-    StationDatabase& stationDatabase_;
-    StationSelection& stationSelection_;
+    const StationList& stationList_;
+    ListWriter& listWriter_;
     EditSheet& editSheet_;
     TableView& table_;
 };

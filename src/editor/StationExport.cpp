@@ -19,7 +19,7 @@ void StationExport::exportRadioListIntoFile()
     const Text path = filePanels_.runModal(SavePanel{"Radio List.csv", files_.homeDirectory()});
     if (path.isAbsent())
         return;
-    const std::string text = listTextFromRecords(*stationList_.listRadio, Heading::FieldNames);
+    const std::string text = listTextFromRecords(*stationList_.listRadio(), Heading::FieldNames);
     files_.writeAtomically(path, text, FileAccess::AsUsual);
 }
 

@@ -7,8 +7,8 @@
 #include "platform/FilePanels.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Questions.h"
-#include "playback/StationSelection.h"
 #include "prefs/PreferenceFields.h"
+#include "storage/ListWriter.h"
 #include "storage/PlainListFile.h"
 #include "storage/StationDatabase.h"
 #include "ui/Controls.h"
@@ -58,12 +58,12 @@ private:
 
 } // namespace
 
-StationImport::StationImport(StationList& stationList, StationDatabase& stationDatabase,
-    StationSelection& stationSelection, const PreferenceFields& preferences, Files& files, FilePanels& filePanels,
-    Alerts& alerts, const LocalizedStrings& localizedStrings, StationListControls& controls)
+StationImport::StationImport(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
+    const PreferenceFields& preferences, Files& files, FilePanels& filePanels, Alerts& alerts,
+    const LocalizedStrings& localizedStrings, StationListControls& controls)
     : stationList_(stationList)
+    , listWriter_(listWriter)
     , stationDatabase_(stationDatabase)
-    , stationSelection_(stationSelection)
     , preferences_(preferences)
     , files_(files)
     , filePanels_(filePanels)
@@ -87,11 +87,11 @@ void StationImport::importRadioListFromFileAtPath(const Text& path)
         rescueCopy = stationDatabase_.keepListBeforeImport();
         if (rescueCopy.isAbsent())
             return controls_.labelListStatus.announce(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
-        stationList_.listRadio = std::make_shared<StationRecords>();
+        listWriter_.apply(ListChange::replaced(*stationList_.listRadio(), {}));
     }
     const Text text = listTextOfPlainFile(files_, path);
     const Outcome outcome = text.isAbsent() ? Outcome() : appendStations(text);
-    stationDatabase_.fileRadioDBupdate();
+    listWriter_.follow(ListOperation::ImportEnded);
     tellOutcome(outcome, rescueCopy);
     if (outcome.hasDuplicates)
         notify("AS_DUPLICATED_DATA");
@@ -107,36 +107,32 @@ bool StationImport::isToReplaceList() const
 /// up to date there, as it stood before the line that was looked at last.
 StationImport::Outcome StationImport::appendStations(const Text& text)
 {
-    StationRecords& list = *stationList_.listRadio;
+    const StationRecords& list = *stationList_.listRadio();
     if (list.empty())
-        controls_.tableViewListRadio.reloadData(); // rows of the former list must not pass their selection on
+        listWriter_.follow(ListOperation::ImportBegun); // rows of the former list must not pass their selection on
     ImportedNames names(list, text.view());
     const auto initialCount = static_cast<std::int64_t>(list.size());
     std::int64_t runningCount = initialCount;
+    StationRecords imported;
     StationListReader reader(text.view());
     for (auto line = reader.next(); line;) {
         const auto following = reader.next();
         const bool isFull = runningCount >= preferences_.PREF_MAX_NUMBER_RADIO;
         if (isFull || !following)
-            showList();
+            listWriter_.perform(ListChange::added(list, std::exchange(imported, {})), ListOperation::ImportShown);
         if (isFull) {
             notify("LIMIT_IMPORT_DATA");
             break;
         }
         if (line->isStation) {
             ++runningCount;
-            list.push_back(std::make_shared<KVStationWebRadio>(static_cast<std::uint64_t>(runningCount),
+            imported.push_back(std::make_shared<KVStationWebRadio>(static_cast<std::uint64_t>(runningCount),
                 names.nameFor(text.slice(line->name), runningCount), text.slice(line->link)));
         }
         line = following;
     }
+    listWriter_.apply(ListChange::added(list, std::move(imported)));
     return {static_cast<std::size_t>(runningCount - initialCount), names.hasDuplicates()};
-}
-
-void StationImport::showList()
-{
-    stationSelection_.updatePopupListRadioWithListStation();
-    controls_.tableViewListRadio.reloadData();
 }
 
 void StationImport::notify(std::string_view message) const

@@ -10,17 +10,17 @@ namespace sonavel {
 class Alerts;
 class FilePanels;
 class Files;
+class ListWriter;
 class LocalizedStrings;
 class StationDatabase;
 class StationList;
-class StationSelection;
 struct PreferenceFields;
 struct StationListControls;
 
 /// Main thread. Borrows everything it is given.
 class StationImport {
 public:
-    StationImport(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
+    StationImport(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
         const PreferenceFields& preferences, Files& files, FilePanels& filePanels, Alerts& alerts,
         const LocalizedStrings& localizedStrings, StationListControls& controls);
     StationImport(const StationImport&) = delete;
@@ -45,13 +45,12 @@ private:
 
     [[nodiscard]] bool isToReplaceList() const;
     [[nodiscard]] Outcome appendStations(const Text& text);
-    void showList();
     void notify(std::string_view message) const;
     void tellOutcome(const Outcome& outcome, const Text& rescueCopy);
 
-    StationList& stationList_;
+    const StationList& stationList_;
+    ListWriter& listWriter_;
     StationDatabase& stationDatabase_;
-    StationSelection& stationSelection_;
     const PreferenceFields& preferences_;
     Files& files_;
     FilePanels& filePanels_;

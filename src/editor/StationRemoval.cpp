@@ -1,48 +1,19 @@
 #include "editor/StationRemoval.h"
 
-#include "editor/EditorWindow.h"
 #include "model/StationList.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Questions.h"
 #include "playback/Player.h"
-#include "playback/StationSelection.h"
-#include "storage/StationDatabase.h"
+#include "storage/ListWriter.h"
 #include "ui/Controls.h"
-
-#include <algorithm>
 
 namespace sonavel {
 
-namespace {
-
-/// In one pass, however many: what stays moves up range by range.
-void removeAtIndexes(StationRecords& stations, const IndexSet& indexes)
-{
-    auto kept = stations.begin();
-    std::size_t next = 0;
-    const auto keepUpTo = [&](std::size_t end) {
-        const auto from = stations.begin() + static_cast<std::ptrdiff_t>(next);
-        const auto to = stations.begin() + static_cast<std::ptrdiff_t>(end);
-        kept = kept == from ? to : std::move(from, to, kept);
-    };
-    for (const IndexRange& range : indexes.ranges()) {
-        keepUpTo(range.first);
-        next = range.end;
-    }
-    keepUpTo(stations.size());
-    stations.erase(kept, stations.end());
-}
-
-} // namespace
-
-StationRemoval::StationRemoval(StationList& stationList, StationDatabase& stationDatabase,
-    StationSelection& stationSelection, Player& player, EditorWindow& editorWindow, Alerts& alerts,
+StationRemoval::StationRemoval(const StationList& stationList, ListWriter& listWriter, Player& player, Alerts& alerts,
     const LocalizedStrings& localizedStrings, TableView& table, const PopUpButton& popupbuttonRadioList)
     : stationList_(stationList)
-    , stationDatabase_(stationDatabase)
-    , stationSelection_(stationSelection)
+    , listWriter_(listWriter)
     , player_(player)
-    , editorWindow_(editorWindow)
     , alerts_(alerts)
     , localizedStrings_(localizedStrings)
     , table_(table)
@@ -55,9 +26,9 @@ void StationRemoval::radioRemoveToList()
     if (table_.numberOfSelectedRows() > 0) {
         const bool isChosen = isSelectedStationChosen();
         if (isAnsweredYes(alerts_, localizedStrings_, question(isChosen)))
-            removeSelected(isChosen);
+            return removeSelected(isChosen);
     }
-    editorWindow_.updateTitleWebRadioListEdit();
+    listWriter_.follow(ListOperation::RemovalDeclined);
 }
 
 /// Asked of a single station; several are removed without a look at what plays.
@@ -82,10 +53,7 @@ void StationRemoval::removeSelected(bool isChosen)
     const IndexSet rows = table_.selectedRowIndexes();
     if (isChosen && rows.count() < 2)
         player_.stop();
-    removeAtIndexes(*stationList_.listRadio, rows);
-    table_.reloadData();
-    stationSelection_.updatePopupListRadioWithListStation();
-    stationDatabase_.fileRadioDBupdate();
+    listWriter_.perform(ListChange::removed(*stationList_.listRadio(), rows), ListOperation::StationsRemoved);
 }
 
 } // namespace sonavel

@@ -6,21 +6,18 @@
 namespace sonavel {
 
 class Alerts;
-class EditorWindow;
+class ListWriter;
 class LocalizedStrings;
 class Player;
 class PopUpButton;
-class StationDatabase;
 class StationList;
-class StationSelection;
 class TableView;
 
 /// Main thread. Borrows everything it is given.
 class StationRemoval {
 public:
-    StationRemoval(StationList& stationList, StationDatabase& stationDatabase, StationSelection& stationSelection,
-        Player& player, EditorWindow& editorWindow, Alerts& alerts, const LocalizedStrings& localizedStrings,
-        TableView& table, const PopUpButton& popupbuttonRadioList);
+    StationRemoval(const StationList& stationList, ListWriter& listWriter, Player& player, Alerts& alerts,
+        const LocalizedStrings& localizedStrings, TableView& table, const PopUpButton& popupbuttonRadioList);
     StationRemoval(const StationRemoval&) = delete;
     StationRemoval& operator=(const StationRemoval&) = delete;
     ~StationRemoval() = default;
@@ -35,11 +32,9 @@ private:
     [[nodiscard]] Text question(bool isChosen) const;
     void removeSelected(bool isChosen);
 
-    StationList& stationList_;
-    StationDatabase& stationDatabase_;
-    StationSelection& stationSelection_;
+    const StationList& stationList_;
+    ListWriter& listWriter_;
     Player& player_;
-    EditorWindow& editorWindow_;
     Alerts& alerts_;
     const LocalizedStrings& localizedStrings_;
     TableView& table_;

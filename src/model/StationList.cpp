@@ -35,22 +35,26 @@ void sortRecords(StationRecords& records, Property property)
 
 } // namespace
 
+void sortRecords(StationRecords& records, std::string_view key)
+{
+    if (key == "radio")
+        sortRecords(records, &KVStationWebRadio::radio);
+    else if (key == "link")
+        sortRecords(records, &KVStationWebRadio::link);
+}
+
 void StationList::sortingRadioWithKey(std::string_view key)
 {
-    if (listRadio == nullptr)
-        return;
-    if (key == "radio")
-        sortRecords(*listRadio, &KVStationWebRadio::radio);
-    else if (key == "link")
-        sortRecords(*listRadio, &KVStationWebRadio::link);
+    if (listRadio_)
+        sortRecords(*listRadio_, key);
 }
 
 Text StationList::convertRadioListToJSON() const
 {
-    if (listRadio == nullptr)
+    if (!listRadio_)
         return {};
     nlohmann::json names = nlohmann::json::object();
-    for (const auto& record : *listRadio)
+    for (const auto& record : *listRadio_)
         names[record->link().string()] = record->radio().string();
     try {
         return names.dump(2);

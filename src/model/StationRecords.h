@@ -8,7 +8,8 @@ namespace sonavel {
 
 class KVStationWebRadio;
 
-/// Records are shared by reference and never null.
-using StationRecords = std::vector<std::shared_ptr<KVStationWebRadio>>;
+/// Shared between lists, hence never altered: a changed station is another record. Not null.
+using StationRecord = std::shared_ptr<const KVStationWebRadio>;
+using StationRecords = std::vector<StationRecord>;
 
 } // namespace sonavel

@@ -9,21 +9,22 @@ namespace sonavel {
 
 bool mergeStations(StationRecords& stored, const StationRecords& downloaded)
 {
-    std::unordered_multimap<std::string_view, KVStationWebRadio*> byName(stored.size() + downloaded.size());
-    for (const auto& station : stored)
-        byName.emplace(station->radio().view(), station.get());
+    std::unordered_multimap<std::string_view, std::size_t> byName(stored.size() + downloaded.size());
+    for (std::size_t position = 0; position < stored.size(); ++position)
+        byName.emplace(stored[position]->radio().view(), position);
     bool changed = false;
     for (const auto& station : downloaded) {
         auto [present, end] = byName.equal_range(station->radio().view());
         if (present == end) {
-            stored.push_back(std::make_shared<KVStationWebRadio>(*station));
-            byName.emplace(stored.back()->radio().view(), stored.back().get());
+            byName.emplace(station->radio().view(), stored.size());
+            stored.push_back(station);
             changed = true;
         }
         for (; present != end; ++present) {
-            if (present->second->link() == station->link())
+            StationRecord& record = stored[present->second];
+            if (record->link() == station->link())
                 continue;
-            present->second->setLink(station->link());
+            record = std::make_shared<KVStationWebRadio>(record->idRadio(), record->radio(), station->link());
             changed = true;
         }
     }

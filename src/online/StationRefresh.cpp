@@ -8,7 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "prefs/Preferences.h"
-#include "storage/StationDatabase.h"
+#include "storage/ListWriter.h"
 #include "storage/StationListCodec.h"
 
 #include <string_view>
@@ -23,15 +23,14 @@ constexpr std::string_view listResource = "app_data_files/testget.php?file=20161
 } // namespace
 
 StationRefresh::StationRefresh(HttpClient& httpClient, const Clock& clock, Text dataServer,
-    const ServerDates& serverDates, Preferences& preferences, StationList& stationList,
-    StationDatabase& stationDatabase)
+    const ServerDates& serverDates, Preferences& preferences, const StationList& stationList, ListWriter& listWriter)
     : httpClient_(httpClient)
     , clock_(clock)
     , dataServer_(std::move(dataServer))
     , serverDates_(serverDates)
     , preferences_(preferences)
     , stationList_(stationList)
-    , stationDatabase_(stationDatabase)
+    , listWriter_(listWriter)
 {
 }
 
@@ -44,17 +43,17 @@ bool StationRefresh::isDue() const
 
 void StationRefresh::chekNewRadioOnLine()
 {
-    if (stationList_.listRadio == nullptr)
+    if (stationList_.listRadio() == nullptr)
         return;
     preferences_.PREF_DATE_UPDATE_LAST_DATACHECK = clock_.now();
     preferences_.updatePreference();
 
     const StationRecords downloaded = recordsFromListText(downloadedListText());
-    if (!mergeStations(*stationList_.listRadio, downloaded))
+    StationRecords merged = *stationList_.listRadio();
+    if (!mergeStations(merged, downloaded))
         return;
-    ++changes_;
-    stationList_.sortingRadioWithKey("radio");
-    stationDatabase_.fileRadioDBupdate();
+    sortRecords(merged, "radio");
+    listWriter_.perform(ListChange::replaced(*stationList_.listRadio(), merged), ListOperation::Refreshed);
 }
 
 /// Absent when there was no answer, or not one that can be decrypted.

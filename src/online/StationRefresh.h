@@ -7,8 +7,8 @@ namespace sonavel {
 
 class Clock;
 class HttpClient;
+class ListWriter;
 class Preferences;
-class StationDatabase;
 class StationList;
 struct ServerDates;
 
@@ -17,7 +17,7 @@ class StationRefresh {
 public:
     /// `dataServer` is the data server's base address and ends in "/".
     StationRefresh(HttpClient& httpClient, const Clock& clock, Text dataServer, const ServerDates& serverDates,
-        Preferences& preferences, StationList& stationList, StationDatabase& stationDatabase);
+        Preferences& preferences, const StationList& stationList, ListWriter& listWriter);
     StationRefresh(const StationRefresh&) = delete;
     StationRefresh& operator=(const StationRefresh&) = delete;
     ~StationRefresh() = default;
@@ -32,9 +32,6 @@ public:
     /// that have only not been read yet.
     void chekNewRadioOnLine();
 
-    /// How many refreshes have changed the list.
-    [[nodiscard]] unsigned changes() const { return changes_; }
-
 private:
     [[nodiscard]] Text downloadedListText() const;
 
@@ -43,9 +40,8 @@ private:
     const Text dataServer_;
     const ServerDates& serverDates_;
     Preferences& preferences_;
-    StationList& stationList_;
-    StationDatabase& stationDatabase_;
-    unsigned changes_ = 0;
+    const StationList& stationList_;
+    ListWriter& listWriter_;
 };
 
 } // namespace sonavel

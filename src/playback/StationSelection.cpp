@@ -33,7 +33,7 @@ void StationSelection::updatePopupListRadioWithListStation()
     titles->reserve(stationList_.numberOfStations() + 1);
     titles->push_back(localizedStrings_.localizedStringForKey(hasStations ? selectRadioKey : selectRadioNullKey));
     if (hasStations)
-        for (const auto& station : *stationList_.listRadio)
+        for (const auto& station : *stationList_.listRadio())
             titles->push_back(station->radio());
 
     controls_.popupbuttonRadioList.setItems(titles);
@@ -77,7 +77,7 @@ void StationSelection::popupRadioList()
 /// Makes the station that the item stands for the player's; none for the placeholder.
 void StationSelection::choose(int item)
 {
-    const auto station = item > 0 ? stationList_.listRadio->at(static_cast<std::size_t>(item - 1)) : nullptr;
+    const auto station = item > 0 ? stationList_.listRadio()->at(static_cast<std::size_t>(item - 1)) : nullptr;
     player_.playRadioLink = station ? station->link() : Text();
     player_.playRadioName = station ? station->radio() : Text();
 }
@@ -101,7 +101,7 @@ void StationSelection::selectDefaultStation()
     const Text& name = preferences_.PREF_DEFAULT_STATION;
     if (name == selectRadioKey || stationList_.numberOfStations() == 0)
         return;
-    const StationRecords& stations = *stationList_.listRadio;
+    const StationRecords& stations = *stationList_.listRadio();
     const auto found =
         std::find_if(stations.begin(), stations.end(), [&](const auto& station) { return station->radio() == name; });
     if (found == stations.end())

@@ -51,9 +51,9 @@ Text StationDatabase::keepListBeforeImport()
 
 bool StationDatabase::writeList()
 {
-    if (list_.listRadio == nullptr || !files_.makeFolder(folder_) || !keepUnreadDatabase())
+    if (list_.listRadio() == nullptr || !files_.makeFolder(folder_) || !keepUnreadDatabase())
         return false;
-    const Text content = encodeStationList(listTextFromRecords(*list_.listRadio, Heading::None));
+    const Text content = encodeStationList(listTextFromRecords(*list_.listRadio(), Heading::None));
     if (content.isAbsent() || !files_.writeAtomically(databasePath_, content.view()))
         return false;
     databaseMayBeReplaced_ = true;

@@ -19,7 +19,7 @@ std::optional<std::string> contentOf(const Text& text)
 std::optional<std::string> jsonOf(const StationRecords& stations)
 {
     StationList list;
-    list.listRadio = std::make_shared<StationRecords>(stations);
+    list.setListRadio(stations);
     const Text json = list.convertRadioListToJSON();
     return json.isAbsent() ? std::nullopt : std::optional(json.string() + "\n");
 }

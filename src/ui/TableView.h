@@ -1,8 +1,8 @@
 // A table of rows that shows what its data source holds.
 #pragma once
 
+#include "base/IndexSet.h"
 #include "base/Text.h"
-#include "ui/IndexSet.h"
 #include "ui/Rendered.h"
 
 #include <cstddef>

@@ -42,7 +42,7 @@ Text listOnDisk(const std::string& home)
     // Who has not read the database keeps a rescue copy of it.
     static_cast<void>(database.fileRadioDBreadCypted(true));
     for (std::size_t turn = 0;; ++turn) {
-        list.listRadio = std::make_shared<StationRecords>(recordsFromListText(lists.at(turn % lists.size())));
+        list.setListRadio(recordsFromListText(lists.at(turn % lists.size())));
         database.fileRadioDBupdate();
         if (turn == 0 && ::write(pipe, "w", 1) != 1)
             ::_exit(1);

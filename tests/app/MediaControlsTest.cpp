@@ -66,11 +66,16 @@ TEST_F(MediaControlsTest, FollowTheButtonsOfTheMainWindow)
 TEST_F(MediaControlsTest, AStationKeepsTheNameThatItHadWhenItWasChosen)
 {
     startWithStations("A;http://a/\rB;http://a/\rC;http://b.example:8000/x\r");
-    controller.stationList.listRadio->back()->setRadio("");
+    const auto rename = [this](std::size_t position, const char* name) {
+        StationRecords stations = *controller.stationList.listRadio();
+        stations[position] = std::make_shared<KVStationWebRadio>(1, name, stations[position]->link());
+        controller.stationList.setListRadio(stations);
+    };
+    rename(2, "");
     choose(2);
     media.play();
     (void)media.state();
-    controller.stationList.listRadio->at(1)->setRadio("Renamed");
+    rename(1, "Renamed");
     EXPECT_EQ(media.state().station, "B");
     media.stop();
     choose(3);

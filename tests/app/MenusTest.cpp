@@ -42,7 +42,7 @@ TEST_F(MenusTest, NothingIsEnabledThatActsOnRowsAndItemsLeftOverFromAnErasedList
 {
     for (const IndexSet& rows : {IndexSet{1}, IndexSet{0, 1}}) {
         putPreferences({{"enableMultipleSelection", "YES"}, {"defaultStation", "B"}});
-        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        keepStations(0);
         startWithStations("A;http://a/\rB;http://b/\r");
         showEditor(true);
         controls.main.popupbuttonRadioList.chosenByUser(2);
@@ -74,7 +74,7 @@ TEST_F(MenusTest, AStreamOfAnErasedListCanBeHeldAndOnceStoppedNotPlayedAgain)
     startWithStations("A;http://a/\r");
     controls.main.popupbuttonRadioList.chosenByUser(1);
     controls.main.buttonPlayPause.pressedByUser();
-    controller.stationList.listRadio = std::make_shared<StationRecords>();
+    keepStations(0);
     actions.validateItems();
     for (const bool isPlaying : {false, true}) {
         controls.main.buttonPlayPause.pressedByUser();

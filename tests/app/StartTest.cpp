@@ -30,7 +30,7 @@ TEST_F(StartTest, TheStepsComeInTheirOrder)
     logWhenShown(controls.main.sliderVolume, "volume");
     logWhenShown(controls.main.buttonPlayPause, "play/pause");
     platform.log.clear();
-    controller.stationList.listRadio->push_back(std::make_shared<KVStationWebRadio>(1, "A", "http://a/"));
+    controller.stationList.setListRadio({std::make_shared<KVStationWebRadio>(1, "A", "http://a/")});
     controller.preferences.PREF_DEFAULT_STATION = "A";
     controller.preferences.PREF_IS_AUTOPLAY_OPEN_APP = true;
     controller.preferences.PREF_IS_AUTOPLAY = true;

@@ -54,7 +54,7 @@ TEST_F(EditSheetTest, AnAddedStationIsSortedInAndTheLastRowSelected)
     controls.editSheet.buttonAction.setEnabled(true);
     controls.editSheet.buttonAction.pressedByUser();
     EXPECT_EQ(list(), "Aa;http://a/\rB;http://b/\rC;http://c/\rD;http://d/\r");
-    EXPECT_EQ(controller.stationList.listRadio->front()->idRadio(), 4U);
+    EXPECT_EQ(controller.stationList.listRadio()->front()->idRadio(), 4U);
     EXPECT_EQ(controls.stationList.tableViewListRadio.selectedRowIndexes(), IndexSet{3});
     EXPECT_EQ(controls.stationList.tableViewListRadio.state().rowToShow, 3);
     EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 5);
@@ -122,11 +122,11 @@ TEST_F(EditSheetTest, ASelectionThatIsGoneIsNotEdited)
     startWithStations("A;http://a/\rB;http://b/\r");
     select({1});
     controller.editSheet.radioEditToList();
-    controller.stationList.listRadio->pop_back();
+    keepStations(1);
     type("Z", "Z");
     controller.editSheet.buttonAction();
     EXPECT_EQ(list(), "A;http://a/\r");
-    controller.stationList.listRadio->clear();
+    keepStations(0);
     controller.editSheet.radioEditToList();
     EXPECT_FALSE(controls.editSheet.winEditData.isVisible());
 }

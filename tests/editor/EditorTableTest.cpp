@@ -65,7 +65,7 @@ TEST_F(EditorTableTest, TheToolbarFollowsSelectionAndRows)
 {
     start();
     EXPECT_EQ(enabledItems(), "03");
-    controller.stationList.listRadio->assign(3, std::make_shared<KVStationWebRadio>(1, "A", "http://a/"));
+    controller.stationList.setListRadio(StationRecords(3, std::make_shared<KVStationWebRadio>(1, "A", "http://a/")));
     table.reloadData();
     table.selectedByUser({1}, 1);
     EXPECT_EQ(enabledItems(), "01234");
@@ -86,7 +86,7 @@ TEST_F(EditorTableTest, TheButtonShowsTheWindowThenBringsItToTheFront)
     startWithStations("A;http://a/\r");
     Window& window = controls.stationList.winWebRadioListEdit;
     EXPECT_EQ(window.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
-    controller.stationList.listRadio->clear();
+    keepStations(0);
     controls.main.buttonEditRadioList.setEnabled(true);
     controls.main.buttonEditRadioList.pressedByUser();
     EXPECT_TRUE(window.isVisible());

@@ -36,7 +36,7 @@ TEST_F(StationImportTest, AnEmptyListTakesEveryLineAsItStands)
     platform.log.clear();
     import("radio;link\rB;http://b/;more\r\rradio;x\rlink;x\r-;x\rno address\rA  A;\rB;http://b2/\r");
     EXPECT_EQ(list(), "B;http://b/\rA  A;\rB;http://b2/\r");
-    EXPECT_EQ(controller.stationList.listRadio->back()->idRadio(), 3U);
+    EXPECT_EQ(controller.stationList.listRadio()->back()->idRadio(), 3U);
     EXPECT_EQ(database(), Text(list()));
     EXPECT_EQ(std::count_if(platform.log.begin(), platform.log.end(),
                   [](const std::string& entry) { return entry.starts_with("write "); }),
@@ -66,7 +66,7 @@ TEST_F(StationImportTest, YesReplacesTheListAndKeepsTheFormerOne)
     platform.localizedStrings.texts = {{"STATUS_LIST_KEPT", "Kept: %@."}};
     import("C;http://c/\r");
     EXPECT_EQ(list(), "C;http://c/\r");
-    EXPECT_EQ(controller.stationList.listRadio->front()->idRadio(), 1U);
+    EXPECT_EQ(controller.stationList.listRadio()->front()->idRadio(), 1U);
     const std::string copy = platform.files.files.at(platform.files.inPreferences("radiolist.before-import.rdb"));
     EXPECT_EQ(decodeStationList(copy), "A;http://a/\rB;http://b/\r");
     EXPECT_EQ(status(), "<STATUS_IMPORTED> Kept: radiolist.before-import.rdb.");
@@ -87,7 +87,7 @@ TEST_F(StationImportTest, AFileWithoutStationsLeavesOldRowsThatNothingTripsOver)
     const char* const contents[] = {"\xFF\xFE", "caf\xE9;http://x/\r"};
     for (const char* content : contents) {
         putDatabase("A;http://a/\rB;http://b/\r");
-        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        keepStations(0);
         startAnswering("A;http://a/\rB;http://b/\r", firstButtonAnswer);
         controls.stationList.tableViewListRadio.selectedByUser({1}, 1);
         import(content);
@@ -154,12 +154,12 @@ TEST_F(StationImportTest, OddFilesGiveTheStationsThatTheyHold)
     };
     for (const auto& [content, expected] : cases) {
         start();
-        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        keepStations(0);
         import(content);
         EXPECT_EQ(list(), expected);
     }
     platform.filePanels.choice = "/media/stick/vanished.csv";
-    controller.stationList.listRadio->clear();
+    keepStations(0);
     controller.stationImport.importRadioListFromFile();
     EXPECT_EQ(list(), "");
     EXPECT_EQ(status(), "<STATUS_NOTHING_IMPORTED>");

@@ -68,7 +68,7 @@ TEST_F(StationRemovalTest, RowsLeftOverFromALongerListAreNotRemoved)
 {
     startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
     controls.stationList.tableViewListRadio.selectedByUser({2}, 2);
-    controller.stationList.listRadio->resize(2);
+    keepStations(2);
     controller.stationRemoval.radioRemoveToList();
     EXPECT_EQ(controller.stationList.numberOfStations(), 2U);
     controls.stationList.tableViewListRadio.selectedByUser({1, 2}, 2);
@@ -92,7 +92,7 @@ TEST_F(StationRemovalTest, WhatIsSelectedAtTheAnswerGoesAndDecidesAboutTheStop)
         {{0, 1}, "<REMOVE_ALL_RADIO_SELECTED>", {0}, "B;http://b/\rC;http://c/\r", true},
     };
     for (const auto& [asked, question, answered, left, isPlaying] : cases) {
-        controller.stationList.listRadio = std::make_shared<StationRecords>();
+        keepStations(0);
         startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
         controls.stationList.tableViewListRadio.selectedByUser(asked, 0);
         platform.alerts.expect(question, firstButtonAnswer,

@@ -10,26 +10,24 @@ namespace {
 StationList listOf(const Text& text)
 {
     StationList list;
-    list.listRadio = std::make_shared<StationRecords>(recordsFromListText(text));
+    list.setListRadio(recordsFromListText(text));
     return list;
 }
 
-TEST(StationList, SortingKeepsTheArrayAndTheRecords)
+TEST(StationList, SortingMovesTheRecords)
 {
     StationList list = listOf("Radio 10;a\rRadio 2;c\rradio 1;b\r");
-    const auto array = list.listRadio;
-    const StationRecords before = *array;
+    const StationRecords before = *list.listRadio();
     list.sortingRadioWithKey("radio");
-    EXPECT_EQ(list.listRadio, array);
-    EXPECT_EQ(*array, (StationRecords{before[1], before[0], before[2]}));
+    EXPECT_EQ(*list.listRadio(), (StationRecords{before[1], before[0], before[2]}));
     list.sortingRadioWithKey("link");
-    EXPECT_EQ(*array, (StationRecords{before[0], before[2], before[1]}));
+    EXPECT_EQ(*list.listRadio(), (StationRecords{before[0], before[2], before[1]}));
     list.sortingRadioWithKey("idRadio");
-    EXPECT_EQ(*array, (StationRecords{before[0], before[2], before[1]}));
+    EXPECT_EQ(*list.listRadio(), (StationRecords{before[0], before[2], before[1]}));
 
     StationList notLoaded;
     notLoaded.sortingRadioWithKey("radio");
-    EXPECT_EQ(notLoaded.listRadio, nullptr);
+    EXPECT_EQ(notLoaded.listRadio(), nullptr);
 }
 
 TEST(StationList, JsonHoldsTheLastNameOfEachAddress)

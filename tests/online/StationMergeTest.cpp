@@ -16,12 +16,13 @@ bool nestedScan(StationRecords& stored, const StationRecords& downloaded)
     bool changed = false;
     for (const auto& station : downloaded) {
         bool found = false;
-        for (const auto& candidate : stored) {
+        for (auto& candidate : stored) {
             if (candidate->radio() != station->radio())
                 continue;
             found = true;
             if (candidate->link() != station->link()) {
-                candidate->setLink(station->link());
+                candidate =
+                    std::make_shared<KVStationWebRadio>(candidate->idRadio(), candidate->radio(), station->link());
                 changed = true;
             }
         }

@@ -27,7 +27,7 @@ TEST_F(StationRefreshTest, NewStationsAndAddressesAreMergedSortedAndStored)
     refresh.chekNewRadioOnLine();
     EXPECT_EQ(list(), "Alpha;http://a/\rBeta;http://b2/\rZeta;http://z/\ralpha;http://a2/\r");
     EXPECT_EQ(database(), Text(list()));
-    EXPECT_EQ(controller.stationList.listRadio->at(2)->idRadio(), 2U);
+    EXPECT_EQ(controller.stationList.listRadio()->at(2)->idRadio(), 2U);
     EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 3);
 
     refresh.chekNewRadioOnLine();
@@ -64,7 +64,7 @@ TEST_F(StationRefreshTest, AListThatIsNotLoadedIsLeftAlone)
     refresh.chekNewRadioOnLine();
     EXPECT_TRUE(platform.log.empty());
     EXPECT_FALSE(lastRefresh);
-    EXPECT_EQ(controller.stationList.listRadio, nullptr);
+    EXPECT_EQ(controller.stationList.listRadio(), nullptr);
 }
 
 TEST_F(StationRefreshTest, IsDueWhenTheServersListIsNewerThanTheLastRefresh)

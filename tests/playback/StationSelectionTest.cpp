@@ -105,7 +105,7 @@ TEST_F(StationSelectionTest, SteppingWrapsAroundFromEitherEnd)
         EXPECT_EQ(platform.streamPlayers.last().address, Text("http://s" + std::to_string(to) + "/"));
         EXPECT_TRUE(player.isPlay);
     }
-    controller.stationList.listRadio->resize(1);
+    keepStations(1);
     selection.updatePopupListRadioWithListStation();
     popUp.chosenByUser(1);
     const std::size_t before = platform.streamPlayers.players.size();
@@ -131,14 +131,14 @@ TEST_F(StationSelectionTest, SteppingIsStoppedBeforeTheFormerPlayerGoes)
 TEST_F(StationSelectionTest, ItemsBeyondThePresentListStandForNoStation)
 {
     startWithThree(true);
-    controller.stationList.listRadio->resize(1);
+    keepStations(1);
     popUp.chosenByUser(3);
     EXPECT_TRUE(player.playRadioLink.isAbsent());
     EXPECT_TRUE(player.isStop);
     EXPECT_FALSE(controls.main.buttonPlayPause.state().isEnabled);
     selection.changeStation(true);
     EXPECT_EQ(player.playRadioLink, Text("http://s1/"));
-    controller.stationList.listRadio->clear();
+    keepStations(0);
     selection.changeStation(false);
     expectPlaceholder();
 }

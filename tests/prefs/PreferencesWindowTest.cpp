@@ -98,7 +98,7 @@ TEST_F(PreferencesWindowTest, AListThatChangesMeanwhileKeepsTheDefaultThatWasCho
     startWithStations("A;http://a/\rB;http://b/\r");
     controls.menu.menuPreferences.chosenByUser();
     controls.preferences.popupDefaultButtonListRadio.chosenByUser(1);
-    controller.stationList.listRadio->clear();
+    keepStations(0);
     controller.stationSelection.updatePopupListRadioWithListStation();
     EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, "A");
     controls.preferences.checkBoxDefaultAutoPlayAtStartApp.toggledByUser(true);

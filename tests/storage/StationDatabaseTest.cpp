@@ -24,7 +24,7 @@ protected:
     std::string databasePath = files.inPreferences("radiolist.rdb");
     std::string legacyPath = files.inPreferences("radiolist.csv");
 
-    void setList(const Text& text) { list.listRadio = std::make_shared<StationRecords>(recordsFromListText(text)); }
+    void setList(const Text& text) { list.setListRadio(recordsFromListText(text)); }
 
     /// What a new run of the program reads.
     Text reopened() { return StationDatabase(files, list).fileRadioDBreadCypted(true); }

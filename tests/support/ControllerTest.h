@@ -109,11 +109,20 @@ protected:
         return platform.preferenceDomains.stored.at("Mertzan-Software.Sonavel.plist");
     }
 
+    /// Drops the stations behind the first `count`, as if what shows the list were not brought up to date.
+    void keepStations(std::size_t count)
+    {
+        StationRecords kept;
+        for (std::size_t position = 0; position < count; ++position)
+            kept.push_back(controller.stationList.listRadio()->at(position));
+        controller.stationList.setListRadio(kept);
+    }
+
     /// The present list as text.
     [[nodiscard]] std::string list() const
     {
         std::string text;
-        for (const auto& station : *controller.stationList.listRadio)
+        for (const auto& station : *controller.stationList.listRadio())
             text += station->radio().string() + ";" + station->link().string() + "\r";
         return text;
     }

@@ -1,4 +1,4 @@
-#include "ui/IndexSet.h"
+#include "base/IndexSet.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,5 +1,5 @@
 // Sets of rows against the plain sets that they stand for.
-#include "ui/IndexSet.h"
+#include "base/IndexSet.h"
 
 #include <gtest/gtest.h>
 
