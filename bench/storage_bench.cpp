@@ -2,7 +2,7 @@
 // AES over the same bytes, and for loading a bytewise sort of the same names.
 
 #include "Ratio.h"
-#include "adapters/PosixFiles.h"
+#include "adapters/files/PosixFiles.h"
 #include "model/StationList.h"
 #include "model/StationListText.h"
 #include "storage/Cipher.h"

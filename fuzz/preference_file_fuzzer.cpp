@@ -1,5 +1,5 @@
 // Preference files as anybody might have left them.
-#include "adapters/PropertyList.h"
+#include "adapters/files/PropertyList.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 // The player.
-#include "adapters/CurlHttpClient.h"
-#include "adapters/OneInstance.h"
+#include "adapters/network/CurlHttpClient.h"
+#include "adapters/files/OneInstance.h"
 #include "qt/Program.h"
 #include "qt/SessionRestart.h"
 #include "qt/desktop/DesktopAppearance.h"

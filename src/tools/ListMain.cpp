@@ -1,6 +1,6 @@
 // sonavel-list: shows, checks and converts station lists in a terminal.
 
-#include "adapters/PosixFiles.h"
+#include "adapters/files/PosixFiles.h"
 #include "tools/ListArguments.h"
 #include "tools/ListCheck.h"
 #include "tools/ListReading.h"

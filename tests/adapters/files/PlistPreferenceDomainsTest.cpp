@@ -1,4 +1,4 @@
-#include "adapters/PlistPreferenceDomains.h"
+#include "adapters/files/PlistPreferenceDomains.h"
 
 #include "support/MemoryFiles.h"
 

@@ -1,5 +1,5 @@
 // Starts beside a running player.
-#include "adapters/OneInstance.h"
+#include "adapters/files/OneInstance.h"
 
 #include "support/PollEventLoop.h"
 #include "support/TemporaryFolder.h"

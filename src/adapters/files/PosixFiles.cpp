@@ -1,6 +1,6 @@
-#include "adapters/PosixFiles.h"
+#include "adapters/files/PosixFiles.h"
 
-#include "adapters/FileReplacement.h"
+#include "adapters/files/FileReplacement.h"
 
 #include <fcntl.h>
 

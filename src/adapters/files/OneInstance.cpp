@@ -1,4 +1,4 @@
-#include "adapters/OneInstance.h"
+#include "adapters/files/OneInstance.h"
 
 #include <fcntl.h>
 #include <sys/file.h>

@@ -1,6 +1,6 @@
-#include "adapters/CurlHttpClient.h"
+#include "adapters/network/CurlHttpClient.h"
 
-#include "adapters/CurlLibrary.h"
+#include "adapters/network/CurlLibrary.h"
 
 #include <algorithm>
 #include <cstdlib>

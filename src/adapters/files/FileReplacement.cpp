@@ -1,4 +1,4 @@
-#include "adapters/FileReplacement.h"
+#include "adapters/files/FileReplacement.h"
 
 #include <fcntl.h>
 #include <unistd.h>

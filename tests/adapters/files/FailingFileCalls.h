@@ -1,7 +1,7 @@
 // The real system calls, of which the n-th fails.
 #pragma once
 
-#include "adapters/FileCalls.h"
+#include "adapters/files/FileCalls.h"
 
 #include <cerrno>
 #include <functional>

@@ -1,7 +1,7 @@
 // The files of the user on disk.
 #pragma once
 
-#include "adapters/FileCalls.h"
+#include "adapters/files/FileCalls.h"
 #include "platform/Files.h"
 
 #include <functional>

@@ -1,4 +1,4 @@
-#include "adapters/CurlHttpClient.h"
+#include "adapters/network/CurlHttpClient.h"
 
 #include "support/ScriptedServer.h"
 #include "support/SelfSignedTls.h"

@@ -1,6 +1,6 @@
-#include "adapters/PosixFiles.h"
+#include "adapters/files/PosixFiles.h"
 
-#include "adapters/FailingFileCalls.h"
+#include "adapters/files/FailingFileCalls.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

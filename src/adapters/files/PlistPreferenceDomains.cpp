@@ -1,6 +1,6 @@
-#include "adapters/PlistPreferenceDomains.h"
+#include "adapters/files/PlistPreferenceDomains.h"
 
-#include "adapters/PropertyList.h"
+#include "adapters/files/PropertyList.h"
 #include "platform/Files.h"
 #include "storage/RescueCopies.h"
 

@@ -1,4 +1,4 @@
-#include "adapters/FileCalls.h"
+#include "adapters/files/FileCalls.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,6 +1,6 @@
-#include "adapters/PropertyList.h"
+#include "adapters/files/PropertyList.h"
 
-#include "adapters/PropertyListGuard.h"
+#include "adapters/files/PropertyListGuard.h"
 #include "base/Moment.h"
 
 #include <plist/plist.h>

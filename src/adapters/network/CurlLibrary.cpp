@@ -1,4 +1,4 @@
-#include "adapters/CurlLibrary.h"
+#include "adapters/network/CurlLibrary.h"
 
 #include <dlfcn.h>
 

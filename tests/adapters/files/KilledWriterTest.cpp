@@ -1,5 +1,5 @@
 // The station database on the real disk, while its writer is killed.
-#include "adapters/PosixFiles.h"
+#include "adapters/files/PosixFiles.h"
 #include "model/StationList.h"
 #include "model/StationListText.h"
 #include "storage/StationDatabase.h"

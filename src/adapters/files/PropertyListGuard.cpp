@@ -1,4 +1,4 @@
-#include "adapters/PropertyListGuard.h"
+#include "adapters/files/PropertyListGuard.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // The atomic write: a new file beside the old one, complete and on disk before it takes the old one's name.
 #pragma once
 
-#include "adapters/FileCalls.h"
+#include "adapters/files/FileCalls.h"
 #include "platform/Files.h"
 
 #include <optional>

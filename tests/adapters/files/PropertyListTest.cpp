@@ -1,4 +1,4 @@
-#include "adapters/PropertyList.h"
+#include "adapters/files/PropertyList.h"
 
 #include <gtest/gtest.h>
 
