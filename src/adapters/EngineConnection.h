@@ -2,6 +2,7 @@
 #pragma once
 
 #include "adapters/EventLoop.h"
+#include "base/NonCopyable.h"
 #include "engine/Protocol.h"
 
 #include <sys/types.h>
@@ -13,7 +14,7 @@
 namespace sonavel {
 
 /// One run of the engine program. Main thread; nothing blocks.
-class EngineConnection {
+class EngineConnection : private NonCopyable {
 public:
     using Receive = std::function<void(const EngineEvent&)>;
     using Lost = std::function<void()>;
@@ -23,8 +24,6 @@ public:
     [[nodiscard]] static std::unique_ptr<EngineConnection> create(
         EventLoop& eventLoop, const std::string& program, Receive receive, Lost lost);
 
-    EngineConnection(const EngineConnection&) = delete;
-    EngineConnection& operator=(const EngineConnection&) = delete;
     /// Ends the program at once, and with it its sound.
     ~EngineConnection();
 

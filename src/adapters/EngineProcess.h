@@ -20,8 +20,8 @@ class NotificationCenter;
 
 /// The engine is a process of its own, so that a decoder which crashes takes nothing else with it; engine/Confinement.h
 /// says what else it is kept from. One stream sounds at a time: the player on which `play` was called last has the
-/// engine; destroying it silences it. A stream that breaks is opened again, and an engine that is gone is started again,
-/// for as long as the player exists and is not held. Main thread; nothing blocks.
+/// engine; destroying it silences it. A stream that breaks is opened again, and an engine that is gone is started
+/// again, for as long as the player exists and is not held. Main thread; nothing blocks.
 class EngineProcess : public StreamPlayers {
 public:
     using Observer = std::function<void(const NowPlaying&)>;
@@ -29,9 +29,6 @@ public:
     /// `program` is the engine's file. Nothing is started yet.
     EngineProcess(EventLoop& eventLoop, NotificationCenter& notificationCenter, std::string program,
         const StreamSupervisor::Limits& limits = {});
-    EngineProcess(const EngineProcess&) = delete;
-    EngineProcess& operator=(const EngineProcess&) = delete;
-    ~EngineProcess() override = default;
 
     /// Starts the engine, so that the first stream need not wait for it. Does nothing when it runs.
     void start();

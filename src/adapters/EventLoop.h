@@ -1,6 +1,8 @@
 // What the adapters need of the program's event loop.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -8,22 +10,16 @@
 namespace sonavel {
 
 /// Calls back on the main thread, never from inside one of these operations.
-class EventLoop {
+class EventLoop : private NonCopyable {
 public:
     using Callback = std::function<void()>;
 
     /// Keeps a callback registered; destroying it, also from inside the callback, ends that.
-    class Registration {
+    class Registration : private NonCopyable {
     public:
-        Registration() = default;
-        Registration(const Registration&) = delete;
-        Registration& operator=(const Registration&) = delete;
         virtual ~Registration() = default;
     };
 
-    EventLoop() = default;
-    EventLoop(const EventLoop&) = delete;
-    EventLoop& operator=(const EventLoop&) = delete;
     virtual ~EventLoop() = default;
 
     /// Calls `callback` whenever the file descriptor has something to read or its other end is gone.

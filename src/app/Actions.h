@@ -1,6 +1,8 @@
 // How an action of the user is performed.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <functional>
 #include <utility>
 
@@ -19,15 +21,12 @@ enum class ListUse {
 
 /// Each action goes through the queue, and after each, toolbar and menu items are enabled anew. Main thread. Borrows
 /// the queue and the table of stations.
-class Actions {
+class Actions : private NonCopyable {
 public:
     using Operation = std::function<void()>;
 
     /// `validate` enables toolbar and menu items as the state of the program asks for.
     Actions(ActionQueue& queue, TableView& table, Operation validate);
-    Actions(const Actions&) = delete;
-    Actions& operator=(const Actions&) = delete;
-    ~Actions() = default;
 
     /// Makes `operation` what the control does. This object has to outlive the control's use.
     void wire(Action& action, ListUse listUse, Operation operation);

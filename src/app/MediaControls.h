@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Actions.h"
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 #include "playback/Player.h"
 
@@ -40,14 +41,11 @@ struct MediaState {
 /// and Previous not after a later Pause or Stop either. `raise` is always done.
 ///
 /// Main thread. Borrows everything it is given.
-class MediaControls {
+class MediaControls : private NonCopyable {
 public:
     MediaControls(MainControls& controls, Player& player, StationSelection& stationSelection,
         const StationList& stationList, Actions& actions, const CountedAlerts& alerts, const Clock& clock,
         Actions::Operation quitApp);
-    MediaControls(const MediaControls&) = delete;
-    MediaControls& operator=(const MediaControls&) = delete;
-    ~MediaControls() = default;
 
     /// To be asked after every action: a station keeps the name that it had when it began to play.
     [[nodiscard]] const MediaState& state();

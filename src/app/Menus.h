@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Actions.h"
+#include "base/NonCopyable.h"
 
 #include <functional>
 #include <span>
@@ -56,12 +57,9 @@ struct TaggedItem {
 [[nodiscard]] int tagOf(MenuItem MenuControls::*item);
 
 /// Main thread. Borrows everything it is given.
-class Menus {
+class Menus : private NonCopyable {
 public:
     Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings);
-    Menus(const Menus&) = delete;
-    Menus& operator=(const Menus&) = delete;
-    ~Menus() = default;
 
     /// Does what belongs to the item's tag; nothing for a tag that no item has.
     void menuView(const MenuItem& sender);

@@ -1,6 +1,7 @@
 // The loading of the station list at the start.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 namespace sonavel {
@@ -11,13 +12,10 @@ class StationList;
 class StationRefresh;
 
 /// Main thread. Borrows everything it is given.
-class StationLoading {
+class StationLoading : private NonCopyable {
 public:
     StationLoading(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
         StationRefresh& stationRefresh);
-    StationLoading(const StationLoading&) = delete;
-    StationLoading& operator=(const StationLoading&) = delete;
-    ~StationLoading() = default;
 
     /// Makes the list, from the legacy plain file where there is one, which then moves into the database, else from
     /// the database; sorts it; and refreshes it from the server when it is empty, and then when a refresh is due.

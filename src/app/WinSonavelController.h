@@ -8,6 +8,7 @@
 #include "app/Menus.h"
 #include "app/Ports.h"
 #include "app/StationLoading.h"
+#include "base/NonCopyable.h"
 #include "editor/EditSheet.h"
 #include "editor/EditorTable.h"
 #include "editor/EditorToolbar.h"
@@ -31,12 +32,9 @@ namespace sonavel {
 struct Controls;
 
 /// How it is started: make it, `init`, connect the outlets, `awakeFromNib`. All of it on the main thread.
-class WinSonavelController {
+class WinSonavelController : private NonCopyable {
 public:
     WinSonavelController(const Ports& ports, const Configuration& configuration, Controls& controls);
-    WinSonavelController(const WinSonavelController&) = delete;
-    WinSonavelController& operator=(const WinSonavelController&) = delete;
-    ~WinSonavelController() = default;
 
     /// The first phase, before any outlet is connected: looks for a network, loads the preferences, checks for a newer
     /// version when that is due, and loads the station list. Blocks while it asks servers. Without a network it says so

@@ -1,6 +1,7 @@
 // The sheet in which one station is added or changed.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "model/StationRecords.h"
 
 #include <cstdint>
@@ -19,13 +20,10 @@ struct PreferenceFields;
 /// closed.
 ///
 /// Main thread. Borrows everything it is given.
-class EditSheet {
+class EditSheet : private NonCopyable {
 public:
     EditSheet(const StationList& stationList, ListWriter& listWriter, const PreferenceFields& preferences,
         const LocalizedStrings& localizedStrings, EditSheetControls& controls, TableView& table);
-    EditSheet(const EditSheet&) = delete;
-    EditSheet& operator=(const EditSheet&) = delete;
-    ~EditSheet() = default;
 
     /// Opens the sheet for a new station.
     void radioAddToList();

@@ -16,9 +16,6 @@ class StationList;
 class EditorTable final : public TableViewDataSource {
 public:
     EditorTable(const StationList& stationList, ListWriter& listWriter, EditSheet& editSheet, TableView& table);
-    EditorTable(const EditorTable&) = delete;
-    EditorTable& operator=(const EditorTable&) = delete;
-    ~EditorTable() override = default;
 
     [[nodiscard]] long numberOfRowsInTableView(const TableView& tableView) const override;
 

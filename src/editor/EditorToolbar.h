@@ -1,6 +1,8 @@
 // The toolbar of the station list window: five commands, told apart by their tags.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 namespace sonavel {
 
 class EditSheet;
@@ -11,13 +13,10 @@ class ToolbarItem;
 struct StationListControls;
 
 /// Main thread. Borrows everything it is given.
-class EditorToolbar {
+class EditorToolbar : private NonCopyable {
 public:
     EditorToolbar(EditSheet& editSheet, StationRemoval& stationRemoval, StationImport& stationImport,
         StationExport& stationExport, StationListControls& controls);
-    EditorToolbar(const EditorToolbar&) = delete;
-    EditorToolbar& operator=(const EditorToolbar&) = delete;
-    ~EditorToolbar() = default;
 
     /// Tag 0 adds, 1 edits, 2 removes, 3 imports, 4 exports; any other does nothing.
     void toolbar(const ToolbarItem& sender);

@@ -1,6 +1,8 @@
 // The window of the station list: its title, and when it is shown.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 namespace sonavel {
 
 class LocalizedStrings;
@@ -9,13 +11,10 @@ class StationList;
 class Window;
 
 /// Main thread. Borrows everything it is given.
-class EditorWindow {
+class EditorWindow : private NonCopyable {
 public:
     EditorWindow(
         const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Window& window);
-    EditorWindow(const EditorWindow&) = delete;
-    EditorWindow& operator=(const EditorWindow&) = delete;
-    ~EditorWindow() = default;
 
     /// Puts the number of stations into the title. It stays there until the next call, whatever happens to the list.
     void updateTitleWebRadioListEdit();

@@ -1,6 +1,8 @@
 // The export of the station list to a file of the user's.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 namespace sonavel {
 
 class FilePanels;
@@ -8,12 +10,9 @@ class Files;
 class StationList;
 
 /// Main thread. Borrows everything it is given.
-class StationExport {
+class StationExport : private NonCopyable {
 public:
     StationExport(const StationList& stationList, Files& files, FilePanels& filePanels);
-    StationExport(const StationExport&) = delete;
-    StationExport& operator=(const StationExport&) = delete;
-    ~StationExport() = default;
 
     /// Lets the user choose a file and writes the list to it: a heading line and a line for each station, in the order
     /// of the list. On failure the file keeps its former content. Changes nothing else.

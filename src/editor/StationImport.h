@@ -1,6 +1,7 @@
 // The import of stations from a file of the user's.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 #include <string_view>
@@ -18,14 +19,11 @@ struct PreferenceFields;
 struct StationListControls;
 
 /// Main thread. Borrows everything it is given.
-class StationImport {
+class StationImport : private NonCopyable {
 public:
     StationImport(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
         const PreferenceFields& preferences, Files& files, FilePanels& filePanels, Alerts& alerts,
         const LocalizedStrings& localizedStrings, StationListControls& controls);
-    StationImport(const StationImport&) = delete;
-    StationImport& operator=(const StationImport&) = delete;
-    ~StationImport() = default;
 
     /// Lets the user choose a file and imports it.
     void importRadioListFromFile();

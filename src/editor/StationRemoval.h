@@ -1,6 +1,7 @@
 // The removal of stations, after a question.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 namespace sonavel {
@@ -14,13 +15,10 @@ class StationList;
 class TableView;
 
 /// Main thread. Borrows everything it is given.
-class StationRemoval {
+class StationRemoval : private NonCopyable {
 public:
     StationRemoval(const StationList& stationList, ListWriter& listWriter, Player& player, Alerts& alerts,
         const LocalizedStrings& localizedStrings, TableView& table, const PopUpButton& popupbuttonRadioList);
-    StationRemoval(const StationRemoval&) = delete;
-    StationRemoval& operator=(const StationRemoval&) = delete;
-    ~StationRemoval() = default;
 
     /// Asks whether to remove the stations of the table's selected rows, removes what is selected then, and stores. A
     /// single station whose name is the chosen one's is stopped first; among several none is. The order of the others

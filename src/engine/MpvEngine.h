@@ -1,6 +1,7 @@
 // Plays one stream at a time with libmpv.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "engine/Protocol.h"
 
 #include <cstdint>
@@ -15,15 +16,13 @@ struct mpv_handle;
 namespace sonavel {
 
 /// Carries out commands, and tells events of the present load. One thread.
-class MpvEngine {
+class MpvEngine : private NonCopyable {
 public:
     using Tell = std::function<void(const EngineEvent&)>;
 
     /// Null when libmpv cannot be set up.
     [[nodiscard]] static std::unique_ptr<MpvEngine> create(Tell tell);
 
-    MpvEngine(const MpvEngine&) = delete;
-    MpvEngine& operator=(const MpvEngine&) = delete;
     ~MpvEngine();
 
     void perform(const EngineCommand& command);

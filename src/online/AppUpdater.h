@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Moment.h"
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 #include "online/VersionRecord.h"
 #include "platform/Bundle.h"
@@ -39,14 +40,10 @@ struct UpdaterPorts {
 };
 
 /// Main thread. Its window goes with it.
-class AppUpdater {
+class AppUpdater : private NonCopyable {
 public:
     /// Asks the server, which blocks, replaces both records, and builds the window, hidden.
     [[nodiscard]] static std::shared_ptr<AppUpdater> create(const UpdaterPorts& ports, Versions& versions);
-
-    AppUpdater(const AppUpdater&) = delete;
-    AppUpdater& operator=(const AppUpdater&) = delete;
-    ~AppUpdater() = default;
 
     Window windowUpdater;
     TextField textFieldLabelUpdateNameApp;

@@ -1,6 +1,7 @@
 // The refresh of the station list from the data server.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 namespace sonavel {
@@ -13,14 +14,11 @@ class StationList;
 struct ServerDates;
 
 /// Main thread. Borrows everything it is given but the address.
-class StationRefresh {
+class StationRefresh : private NonCopyable {
 public:
     /// `dataServer` is the data server's base address and ends in "/".
     StationRefresh(HttpClient& httpClient, const Clock& clock, Text dataServer, const ServerDates& serverDates,
         Preferences& preferences, const StationList& stationList, ListWriter& listWriter);
-    StationRefresh(const StationRefresh&) = delete;
-    StationRefresh& operator=(const StationRefresh&) = delete;
-    ~StationRefresh() = default;
 
     /// Whether the server's list is newer than the last refresh.
     [[nodiscard]] bool isDue() const;

@@ -1,6 +1,7 @@
 // The check for a newer version, as the program makes it at the start and on demand.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "online/AppUpdater.h"
 
 #include <functional>
@@ -15,13 +16,10 @@ struct ServerDates;
 struct UpdateNoticeControls;
 
 /// Main thread. Borrows everything it is given but the updater's ports.
-class UpdateCheck {
+class UpdateCheck : private NonCopyable {
 public:
     UpdateCheck(UpdaterPorts ports, const Clock& clock, Preferences& preferences, ServerDates& serverDates,
         StationRefresh& stationRefresh, UpdateNoticeControls& notice);
-    UpdateCheck(const UpdateCheck&) = delete;
-    UpdateCheck& operator=(const UpdateCheck&) = delete;
-    ~UpdateCheck() = default;
 
     /// The checker of the last check; absent before the first. Its window goes when the next check replaces it.
     std::shared_ptr<AppUpdater> updaterApp;

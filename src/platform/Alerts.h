@@ -1,6 +1,7 @@
 // Modal questions and notices.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 #include <vector>
@@ -18,11 +19,8 @@ struct Alert {
 inline constexpr int firstButtonAnswer = 1000;
 inline constexpr int secondButtonAnswer = 1001;
 
-class Alerts {
+class Alerts : private NonCopyable {
 public:
-    Alerts() = default;
-    Alerts(const Alerts&) = delete;
-    Alerts& operator=(const Alerts&) = delete;
     virtual ~Alerts() = default;
 
     /// Shows the alert, takes no input elsewhere and returns when a button was pressed: 1000 for the first, 1001 for

@@ -2,16 +2,14 @@
 #pragma once
 
 #include "base/Moment.h"
+#include "base/NonCopyable.h"
 
 #include <chrono>
 
 namespace sonavel {
 
-class Clock {
+class Clock : private NonCopyable {
 public:
-    Clock() = default;
-    Clock(const Clock&) = delete;
-    Clock& operator=(const Clock&) = delete;
     virtual ~Clock() = default;
 
     [[nodiscard]] virtual Moment now() const = 0;

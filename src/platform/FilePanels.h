@@ -1,6 +1,7 @@
 // The panels in which the user chooses a file.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 namespace sonavel {
@@ -17,11 +18,8 @@ struct SavePanel {
     Text directory;
 };
 
-class FilePanels {
+class FilePanels : private NonCopyable {
 public:
-    FilePanels() = default;
-    FilePanels(const FilePanels&) = delete;
-    FilePanels& operator=(const FilePanels&) = delete;
     virtual ~FilePanels() = default;
 
     /// Shows the panel, takes no input elsewhere and answers the absolute path of the one file that was chosen; absent

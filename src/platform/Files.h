@@ -1,6 +1,7 @@
 // The files of the user, as the program needs them.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 #include <optional>
@@ -14,11 +15,8 @@ namespace sonavel {
 enum class FileAccess { OwnerOnly, AsUsual };
 
 /// Paths are absolute, in UTF-8. Links are followed. No operation throws; main thread.
-class Files {
+class Files : private NonCopyable {
 public:
-    Files() = default;
-    Files(const Files&) = delete;
-    Files& operator=(const Files&) = delete;
     virtual ~Files() = default;
 
     /// The folder under which the program's files lie, without a trailing "/".

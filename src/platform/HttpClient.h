@@ -1,6 +1,7 @@
 // Requests to web servers.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 #include <chrono>
@@ -26,11 +27,8 @@ struct HttpRequest {
     std::string body;
 };
 
-class HttpClient {
+class HttpClient : private NonCopyable {
 public:
-    HttpClient() = default;
-    HttpClient(const HttpClient&) = delete;
-    HttpClient& operator=(const HttpClient&) = delete;
     virtual ~HttpClient() = default;
 
     /// Sends the request and returns when the body has arrived whole, whatever the HTTP status; it may be empty.

@@ -1,6 +1,8 @@
 // Windows that are built from their descriptions while the program runs.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <memory>
 
 namespace sonavel {
@@ -19,11 +21,8 @@ struct UpdaterControls {
     Button& buttonRemind;
 };
 
-class Interfaces {
+class Interfaces : private NonCopyable {
 public:
-    Interfaces() = default;
-    Interfaces(const Interfaces&) = delete;
-    Interfaces& operator=(const Interfaces&) = delete;
     virtual ~Interfaces() = default;
 
     /// Builds the window that tells of a newer version, hidden, and connects the controls, which have to outlive it.

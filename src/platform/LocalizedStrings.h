@@ -1,17 +1,15 @@
 // The texts that the user sees, by their keys.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 #include <string_view>
 
 namespace sonavel {
 
-class LocalizedStrings {
+class LocalizedStrings : private NonCopyable {
 public:
-    LocalizedStrings() = default;
-    LocalizedStrings(const LocalizedStrings&) = delete;
-    LocalizedStrings& operator=(const LocalizedStrings&) = delete;
     virtual ~LocalizedStrings() = default;
 
     /// The text in the user's language; the key itself when there is none. "%@" in it stands for a text, "%li" for a

@@ -1,6 +1,7 @@
 // The store of named preference domains.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 #include <map>
@@ -13,11 +14,8 @@ namespace sonavel {
 using PreferenceDomain = std::map<std::string, Text, std::less<>>;
 
 /// Main thread.
-class PreferenceDomains {
+class PreferenceDomains : private NonCopyable {
 public:
-    PreferenceDomains() = default;
-    PreferenceDomains(const PreferenceDomains&) = delete;
-    PreferenceDomains& operator=(const PreferenceDomains&) = delete;
     virtual ~PreferenceDomains() = default;
 
     /// The stored domain; nothing when it was never stored or cannot be read.

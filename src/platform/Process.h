@@ -1,13 +1,12 @@
 // The end of the program.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 namespace sonavel {
 
-class Process {
+class Process : private NonCopyable {
 public:
-    Process() = default;
-    Process(const Process&) = delete;
-    Process& operator=(const Process&) = delete;
     virtual ~Process() = default;
 
     /// Ends the process at once with the given status, without any clean-up. Does not return.

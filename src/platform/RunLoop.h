@@ -1,15 +1,14 @@
 // The application loop, as far as the core asks for it.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <functional>
 
 namespace sonavel {
 
-class RunLoop {
+class RunLoop : private NonCopyable {
 public:
-    RunLoop() = default;
-    RunLoop(const RunLoop&) = delete;
-    RunLoop& operator=(const RunLoop&) = delete;
     virtual ~RunLoop() = default;
 
     /// Runs `action` on the loop's next turn, never before this call has returned.

@@ -10,6 +10,7 @@
 // posts the two notifications below with itself as the sender.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 #include <memory>
@@ -22,11 +23,8 @@ struct PlayerItem {
     Text name;
 };
 
-class StreamPlayer {
+class StreamPlayer : private NonCopyable {
 public:
-    StreamPlayer() = default;
-    StreamPlayer(const StreamPlayer&) = delete;
-    StreamPlayer& operator=(const StreamPlayer&) = delete;
     virtual ~StreamPlayer() = default;
 
     /// Starts, or continues, the sound. Returns at once.
@@ -39,11 +37,8 @@ public:
     virtual void setMuted(bool muted) = 0;
 };
 
-class StreamPlayers {
+class StreamPlayers : private NonCopyable {
 public:
-    StreamPlayers() = default;
-    StreamPlayers(const StreamPlayers&) = delete;
-    StreamPlayers& operator=(const StreamPlayers&) = delete;
     virtual ~StreamPlayers() = default;
 
     /// A new player bound to `item`, which is not absent. Never fails: a stream that cannot be played stays silent. The

@@ -1,15 +1,13 @@
 // The user's web browser.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 
 namespace sonavel {
 
-class WebBrowser {
+class WebBrowser : private NonCopyable {
 public:
-    WebBrowser() = default;
-    WebBrowser(const WebBrowser&) = delete;
-    WebBrowser& operator=(const WebBrowser&) = delete;
     virtual ~WebBrowser() = default;
 
     /// Opens a complete http or https address and returns at once; whether the browser shows it is not known.

@@ -1,6 +1,7 @@
 // The player of the chosen station, and the controls that show its state.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 #include "platform/StreamPlayer.h"
 
@@ -16,13 +17,10 @@ struct MainControls;
 /// or not. What the stream itself does changes none of this: a stream that stalls or fails is still Playing.
 ///
 /// Main thread. Borrows everything it is given.
-class Player {
+class Player : private NonCopyable {
 public:
     Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, MainControls& controls,
         MenuItem& menuMute);
-    Player(const Player&) = delete;
-    Player& operator=(const Player&) = delete;
-    ~Player() = default;
 
     bool isPlay = false;
     bool isStop = true;

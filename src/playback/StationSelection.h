@@ -1,6 +1,8 @@
 // The choice of a station: the two pop-ups of stations, and stepping to the neighbours.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 namespace sonavel {
 
 class LocalizedStrings;
@@ -14,13 +16,10 @@ struct PreferenceFields;
 /// or one beyond the present list, counts as the placeholder.
 ///
 /// Main thread. Borrows everything it is given.
-class StationSelection {
+class StationSelection : private NonCopyable {
 public:
     StationSelection(const StationList& stationList, const PreferenceFields& preferences, Player& player,
         const LocalizedStrings& localizedStrings, MainControls& controls, PopUpButton& popupDefaultButtonListRadio);
-    StationSelection(const StationSelection&) = delete;
-    StationSelection& operator=(const StationSelection&) = delete;
-    ~StationSelection() = default;
 
     /// Fills both pop-ups from the list and selects the placeholder; they, the volume slider and the Mute button are
     /// enabled when there are stations. What is playing goes on.

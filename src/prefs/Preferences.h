@@ -13,9 +13,6 @@ class Window;
 class Preferences : public PreferenceFields {
 public:
     Preferences(PreferenceDomains& domains, Bundle bundle, const Window& winWebRadioListEdit);
-    Preferences(const Preferences&) = delete;
-    Preferences& operator=(const Preferences&) = delete;
-    ~Preferences() = default;
 
     /// Sets the fields to what they are before the first run.
     void setStartValues();

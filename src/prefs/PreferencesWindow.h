@@ -1,6 +1,8 @@
 // The window of the preferences, a sheet of the main window.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 namespace sonavel {
 
 class StationList;
@@ -10,12 +12,9 @@ struct PreferencesControls;
 /// Its actions change the fields alone; they are stored at the next store of the preferences.
 ///
 /// Main thread. Borrows everything it is given.
-class PreferencesWindow {
+class PreferencesWindow : private NonCopyable {
 public:
     PreferencesWindow(PreferenceFields& preferences, const StationList& stationList, PreferencesControls& controls);
-    PreferencesWindow(const PreferencesWindow&) = delete;
-    PreferencesWindow& operator=(const PreferencesWindow&) = delete;
-    ~PreferencesWindow() = default;
 
     /// Opens the sheet; does nothing while it is open.
     void showPreferences();

@@ -1,6 +1,7 @@
 // All windows of the program, with their menus.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 #include "qt/windows/WindowMemory.h"
 
@@ -19,15 +20,13 @@ struct Controls;
 
 /// The main window is built first, so that it is on the screen as soon as can be; what the program says to the others
 /// meanwhile is rendered once they are there.
-class ProgramWindows {
+class ProgramWindows : private NonCopyable {
 public:
     using ImportFile = std::function<void(const Text& path)>;
 
     /// Builds the main window, which shows what its description says until it is connected. `importFile` imports a list
     /// that was dropped on the station list window.
     ProgramWindows(Controls& controls, Actions& actions, ImportFile importFile, const QString& stateFolder);
-    ProgramWindows(const ProgramWindows&) = delete;
-    ProgramWindows& operator=(const ProgramWindows&) = delete;
     ~ProgramWindows();
 
     /// Between the two phases of the start-up.

@@ -1,6 +1,8 @@
 // Threads for connections, made when they are needed.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <condition_variable>
 #include <cstddef>
 #include <deque>
@@ -13,14 +15,12 @@ namespace sonavel {
 
 /// Runs each task on a thread of its own as long as there are fewer than `most` threads; further ones wait for a thread
 /// that has become free. A listener of a stream keeps his thread for hours.
-class ConnectionThreads {
+class ConnectionThreads : private NonCopyable {
 public:
     explicit ConnectionThreads(std::size_t most)
         : most_(most)
     {
     }
-    ConnectionThreads(const ConnectionThreads&) = delete;
-    ConnectionThreads& operator=(const ConnectionThreads&) = delete;
     ~ConnectionThreads() { finish(); }
 
     void add(std::function<void()> task);

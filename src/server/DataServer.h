@@ -1,6 +1,7 @@
 // The maker's data server: publishes station lists and versions, and streams the demo stations.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 #include "platform/Bundle.h"
 
@@ -48,14 +49,12 @@ struct DataServerSettings {
 /// /app_data_files/testpost.php` with the form field `file=NAME` answer with what is published under that name, status
 /// 404 without. The built-in names are "20161001000000_lr.rdb", the encrypted station list, and "sonavel.ini", the
 /// newest version: what the folder's file "version.txt" says, or else that of the program itself.
-class DataServer {
+class DataServer : private NonCopyable {
 public:
     /// Null when it cannot listen there, or cannot publish the folder's "version.txt"; then `whyNot` is one sentence
     /// for the user.
     [[nodiscard]] static std::unique_ptr<DataServer> create(const DataServerSettings& settings, std::string& whyNot);
 
-    DataServer(const DataServer&) = delete;
-    DataServer& operator=(const DataServer&) = delete;
     ~DataServer();
 
     /// Where it is reached on this machine, such as "http://127.0.0.1:8080/". What it publishes about itself names the

@@ -18,8 +18,6 @@ class HttpConnection final : public httplib::Stream {
 public:
     /// Takes the socket over, and keeps it from programs that are started meanwhile.
     explicit HttpConnection(socket_t socket);
-    HttpConnection(const HttpConnection&) = delete;
-    HttpConnection& operator=(const HttpConnection&) = delete;
     /// Closes so that an answer which refuses an unfinished request still arrives.
     ~HttpConnection() override;
 

@@ -36,7 +36,7 @@ void takePortAlone(socket_t socket)
 }
 
 /// Threads that are made in its lifetime leave all signals to the others.
-class SignalsHeldBack {
+class SignalsHeldBack : private NonCopyable {
 public:
     SignalsHeldBack()
     {
@@ -44,8 +44,6 @@ public:
         sigfillset(&all);
         pthread_sigmask(SIG_BLOCK, &all, &before_);
     }
-    SignalsHeldBack(const SignalsHeldBack&) = delete;
-    SignalsHeldBack& operator=(const SignalsHeldBack&) = delete;
     ~SignalsHeldBack() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
 
 private:

@@ -23,9 +23,6 @@ class HttpServer final : public httplib::Server {
 public:
     static constexpr int mostConnections = 64;
 
-    HttpServer() = default;
-    HttpServer(const HttpServer&) = delete;
-    HttpServer& operator=(const HttpServer&) = delete;
     ~HttpServer() override { end(); }
 
     /// The port that it listens at, `port` or a free one for 0. When it cannot it gives 0, and `whyNot` is one sentence

@@ -1,6 +1,7 @@
 // The newest version as the maker states it in a file that he may change while the data server runs.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "server/PublishedVersion.h"
 
 #include <functional>
@@ -15,7 +16,7 @@ namespace sonavel {
 /// changes nothing: the last good version stays, and what is wrong is reported once.
 ///
 /// Safe to ask from several threads.
-class VersionFile {
+class VersionFile : private NonCopyable {
 public:
     static constexpr std::string_view fileName = "version.txt";
     static constexpr std::size_t largestFile = 65'536;
@@ -27,10 +28,6 @@ public:
     /// `current`.
     [[nodiscard]] static std::unique_ptr<VersionFile> create(
         const std::string& folder, PublishedVersion builtIn, Report report, std::string& whyNot);
-
-    VersionFile(const VersionFile&) = delete;
-    VersionFile& operator=(const VersionFile&) = delete;
-    ~VersionFile() = default;
 
     /// The version to publish now.
     [[nodiscard]] PublishedVersion current();

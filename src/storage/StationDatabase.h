@@ -1,6 +1,7 @@
 // The encrypted file in which the station list survives between runs, and the plain file that came before it.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "platform/Files.h"
 
 namespace sonavel {
@@ -21,12 +22,9 @@ class StationList;
 /// database cannot be read, otherwise "radiolist.before-import.rdb".
 ///
 /// Main thread. Borrows the files and the list.
-class StationDatabase {
+class StationDatabase : private NonCopyable {
 public:
     StationDatabase(Files& files, const StationList& list);
-    StationDatabase(const StationDatabase&) = delete;
-    StationDatabase& operator=(const StationDatabase&) = delete;
-    ~StationDatabase() = default;
 
     /// Whether the legacy file, or else the database file, is there, readable or not.
     [[nodiscard]] bool fileRadioDBVerify(bool legacy) const;

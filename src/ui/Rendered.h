@@ -1,6 +1,8 @@
 // What all controls have in common: a state that the program owns and a toolkit renders.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <functional>
 #include <utility>
 
@@ -8,13 +10,9 @@ namespace sonavel {
 
 /// The state of one control. Until a toolkit is attached, nothing said to the control leaves a trace, and what is read
 /// is the empty state. Main thread.
-template <class State> class Rendered {
+template <class State> class Rendered : private NonCopyable {
 public:
     using Render = std::function<void(const State&)>;
-
-    Rendered() = default;
-    Rendered(const Rendered&) = delete;
-    Rendered& operator=(const Rendered&) = delete;
 
     [[nodiscard]] bool isConnected() const { return connected_; }
     [[nodiscard]] const State& state() const { return state_; }
@@ -39,8 +37,6 @@ public:
     }
 
 protected:
-    ~Rendered() = default;
-
     /// Applies `change` and renders once, or not at all if nothing changed.
     template <class Change> void update(Change&& change)
     {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/IndexSet.h"
+#include "base/NonCopyable.h"
 #include "base/Text.h"
 #include "ui/Rendered.h"
 
@@ -17,11 +18,8 @@ class TableView;
 
 /// Who holds what a table shows. A row may lie beyond the data, where the table has not been reloaded since they became
 /// fewer.
-class TableViewDataSource {
+class TableViewDataSource : private NonCopyable {
 public:
-    TableViewDataSource() = default;
-    TableViewDataSource(const TableViewDataSource&) = delete;
-    TableViewDataSource& operator=(const TableViewDataSource&) = delete;
     virtual ~TableViewDataSource() = default;
 
     [[nodiscard]] virtual long numberOfRowsInTableView(const TableView& tableView) const = 0;

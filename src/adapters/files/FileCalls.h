@@ -1,6 +1,8 @@
 // The system calls under PosixFiles, in one place so that each can be made to fail.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -11,11 +13,8 @@ namespace sonavel {
 
 /// Each operation is the system call of the same purpose: it answers −1 (where not told otherwise) with the reason in
 /// `errno`, and never EINTR. A name is looked up in the open folder `folder`; AT_FDCWD does for an absolute path.
-class FileCalls {
+class FileCalls : private NonCopyable {
 public:
-    FileCalls() = default;
-    FileCalls(const FileCalls&) = delete;
-    FileCalls& operator=(const FileCalls&) = delete;
     virtual ~FileCalls() = default;
 
     /// The file descriptor is closed on exec.
@@ -44,15 +43,13 @@ public:
 [[nodiscard]] std::error_code lastError();
 
 /// Keeps a file descriptor and closes it at the latest at its own end.
-class OpenFile {
+class OpenFile : private NonCopyable {
 public:
     OpenFile(FileCalls& calls, int file)
         : calls_(calls)
         , file_(file)
     {
     }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
     ~OpenFile() { close(); }
 
     [[nodiscard]] bool isOpen() const { return file_ >= 0; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "adapters/EventLoop.h"
+#include "base/NonCopyable.h"
 
 #include <functional>
 #include <memory>
@@ -11,7 +12,7 @@ namespace sonavel {
 
 /// Holds the claim on a home directory for as long as it lives; the system takes it back when the process ends, however
 /// that ends. Lock and socket lie in a folder for things of the run time, never beside the user's files.
-class OneInstance {
+class OneInstance : private NonCopyable {
 public:
     /// The user's folder for such things: $XDG_RUNTIME_DIR unless its path is too long for a socket, else one of his
     /// own under /tmp. Empty when there is none that is his alone.
@@ -22,8 +23,6 @@ public:
     /// listens. Without a usable folder every claim succeeds.
     [[nodiscard]] static Claim claim(const std::string& runTimeFolder, const std::string& homeDirectory);
 
-    OneInstance(const OneInstance&) = delete;
-    OneInstance& operator=(const OneInstance&) = delete;
     ~OneInstance();
 
     /// Calls `callback` for every later start on the same home directory, those made before this call included.

@@ -1,6 +1,8 @@
 // The end of the session: SIGTERM, SIGINT and SIGHUP as events of the loop.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <QSocketNotifier>
 
 #include <functional>
@@ -10,11 +12,9 @@ namespace sonavel {
 
 /// Calls back from the event loop, on the main thread, when the system asks the program to end. At most one object
 /// lives at a time. Programs that the process starts are not affected.
-class TerminationSignals {
+class TerminationSignals : private NonCopyable {
 public:
     explicit TerminationSignals(std::function<void()> requested);
-    TerminationSignals(const TerminationSignals&) = delete;
-    TerminationSignals& operator=(const TerminationSignals&) = delete;
     /// From then on the signals end the process again.
     ~TerminationSignals();
 
