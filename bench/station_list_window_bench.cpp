@@ -4,9 +4,9 @@
 #include "Ratio.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/HouseStyle.h"
-#include "qt/windows/FindField.h"
-#include "qt/windows/StationListWindow.h"
-#include "qt/windows/StationTable.h"
+#include "qt/windows/stationlist/FindField.h"
+#include "qt/windows/stationlist/StationListWindow.h"
+#include "qt/windows/stationlist/StationTable.h"
 
 #include <QApplication>
 #include <QScrollBar>

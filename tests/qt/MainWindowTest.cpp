@@ -1,13 +1,13 @@
 // The main window keeps its shape and tells what it shows.
-#include "qt/windows/MainWindow.h"
+#include "qt/windows/main/MainWindow.h"
 
 #include "UserInput.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/ElidedLabel.h"
 #include "qt/kit/Palettes.h"
 #include "qt/kit/PrimaryButton.h"
-#include "qt/windows/SplashScreen.h"
 #include "qt/windows/WindowMemory.h"
+#include "qt/windows/splash/SplashScreen.h"
 
 #include <QAccessible>
 #include <QFile>

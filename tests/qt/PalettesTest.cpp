@@ -3,7 +3,7 @@
 #include "UserInput.h"
 #include "qt/desktop/DesktopAppearance.h"
 #include "qt/kit/PrimaryButton.h"
-#include "qt/windows/StationComboBox.h"
+#include "qt/kit/StationComboBox.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCheckBox>

@@ -3,8 +3,8 @@
 
 #include "UserInput.h"
 #include "qt/kit/TextConversion.h"
-#include "qt/windows/MainWindow.h"
-#include "qt/windows/StationListWindow.h"
+#include "qt/windows/main/MainWindow.h"
+#include "qt/windows/stationlist/StationListWindow.h"
 #include "support/ControllerTest.h"
 
 #include <QDropEvent>

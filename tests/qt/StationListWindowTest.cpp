@@ -1,17 +1,17 @@
 // The station list window, its sheet and the menus, as a user works with them.
-#include "qt/windows/StationListWindow.h"
+#include "qt/windows/stationlist/StationListWindow.h"
 
 #include "StationRows.h"
 #include "UserInput.h"
 #include "qt/binders/InitialState.h"
 #include "qt/binders/OutletConnector.h"
-#include "qt/windows/EditSheetDialog.h"
-#include "qt/windows/FindField.h"
+#include "qt/kit/StationComboBox.h"
+#include "qt/kit/StatusLine.h"
 #include "qt/windows/ProgramMenus.h"
-#include "qt/windows/StationComboBox.h"
-#include "qt/windows/StationTable.h"
-#include "qt/windows/StatusLine.h"
 #include "qt/windows/WindowMemory.h"
+#include "qt/windows/editsheet/EditSheetDialog.h"
+#include "qt/windows/stationlist/FindField.h"
+#include "qt/windows/stationlist/StationTable.h"
 #include "ui_AboutWindow.h"
 
 #include <QDropEvent>

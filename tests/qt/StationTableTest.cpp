@@ -2,7 +2,7 @@
 #include "StationRows.h"
 #include "UserInput.h"
 #include "qt/binders/TableBinder.h"
-#include "qt/windows/StationCellDelegate.h"
+#include "qt/windows/stationlist/StationCellDelegate.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>

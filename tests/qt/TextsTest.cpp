@@ -5,7 +5,7 @@
 #include "qt/kit/TextConversion.h"
 #include "qt/kit/WrappedText.h"
 #include "qt/ports/TranslatedStrings.h"
-#include "qt/windows/NowPlayingText.h"
+#include "qt/windows/main/NowPlayingText.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

@@ -1,8 +1,8 @@
 // Binds a pop-up of the program to a combo box.
 #pragma once
 
-#include "qt/windows/StationComboBox.h"
-#include "qt/windows/StationTitlesModel.h"
+#include "qt/kit/StationComboBox.h"
+#include "qt/kit/StationTitlesModel.h"
 
 namespace sonavel {
 

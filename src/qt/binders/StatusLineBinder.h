@@ -1,7 +1,7 @@
 // Binds a text that the program announces to a line that shows it for a while.
 #pragma once
 
-#include "qt/windows/StatusLine.h"
+#include "qt/kit/StatusLine.h"
 #include "ui/TextField.h"
 
 namespace sonavel {

@@ -1,8 +1,8 @@
 // Binds the program's table to the one of the station list window.
 #pragma once
 
-#include "qt/windows/StationTable.h"
-#include "qt/windows/StationTableModel.h"
+#include "qt/windows/stationlist/StationTable.h"
+#include "qt/windows/stationlist/StationTableModel.h"
 
 #include <QItemSelection>
 

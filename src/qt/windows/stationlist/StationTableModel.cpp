@@ -1,4 +1,4 @@
-#include "qt/windows/StationTableModel.h"
+#include "qt/windows/stationlist/StationTableModel.h"
 
 #include "qt/kit/TextConversion.h"
 

@@ -1,6 +1,6 @@
-#include "qt/windows/StationTable.h"
+#include "qt/windows/stationlist/StationTable.h"
 
-#include "qt/windows/StationCellDelegate.h"
+#include "qt/windows/stationlist/StationCellDelegate.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "qt/windows/StationComboBox.h"
+#include "qt/kit/StationComboBox.h"
 
 #include "qt/kit/WrappedText.h"
 

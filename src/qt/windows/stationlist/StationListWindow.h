@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Text.h"
-#include "qt/windows/StationFinder.h"
+#include "qt/windows/stationlist/StationFinder.h"
 
 #include <QMainWindow>
 

@@ -1,4 +1,4 @@
-#include "qt/windows/FindField.h"
+#include "qt/windows/stationlist/FindField.h"
 
 #include "qt/kit/Images.h"
 #include "qt/kit/Palettes.h"

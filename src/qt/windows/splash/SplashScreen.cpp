@@ -1,4 +1,4 @@
-#include "qt/windows/SplashScreen.h"
+#include "qt/windows/splash/SplashScreen.h"
 
 #include "qt/kit/ElidedLabel.h"
 #include "qt/kit/Fonts.h"

@@ -1,4 +1,4 @@
-#include "qt/windows/StationFinder.h"
+#include "qt/windows/stationlist/StationFinder.h"
 
 #include <algorithm>
 #include <array>

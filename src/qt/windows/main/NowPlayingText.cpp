@@ -1,4 +1,4 @@
-#include "qt/windows/NowPlayingText.h"
+#include "qt/windows/main/NowPlayingText.h"
 
 #include "adapters/NowPlaying.h"
 #include "qt/kit/TextConversion.h"

@@ -1,4 +1,4 @@
-#include "qt/windows/MainWindow.h"
+#include "qt/windows/main/MainWindow.h"
 
 #include "qt/kit/Fonts.h"
 #include "qt/kit/Images.h"

@@ -1,9 +1,9 @@
-#include "qt/windows/StationCellDelegate.h"
+#include "qt/windows/stationlist/StationCellDelegate.h"
 
 #include "playback/StreamAddress.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/kit/WrappedText.h"
-#include "qt/windows/StationTableModel.h"
+#include "qt/windows/stationlist/StationTableModel.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

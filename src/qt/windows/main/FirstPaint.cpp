@@ -1,4 +1,4 @@
-#include "qt/windows/FirstPaint.h"
+#include "qt/windows/main/FirstPaint.h"
 
 #include <QEvent>
 #include <QTimer>

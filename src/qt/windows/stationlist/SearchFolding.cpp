@@ -1,4 +1,4 @@
-#include "qt/windows/SearchFolding.h"
+#include "qt/windows/stationlist/SearchFolding.h"
 
 #include <QList>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "qt/windows/StationTitlesModel.h"
+#include "qt/kit/StationTitlesModel.h"
 
 #include "qt/kit/TextConversion.h"
 

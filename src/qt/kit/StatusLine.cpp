@@ -1,4 +1,4 @@
-#include "qt/windows/StatusLine.h"
+#include "qt/kit/StatusLine.h"
 
 #include "qt/kit/Fonts.h"
 #include "qt/kit/Palettes.h"

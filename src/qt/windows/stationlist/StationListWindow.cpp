@@ -1,8 +1,8 @@
-#include "qt/windows/StationListWindow.h"
+#include "qt/windows/stationlist/StationListWindow.h"
 
 #include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"
-#include "qt/windows/FindField.h"
+#include "qt/windows/stationlist/FindField.h"
 #include "ui_StationListWindow.h"
 
 #include <QApplication>

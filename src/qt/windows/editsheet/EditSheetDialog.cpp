@@ -1,4 +1,4 @@
-#include "qt/windows/EditSheetDialog.h"
+#include "qt/windows/editsheet/EditSheetDialog.h"
 
 #include "ui_EditSheet.h"
 

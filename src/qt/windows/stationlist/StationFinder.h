@@ -1,7 +1,7 @@
 // Finds stations by a part of their name or address.
 #pragma once
 
-#include "qt/windows/SearchFolding.h"
+#include "qt/windows/stationlist/SearchFolding.h"
 #include "ui/TableView.h"
 
 #include <QString>
