@@ -3,7 +3,7 @@
 
 #include "Ratio.h"
 #include "qt/binders/OutletConnector.h"
-#include "qt/kit/HouseStyle.h"
+#include "qt/kit/ApplicationStyle.h"
 #include "qt/windows/stationlist/FindField.h"
 #include "qt/windows/stationlist/StationListWindow.h"
 #include "qt/windows/stationlist/StationTable.h"
@@ -161,7 +161,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    QApplication::setStyle(new sonavel::HouseStyle(QStringLiteral("fusion")));
+    QApplication::setStyle(new sonavel::ApplicationStyle(QStringLiteral("fusion")));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }

@@ -40,7 +40,7 @@ Text StationLoading::legacyListText()
         return {};
     Text text = stationDatabase_.fileRadioDBreadCypted(false);
     if (text.isAbsent())
-        stationDatabase_.setAsideLegacyFile();
+        stationDatabase_.quarantineLegacyFile();
     return text;
 }
 

@@ -2,9 +2,9 @@
 
 #include "adapters/EngineProcess.h"
 #include "adapters/SystemClock.h"
-#include "adapters/files/OneInstance.h"
 #include "adapters/files/PlistPreferenceDomains.h"
 #include "adapters/files/PosixFiles.h"
+#include "adapters/files/SingleInstance.h"
 #include "adapters/network/CurlHttpClient.h"
 #include "app/AppDelegate.h"
 #include "app/Ports.h"
@@ -77,7 +77,7 @@ MainWindow::Emphasis emphasisOf(NowPlaying::State state)
 
 /// In the order of their dependence.
 struct Program::Parts {
-    Parts(const Settings& settings, std::unique_ptr<OneInstance> claim, std::unique_ptr<QTemporaryDir> temporaryHome,
+    Parts(const Settings& settings, std::unique_ptr<SingleInstance> claim, std::unique_ptr<QTemporaryDir> temporaryHome,
         std::unique_ptr<DataServer> server)
         : instance(std::move(claim))
         , throwAwayHome(std::move(temporaryHome))
@@ -93,7 +93,7 @@ struct Program::Parts {
         , windows(
               controls, controller.actions,
               [this](const Text& path) { controller.stationImport.importRadioListFromFileAtPath(path); },
-              settings.isDemo ? settings.home : WindowMemory::usersStateFolder())
+              settings.isDemo ? settings.home : WindowStateStore::usersStateFolder())
     {
     }
 
@@ -117,7 +117,7 @@ struct Program::Parts {
         };
     }
 
-    std::unique_ptr<OneInstance> instance; ///< null where nobody else can have the home directory
+    std::unique_ptr<SingleInstance> instance; ///< null where nobody else can have the home directory
     std::unique_ptr<QTemporaryDir> throwAwayHome; ///< null when the home directory is the user's
     std::unique_ptr<DataServer> dataServer; ///< null when others are asked
 
@@ -151,7 +151,7 @@ struct Program::Parts {
     std::unique_ptr<AwakeningSignals> awakeningSignals;
 };
 
-std::unique_ptr<Program> Program::create(Settings settings, std::unique_ptr<OneInstance> instance, QString& whyNot)
+std::unique_ptr<Program> Program::create(Settings settings, std::unique_ptr<SingleInstance> instance, QString& whyNot)
 {
     std::unique_ptr<QTemporaryDir> throwAwayHome;
     if (settings.home.isEmpty()) {
@@ -221,7 +221,7 @@ void Program::joinDesktop()
     parts_->controller.actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
     parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
     if (parts_->instance)
-        parts_->instance->whenCalled(parts_->eventLoop, [this] { parts_->controller.mediaControls.raise(); });
+        parts_->instance->onActivated(parts_->eventLoop, [this] { parts_->controller.mediaControls.raise(); });
 }
 
 void Program::showNowPlaying(const NowPlaying& nowPlaying)

@@ -9,7 +9,7 @@
 
 namespace sonavel {
 
-class OneInstance;
+class SingleInstance;
 struct NowPlaying;
 
 /// How it is started: make it after the application object, then `start`, then run the application's loop. It is never
@@ -20,7 +20,7 @@ public:
     /// line, when that or the throw-away home cannot be had. `instance` is the claim on the home directory; null when
     /// that is a throw-away one.
     [[nodiscard]] static std::unique_ptr<Program> create(
-        Settings settings, std::unique_ptr<OneInstance> instance, QString& whyNot);
+        Settings settings, std::unique_ptr<SingleInstance> instance, QString& whyNot);
     ~Program();
 
     /// Both phases of the start-up, with the building of the main window between them. The main window is on the screen

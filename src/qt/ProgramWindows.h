@@ -3,7 +3,7 @@
 
 #include "base/NonCopyable.h"
 #include "base/Text.h"
-#include "qt/windows/WindowMemory.h"
+#include "qt/windows/WindowStateStore.h"
 
 #include <functional>
 #include <memory>
@@ -52,7 +52,7 @@ private:
     Controls& controls_;
     Actions& actions_;
     const ImportFile importFile_;
-    WindowMemory memory_;
+    WindowStateStore memory_;
     std::unique_ptr<ProgramMenus> menus_;
     std::unique_ptr<MainWindow> mainWindow_;
     std::unique_ptr<StationListWindow> stationListWindow_;

@@ -1,13 +1,13 @@
 // The player.
+#include "adapters/files/SingleInstance.h"
 #include "adapters/network/CurlHttpClient.h"
-#include "adapters/files/OneInstance.h"
 #include "qt/Program.h"
 #include "qt/SessionRestart.h"
 #include "qt/desktop/DesktopAppearance.h"
 #include "qt/desktop/Session.h"
-#include "qt/kit/HouseStyle.h"
+#include "qt/kit/ApplicationStyle.h"
 #include "qt/kit/Images.h"
-#include "qt/windows/WindowMemory.h"
+#include "qt/windows/WindowStateStore.h"
 
 #include <QApplication>
 
@@ -46,7 +46,7 @@ void setUpNames()
 }
 
 /// Whether the desktop brings neither a style nor colours of its own.
-bool isPlain(const sonavel::HouseStyle& style)
+bool isPlain(const sonavel::ApplicationStyle& style)
 {
     return style.baseStyle()->name() == QStringLiteral("fusion") && QApplication::palette() == style.standardPalette();
 }
@@ -55,14 +55,14 @@ bool isPlain(const sonavel::HouseStyle& style)
 /// follows the desktop from then on, if anything does.
 std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::Settings& settings)
 {
-    auto* style = new sonavel::HouseStyle(settings.appearance ? QStringLiteral("fusion") : QString());
+    auto* style = new sonavel::ApplicationStyle(settings.appearance ? QStringLiteral("fusion") : QString());
     QApplication::setStyle(style);
     if (settings.appearance)
         QApplication::setPalette(sonavel::paletteFor(*settings.appearance));
     if (settings.appearance || !isPlain(*style))
         return nullptr;
     auto appearance = std::make_unique<sonavel::DesktopAppearance>(
-        settings.isDemo ? QString() : sonavel::WindowMemory::usersStateFolder());
+        settings.isDemo ? QString() : sonavel::WindowStateStore::usersStateFolder());
     appearance->applyRemembered();
     return appearance;
 }
@@ -79,10 +79,10 @@ int main(int argumentCount, char** arguments)
         return print(*end);
     const auto& settings = std::get<sonavel::Settings>(outcome);
 
-    std::unique_ptr<sonavel::OneInstance> instance;
+    std::unique_ptr<sonavel::SingleInstance> instance;
     if (!settings.home.isEmpty()) {
         auto claim =
-            sonavel::OneInstance::claim(sonavel::OneInstance::usersRunTimeFolder(), settings.home.toStdString());
+            sonavel::SingleInstance::claim(sonavel::SingleInstance::usersRunTimeFolder(), settings.home.toStdString());
         if (!claim.instance)
             return claim.isOtherCalled ? 0 : print(noAnswer());
         instance = std::move(claim.instance);

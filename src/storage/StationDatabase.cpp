@@ -2,8 +2,8 @@
 
 #include "model/StationList.h"
 #include "model/StationListText.h"
+#include "storage/Backups.h"
 #include "storage/PlainListFile.h"
-#include "storage/RescueCopies.h"
 #include "storage/StationListCodec.h"
 
 namespace sonavel {
@@ -38,10 +38,10 @@ void StationDatabase::fileRadioDBupdate()
         removeLegacyFile();
 }
 
-void StationDatabase::setAsideLegacyFile()
+void StationDatabase::quarantineLegacyFile()
 {
     // Where it cannot be renamed it stays as it is, which loses nothing.
-    (void)setAsideAsRescueCopy(files_, legacyPath_, "damaged");
+    (void)quarantine(files_, legacyPath_, "damaged");
 }
 
 Text StationDatabase::keepListBeforeImport()
@@ -71,7 +71,7 @@ bool StationDatabase::keepUnreadDatabase()
 
 Text StationDatabase::keepBeforeImport()
 {
-    return keepRescueCopy(files_, databasePath_, "before-import");
+    return keepBackup(files_, databasePath_, "before-import");
 }
 
 void StationDatabase::removeLegacyFile()

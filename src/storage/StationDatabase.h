@@ -13,12 +13,12 @@ class StationList;
 ///
 /// How the list is loaded:
 /// 1. With a legacy file (`fileRadioDBVerify(true)`), read it (`fileRadioDBreadCypted(false)`).
-///    - Absent: `setAsideLegacyFile`, and go on as without one.
+///    - Absent: `quarantineLegacyFile`, and go on as without one.
 ///    - Else, once the list is made of it and sorted: `removeLegacyFileAfterWrite`, then `fileRadioDBupdate`.
 /// 2. Without one, read the database (`fileRadioDBreadCypted(true)`); absent means no stations.
 ///
 /// Nothing of the user's is lost on the way: the first write that would replace a database which this object has not
-/// read keeps it as a rescue copy, and does not take place when it cannot. The copy is "radiolist.damaged.rdb" when the
+/// read keeps it as a backup, and does not take place when it cannot. The copy is "radiolist.damaged.rdb" when the
 /// database cannot be read, otherwise "radiolist.before-import.rdb".
 ///
 /// Main thread. Borrows the files and the list.
@@ -38,12 +38,12 @@ public:
     /// former content; the next call tries again.
     void fileRadioDBupdate();
 
-    /// Stores the list and keeps the database as the rescue copy "radiolist.before-import.rdb". Answers the copy's
+    /// Stores the list and keeps the database as the backup "radiolist.before-import.rdb". Answers the copy's
     /// path; absent when the list could not be kept.
     [[nodiscard]] Text keepListBeforeImport();
 
-    /// Renames the legacy file to the rescue copy "radiolist.damaged.csv"; where that fails it stays.
-    void setAsideLegacyFile();
+    /// Renames the legacy file to the backup "radiolist.damaged.csv"; where that fails it stays.
+    void quarantineLegacyFile();
 
     /// From now on a successful write removes the legacy file; until one does, it stays.
     void removeLegacyFileAfterWrite() { legacyRemovalDue_ = true; }

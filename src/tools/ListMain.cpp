@@ -37,13 +37,13 @@ std::string outputName(const ListArguments& arguments)
 /// All of a file or pipe, or of the standard input.
 std::error_code readInput(const std::string& path, std::string& content)
 {
-    FileCalls calls;
+    SystemCalls calls;
     const OpenFile file(
         calls, path == standardStream ? STDIN_FILENO : calls.open(AT_FDCWD, path.c_str(), O_RDONLY | O_NOCTTY, 0));
     if (!file.isOpen())
         return lastError();
     constexpr std::size_t step = std::size_t{1} << 20U;
-    for (std::size_t filled = 0; filled <= PosixFiles::largestFile;) {
+    for (std::size_t filled = 0; filled <= PosixFiles::maxFileSize;) {
         content.resize(filled + step);
         const ssize_t size = calls.read(file.descriptor(), content.data() + filled, step);
         if (size < 0)

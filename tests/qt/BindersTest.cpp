@@ -8,7 +8,7 @@
 #include "qt/binders/PopUpBinder.h"
 #include "qt/binders/SliderBinder.h"
 #include "qt/binders/WindowBinder.h"
-#include "qt/kit/HouseStyle.h"
+#include "qt/kit/ApplicationStyle.h"
 #include "qt/kit/Palettes.h"
 #include "qt/kit/PrimaryButton.h"
 #include "qt/windows/ProgramDialog.h"
@@ -53,7 +53,7 @@ protected:
         widget.show();
     }
 
-    HouseStyle style;
+    ApplicationStyle style;
     PopUpButton popUp;
     std::vector<int> chosen;
     StationComboBox widget;

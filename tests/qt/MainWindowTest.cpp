@@ -6,7 +6,7 @@
 #include "qt/kit/ElidedLabel.h"
 #include "qt/kit/Palettes.h"
 #include "qt/kit/PrimaryButton.h"
-#include "qt/windows/WindowMemory.h"
+#include "qt/windows/WindowStateStore.h"
 #include "qt/windows/splash/SplashScreen.h"
 
 #include <QAccessible>
@@ -147,10 +147,10 @@ TEST(MainWindow, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)
     EXPECT_FALSE(controls.main.buttonMute.state().isOn);
 }
 
-TEST(WindowMemory, AWindowComesBackWhereItWasAndRubbishIsForgotten)
+TEST(WindowStateStore, AWindowComesBackWhereItWasAndRubbishIsForgotten)
 {
     const QTemporaryDir state;
-    const WindowMemory memory(state.path() + "/missing/folder");
+    const WindowStateStore memory(state.path() + "/missing/folder");
     QWidget window;
     window.setObjectName("winAny");
     memory.restore(window);

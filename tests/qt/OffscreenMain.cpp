@@ -1,5 +1,5 @@
 // Runs the tests of the windows without a display.
-#include "qt/kit/HouseStyle.h"
+#include "qt/kit/ApplicationStyle.h"
 #include "qt/ports/TranslatedStrings.h"
 
 #include <QApplication>
@@ -12,7 +12,7 @@ int main(int argumentCount, char** arguments)
     testing::InitGoogleTest(&argumentCount, arguments);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argumentCount, arguments);
-    QApplication::setStyle(new sonavel::HouseStyle(QStringLiteral("fusion")));
+    QApplication::setStyle(new sonavel::ApplicationStyle(QStringLiteral("fusion")));
     const sonavel::TranslatedStrings strings{QLocale(QLocale::English)};
     const QString family = QFontInfo(QApplication::font()).family();
     if (const QString wanted = qEnvironmentVariable("SONAVEL_TEST_FONT", family); wanted != family) {

@@ -8,7 +8,7 @@
 #include "qt/kit/StationComboBox.h"
 #include "qt/kit/StatusLine.h"
 #include "qt/windows/ProgramMenus.h"
-#include "qt/windows/WindowMemory.h"
+#include "qt/windows/WindowStateStore.h"
 #include "qt/windows/editsheet/EditSheetDialog.h"
 #include "qt/windows/stationlist/FindField.h"
 #include "qt/windows/stationlist/StationTable.h"
@@ -473,7 +473,7 @@ TEST_F(StationListWindowTest, WhatIsLookedForBeginsBesideTheLensInBothDirections
 TEST_F(StationListWindowTest, TheColumnsComeBackAsTheyWere)
 {
     const QTemporaryDir state;
-    const WindowMemory memory(state.path());
+    const WindowStateStore memory(state.path());
     tableWidget().horizontalHeader()->resizeSection(0, 277);
     memory.keep(window);
     Controls others;

@@ -29,7 +29,7 @@ protected:
     /// What a new run of the program reads.
     Text reopened() { return StationDatabase(files, list).fileRadioDBreadCypted(true); }
 
-    /// The content of the rescue copy of that name, "none" when it is not there.
+    /// The content of the backup of that name, "none" when it is not there.
     std::string copy(const char* name)
     {
         const auto found = files.files.find(files.inPreferences(name));
@@ -139,7 +139,7 @@ TEST_F(StationDatabaseTest, ALegacyFileIsReadAsTextWithoutItsByteOrderMark)
     }
     files.files[legacyPath] = "Z\xFCrich;a\r";
     EXPECT_TRUE(database.fileRadioDBreadCypted(false).isAbsent());
-    database.setAsideLegacyFile();
+    database.quarantineLegacyFile();
     EXPECT_FALSE(database.fileRadioDBVerify(true));
     EXPECT_EQ(copy("radiolist.damaged.csv"), "Z\xFCrich;a\r");
 }

@@ -2,7 +2,7 @@
 
 #include "adapters/files/PropertyList.h"
 #include "platform/Files.h"
-#include "storage/RescueCopies.h"
+#include "storage/Backups.h"
 
 namespace sonavel {
 

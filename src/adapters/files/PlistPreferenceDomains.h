@@ -9,7 +9,7 @@ class Files;
 
 /// The domain NAME is the file "Library/Preferences/NAME" under the home directory: read once, when it is first asked
 /// for or set, and written as XML. A file that is there and is no such domain counts as not stored; the first write
-/// that would replace it keeps it as a rescue copy ("NAME.damaged.plist" for "NAME.plist"), and does not take place
+/// that would replace it keeps it as a backup ("NAME.damaged.plist" for "NAME.plist"), and does not take place
 /// when it cannot.
 class PlistPreferenceDomains : public PreferenceDomains {
 public:

@@ -1,6 +1,6 @@
 #include "adapters/files/PosixFiles.h"
 
-#include "adapters/files/FileReplacement.h"
+#include "adapters/files/AtomicFileWriter.h"
 
 #include <fcntl.h>
 
@@ -15,7 +15,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr int mostLinks = 40; // as the kernel has it
+constexpr int maxLinks = 40; // as the kernel has it
 
 std::string_view withoutTrailingSlashes(std::string_view path)
 {
@@ -24,7 +24,7 @@ std::string_view withoutTrailingSlashes(std::string_view path)
 
 } // namespace
 
-PosixFiles::PosixFiles(const Text& homeDirectory, std::unique_ptr<FileCalls> calls)
+PosixFiles::PosixFiles(const Text& homeDirectory, std::unique_ptr<SystemCalls> calls)
     : calls_(std::move(calls))
     , homeDirectory_(withoutTrailingSlashes(homeDirectory.view()))
 {
@@ -55,16 +55,16 @@ std::error_code PosixFiles::readFile(const std::string& path, std::string& conte
         return lastError();
     if (!S_ISREG(status.st_mode))
         return std::make_error_code(std::errc::not_supported);
-    if (static_cast<std::size_t>(status.st_size) > largestFile)
+    if (static_cast<std::size_t>(status.st_size) > maxFileSize)
         return std::make_error_code(std::errc::file_too_large);
     mode = status.st_mode & 0777U;
 
     // One byte more than expected, so that the end is met without growing.
     content.resize(static_cast<std::size_t>(status.st_size) + 1);
     std::size_t filled = 0;
-    while (filled <= largestFile) {
+    while (filled <= maxFileSize) {
         if (filled == content.size())
-            content.resize(std::min(filled * 2, largestFile + 1));
+            content.resize(std::min(filled * 2, maxFileSize + 1));
         const ssize_t size = calls_->read(file.descriptor(), content.data() + filled, content.size() - filled);
         if (size < 0)
             return lastError();
@@ -82,7 +82,7 @@ bool PosixFiles::writeAtomically(const Text& path, std::string_view bytes, FileA
     std::string target = path.string();
     std::error_code failure = followLinks(target);
     if (!failure)
-        failure = FileReplacement(*calls_, target).replace(bytes, access);
+        failure = AtomicFileWriter(*calls_, target).replace(bytes, access);
     return tell(failure, path);
 }
 
@@ -90,14 +90,14 @@ void PosixFiles::removeUnfinishedWrite(const Text& path)
 {
     std::string target = path.string();
     if (!followLinks(target))
-        FileReplacement(*calls_, target).removeUnfinished();
+        AtomicFileWriter(*calls_, target).removeUnfinished();
 }
 
 /// Replaces `path` by what it leads to in the end, which need not be there: the rename of an atomic write would put a
 /// file in the place of the link.
 std::error_code PosixFiles::followLinks(std::string& path) const
 {
-    for (int links = 0; links < mostLinks; ++links) {
+    for (int links = 0; links < maxLinks; ++links) {
         std::array<char, PATH_MAX> buffer{};
         const ssize_t size = calls_->readLink(path.c_str(), buffer.data(), buffer.size());
         if (size < 0)
@@ -138,7 +138,7 @@ std::error_code PosixFiles::copyAs(const std::string& path, const std::string& c
     mode_t mode = 0;
     if (const std::error_code failure = readFile(path, content, mode))
         return failure;
-    return FileReplacement(*calls_, copy).create(content, mode);
+    return AtomicFileWriter(*calls_, copy).create(content, mode);
 }
 
 bool PosixFiles::moveFile(const Text& path, const Text& newPath)

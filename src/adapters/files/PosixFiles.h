@@ -1,7 +1,7 @@
 // The files of the user on disk.
 #pragma once
 
-#include "adapters/files/FileCalls.h"
+#include "adapters/files/SystemCalls.h"
 #include "platform/Files.h"
 
 #include <functional>
@@ -17,9 +17,10 @@ public:
     using WriteFailureObserver = std::function<void(const Text& path, const Text& why)>;
 
     /// Files larger than this are not read, in bytes.
-    static constexpr std::size_t largestFile = std::size_t{256} << 20U;
+    static constexpr std::size_t maxFileSize = std::size_t{256} << 20U;
 
-    explicit PosixFiles(const Text& homeDirectory, std::unique_ptr<FileCalls> calls = std::make_unique<FileCalls>());
+    explicit PosixFiles(
+        const Text& homeDirectory, std::unique_ptr<SystemCalls> calls = std::make_unique<SystemCalls>());
 
     /// Hears of every failed `writeAtomically`, `makeFolder` and `keepCopy`.
     void setWriteFailureObserver(WriteFailureObserver observer) { writeFailureObserver_ = std::move(observer); }
@@ -45,7 +46,7 @@ private:
     void synchronizeFolderOf(const std::string& path);
     [[nodiscard]] bool tell(std::error_code failure, const Text& path) const;
 
-    std::unique_ptr<FileCalls> calls_;
+    std::unique_ptr<SystemCalls> calls_;
     Text homeDirectory_;
     WriteFailureObserver writeFailureObserver_;
 };

@@ -10,10 +10,10 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::size_t largestFile = std::size_t{1} << 20U;
+constexpr std::size_t maxFileSize = std::size_t{1} << 20U;
 
 /// The parser's work on nested containers is recursive.
-constexpr std::size_t mostXmlContainers = 1'000;
+constexpr std::size_t maxXmlContainers = 1'000;
 
 std::size_t occurrences(std::string_view bytes, std::string_view what)
 {
@@ -45,9 +45,9 @@ public:
 
 private:
     static constexpr std::size_t trailerSize = 32;
-    static constexpr int deepestNesting = 16;
+    static constexpr int maxDepth = 16;
     /// What the parsed tree may take, in bytes: contents, and something for each node.
-    static constexpr std::uint64_t largestTree = std::uint64_t{4} << 20U;
+    static constexpr std::uint64_t maxTreeSize = std::uint64_t{4} << 20U;
     static constexpr std::uint64_t nodeSize = 64;
 
     /// The number of `size` bytes, the highest first, at `position`; nothing beyond the end or 64 bits.
@@ -72,14 +72,14 @@ private:
     {
         const auto offset = offsetOf(object);
         const auto marker = offset ? number(*offset, 1) : std::nullopt;
-        if (!marker || depth > deepestNesting)
+        if (!marker || depth > maxDepth)
             return false;
         std::uint64_t contents = *offset + 1;
         const auto count = takeCount(*marker & 0xFU, contents);
         if (!count || *count > bytes_.size())
             return false;
         treeSize_ += nodeSize + *count;
-        if (treeSize_ > largestTree)
+        if (treeSize_ > maxTreeSize)
             return false;
 
         switch (*marker >> 4U) {
@@ -143,11 +143,10 @@ private:
 
 bool isSafePropertyList(std::string_view bytes)
 {
-    if (bytes.size() > largestFile)
+    if (bytes.size() > maxFileSize)
         return false;
-    return isBinaryPropertyList(bytes)
-        ? BinaryTree(bytes).isSafe()
-        : occurrences(bytes, "<dict") + occurrences(bytes, "<array") <= mostXmlContainers;
+    return isBinaryPropertyList(bytes) ? BinaryTree(bytes).isSafe()
+                                       : occurrences(bytes, "<dict") + occurrences(bytes, "<array") <= maxXmlContainers;
 }
 
 bool isBinaryPropertyList(std::string_view bytes)

@@ -10,7 +10,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr long mostRedirections = 5;
+constexpr long maxRedirections = 5;
 constexpr const char* usableSchemes = "http,https";
 
 /// Only where there is one.
@@ -82,7 +82,7 @@ void setSafety(const Handle& handle)
 {
     set(handle, CURLOPT_PROTOCOLS_STR, usableSchemes); // of redirections too
     set(handle, CURLOPT_FOLLOWLOCATION, 1L);
-    set(handle, CURLOPT_MAXREDIRS, mostRedirections);
+    set(handle, CURLOPT_MAXREDIRS, maxRedirections);
     set(handle, CURLOPT_NOPROXY, hostsWithoutProxy().c_str());
     set(handle, CURLOPT_NOSIGNAL, 1L);
     // Else the end of the request waits for a name server that does not answer, however long that takes.

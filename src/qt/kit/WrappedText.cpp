@@ -12,15 +12,15 @@ namespace sonavel {
 
 namespace {
 
-constexpr int mostCharactersLaidOut = 4'000; // laying out a very long text takes seconds
-constexpr int mostLinesOfToolTip = 20;
+constexpr int maxCharactersLaidOut = 4'000; // laying out a very long text takes seconds
+constexpr int maxToolTipLines = 20;
 
 QString withoutExcess(const QString& text)
 {
-    if (text.size() <= mostCharactersLaidOut)
+    if (text.size() <= maxCharactersLaidOut)
         return text;
-    const bool isInsideCharacter = text.at(mostCharactersLaidOut).isLowSurrogate();
-    return text.left(mostCharactersLaidOut - (isInsideCharacter ? 1 : 0)) + u'…';
+    const bool isInsideCharacter = text.at(maxCharactersLaidOut).isLowSurrogate();
+    return text.left(maxCharactersLaidOut - (isInsideCharacter ? 1 : 0)) + u'…';
 }
 
 } // namespace
@@ -48,7 +48,7 @@ void showPlainToolTip(const QHelpEvent& event, const QString& text, QWidget& wid
 {
     const QFont font = QToolTip::font();
     const int besideText = QFontMetrics(font).height();
-    const QStringList lines = wrappedLines(text, font, widget.window()->width() - besideText, mostLinesOfToolTip);
+    const QStringList lines = wrappedLines(text, font, widget.window()->width() - besideText, maxToolTipLines);
     const QString escaped = lines.join(u'\n').toHtmlEscaped();
     QToolTip::showText(event.globalPos(),
         escaped.isEmpty() ? escaped : QStringLiteral("<p style='white-space:pre'>%1</p>").arg(escaped), &widget);

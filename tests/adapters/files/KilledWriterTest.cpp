@@ -39,7 +39,7 @@ Text listOnDisk(const std::string& home)
     PosixFiles files(home);
     StationList list;
     StationDatabase database(files, list);
-    // Who has not read the database keeps a rescue copy of it.
+    // Who has not read the database keeps a backup of it.
     static_cast<void>(database.fileRadioDBreadCypted(true));
     for (std::size_t turn = 0;; ++turn) {
         list.setListRadio(recordsFromListText(lists.at(turn % lists.size())));

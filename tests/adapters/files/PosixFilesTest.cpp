@@ -1,6 +1,6 @@
 #include "adapters/files/PosixFiles.h"
 
-#include "adapters/files/FailingFileCalls.h"
+#include "adapters/files/FailingSystemCalls.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 namespace sonavel {
 namespace {
 
-using test::FailingFileCalls;
+using test::FailingSystemCalls;
 using Names = std::set<std::string>;
 namespace fs = std::filesystem;
 
@@ -50,8 +50,8 @@ protected:
     }
 
     test::TemporaryFolder folder;
-    std::unique_ptr<FailingFileCalls> ownedCalls = std::make_unique<FailingFileCalls>();
-    FailingFileCalls& calls = *ownedCalls;
+    std::unique_ptr<FailingSystemCalls> ownedCalls = std::make_unique<FailingSystemCalls>();
+    FailingSystemCalls& calls = *ownedCalls;
     PosixFiles files{folder.path() + "/", std::move(ownedCalls)};
     std::vector<std::string> told;
 };
@@ -98,7 +98,7 @@ TEST_F(PosixFilesTest, ADiskThatDiesDuringAWriteLeavesTheOldOrTheNewContentAndTh
         calls.fail(0);
         ASSERT_TRUE(write("file", "the old content"));
         ASSERT_EQ(folder.names(), Names{"file"});
-        calls.fail(call, FailingFileCalls::Failing::ThatCallAndAllAfter);
+        calls.fail(call, FailingSystemCalls::Failing::ThatCallAndAllAfter);
         const bool isWritten = write("file", "new");
         EXPECT_EQ(folder.read("file"), isWritten || calls.isPastRename() ? "new" : "the old content");
         EXPECT_LE(folder.names().size(), 2);
@@ -300,7 +300,7 @@ TEST_F(PosixFilesTest, WhatIsNoReadableFileIsReadAsNothingAndNeverWaitedFor)
     ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
     fs::create_symlink("loop", folder.path("loop"));
     folder.put("vast", "");
-    fs::resize_file(folder.path("vast"), PosixFiles::largestFile + 1); // sparse
+    fs::resize_file(folder.path("vast"), PosixFiles::maxFileSize + 1); // sparse
     for (const std::string& path : {folder.path("pipe"), folder.path("loop"), folder.path("vast"),
              folder.path("missing"), folder.path(), std::string("/dev/zero")})
         EXPECT_EQ(files.contentsOfFile(path), std::nullopt) << path;

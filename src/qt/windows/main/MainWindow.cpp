@@ -14,7 +14,7 @@ namespace {
 
 constexpr double headlineSize = 1.25; // times the usual size of the font
 constexpr double centeredHeadlineSize = 1.5; // from here on
-constexpr double largestHeadlineSize = 4.5;
+constexpr double maxHeadlineSize = 4.5;
 constexpr int linesPerHeadlineSize = 8; // added to the window's height enlarge the headline by once the usual size
 constexpr int usualWidth = 68; // characters
 constexpr int widestContent = 80; // lines of text
@@ -73,7 +73,7 @@ void MainWindow::setUpSize()
 void MainWindow::resizeEvent(QResizeEvent* event)
 {
     const double added = double(height() - minimumHeight()) / (fontMetrics().height() * linesPerHeadlineSize);
-    const double size = qBound(headlineSize, headlineSize + added, largestHeadlineSize);
+    const double size = qBound(headlineSize, headlineSize + added, maxHeadlineSize);
     description_->labelNowPlaying->setFont(scaledFont(font(), size));
     description_->labelNowPlaying->setAlignment(
         size > centeredHeadlineSize ? Qt::AlignCenter : Qt::AlignLeading | Qt::AlignVCenter);

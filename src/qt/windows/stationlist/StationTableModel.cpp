@@ -10,11 +10,11 @@ namespace {
 
 constexpr std::array columnIdentifiers{"radio", "link"};
 /// A text that is longer than any window is wide is drawn cut, since laying out a very long one takes seconds.
-constexpr std::size_t mostBytesDrawn = 2'000;
+constexpr std::size_t maxBytesDrawn = 2'000;
 
 QString drawn(const Text& text)
 {
-    const Text beginning = text.slice(utf8Prefix(text.view(), mostBytesDrawn));
+    const Text beginning = text.slice(utf8Prefix(text.view(), maxBytesDrawn));
     const QString line = onOneLine(toQString(beginning));
     return beginning.isSameObject(text) ? line : line + u'…';
 }

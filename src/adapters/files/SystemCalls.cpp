@@ -1,4 +1,4 @@
-#include "adapters/files/FileCalls.h"
+#include "adapters/files/SystemCalls.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,59 +21,59 @@ auto untilNotInterrupted(auto call)
 
 } // namespace
 
-int FileCalls::open(int folder, const char* name, int flags, mode_t mode)
+int SystemCalls::open(int folder, const char* name, int flags, mode_t mode)
 {
     return untilNotInterrupted([&] { return ::openat(folder, name, flags | O_CLOEXEC, mode); });
 }
 
-ssize_t FileCalls::read(int file, void* buffer, std::size_t size)
+ssize_t SystemCalls::read(int file, void* buffer, std::size_t size)
 {
     return untilNotInterrupted([&] { return ::read(file, buffer, size); });
 }
 
-ssize_t FileCalls::write(int file, const void* bytes, std::size_t size)
+ssize_t SystemCalls::write(int file, const void* bytes, std::size_t size)
 {
     return untilNotInterrupted([&] { return ::write(file, bytes, size); });
 }
 
-int FileCalls::changeMode(int file, mode_t mode)
+int SystemCalls::changeMode(int file, mode_t mode)
 {
     return ::fchmod(file, mode);
 }
 
-int FileCalls::synchronize(int file)
+int SystemCalls::synchronize(int file)
 {
     return untilNotInterrupted([&] { return ::fsync(file); });
 }
 
-int FileCalls::close(int file)
+int SystemCalls::close(int file)
 {
     // An interrupted close has closed the descriptor all the same, and a second one could hit another file.
     const int result = ::close(file);
     return result < 0 && errno == EINTR ? 0 : result;
 }
 
-int FileCalls::status(int file, struct stat& status)
+int SystemCalls::status(int file, struct stat& status)
 {
     return ::fstat(file, &status);
 }
 
-int FileCalls::statusOfName(int folder, const char* name, struct stat& status)
+int SystemCalls::statusOfName(int folder, const char* name, struct stat& status)
 {
     return ::fstatat(folder, name, &status, 0);
 }
 
-ssize_t FileCalls::readLink(const char* path, char* buffer, std::size_t size)
+ssize_t SystemCalls::readLink(const char* path, char* buffer, std::size_t size)
 {
     return ::readlink(path, buffer, size);
 }
 
-int FileCalls::rename(int folder, const char* name, int newFolder, const char* newName)
+int SystemCalls::rename(int folder, const char* name, int newFolder, const char* newName)
 {
     return ::renameat(folder, name, newFolder, newName);
 }
 
-int FileCalls::renameUnlessTaken(int folder, const char* name, int newFolder, const char* newName)
+int SystemCalls::renameUnlessTaken(int folder, const char* name, int newFolder, const char* newName)
 {
     const int result = ::renameat2(folder, name, newFolder, newName, RENAME_NOREPLACE);
     if (result == 0 || (errno != EINVAL && errno != ENOSYS))
@@ -87,17 +87,17 @@ int FileCalls::renameUnlessTaken(int folder, const char* name, int newFolder, co
     return ::renameat(folder, name, newFolder, newName);
 }
 
-int FileCalls::link(const char* path, int newFolder, const char* newName)
+int SystemCalls::link(const char* path, int newFolder, const char* newName)
 {
     return ::linkat(AT_FDCWD, path, newFolder, newName, 0);
 }
 
-int FileCalls::unlink(int folder, const char* name)
+int SystemCalls::unlink(int folder, const char* name)
 {
     return ::unlinkat(folder, name, 0);
 }
 
-int FileCalls::makeFolder(const char* path, mode_t mode)
+int SystemCalls::makeFolder(const char* path, mode_t mode)
 {
     return ::mkdir(path, mode);
 }

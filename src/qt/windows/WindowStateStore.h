@@ -9,9 +9,9 @@ namespace sonavel {
 
 /// Keeps sizes and positions of windows, and the widths of the columns in them, between runs, in `sonavel/windows.ini`
 /// of a folder for the state of programs. What cannot be read or written is forgotten.
-class WindowMemory {
+class WindowStateStore {
 public:
-    explicit WindowMemory(const QString& stateFolder);
+    explicit WindowStateStore(const QString& stateFolder);
 
     /// The user's folder for such things: $XDG_STATE_HOME, or ~/.local/state.
     [[nodiscard]] static QString usersStateFolder();

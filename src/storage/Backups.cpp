@@ -1,4 +1,4 @@
-#include "storage/RescueCopies.h"
+#include "storage/Backups.h"
 
 #include <algorithm>
 #include <charconv>
@@ -14,9 +14,9 @@ namespace {
 constexpr std::size_t copiesKept = 3;
 
 /// Higher numbers are not ours; the next one must not overflow.
-constexpr std::uint32_t largestNumber = 999'999'999;
+constexpr std::uint32_t maxNumber = 999'999'999;
 
-/// How the rescue copies of one file for one reason are named.
+/// How the backups of one file for one reason are named.
 class CopyNames {
 public:
     CopyNames(std::string_view path, std::string_view reason)
@@ -45,7 +45,7 @@ public:
         std::uint32_t number = 1;
         if (name.size() > head_.size() + 1)
             std::from_chars(name.data() + head_.size() + 1, name.data() + name.size(), number);
-        if (number == 0 || number > largestNumber || pathOf(number).view() != folder_ + std::string(name))
+        if (number == 0 || number > maxNumber || pathOf(number).view() != folder_ + std::string(name))
             return std::nullopt;
         return number;
     }
@@ -85,12 +85,12 @@ Text keep(Files& files, const Text& path, std::string_view reason, Keep operatio
 
 } // namespace
 
-Text keepRescueCopy(Files& files, const Text& path, std::string_view reason)
+Text keepBackup(Files& files, const Text& path, std::string_view reason)
 {
     return keep(files, path, reason, &Files::keepCopy);
 }
 
-Text setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reason)
+Text quarantine(Files& files, const Text& path, std::string_view reason)
 {
     return keep(files, path, reason, &Files::moveFile);
 }
@@ -98,7 +98,7 @@ Text setAsideAsRescueCopy(Files& files, const Text& path, std::string_view reaso
 bool keepDamaged(Files& files, const Text& path)
 {
     constexpr std::string_view reason = "damaged";
-    return !keepRescueCopy(files, path, reason).isAbsent() || !setAsideAsRescueCopy(files, path, reason).isAbsent();
+    return !keepBackup(files, path, reason).isAbsent() || !quarantine(files, path, reason).isAbsent();
 }
 
 } // namespace sonavel

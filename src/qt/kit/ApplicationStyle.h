@@ -10,9 +10,9 @@ namespace sonavel {
 /// Pop-ups open as scrollable lists, which stays quick with very many items; a click into a slider's groove takes the
 /// knob there; the texts of tables and buttons have space beside them; the outlines of controls stand out from what is
 /// around them on light and dark palettes. `base` is the key of a style, or empty for the desktop's.
-class HouseStyle : public QProxyStyle {
+class ApplicationStyle : public QProxyStyle {
 public:
-    explicit HouseStyle(const QString& base = {});
+    explicit ApplicationStyle(const QString& base = {});
 
     int styleHint(
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;

@@ -12,7 +12,7 @@ namespace sonavel {
 
 /// Holds the claim on a home directory for as long as it lives; the system takes it back when the process ends, however
 /// that ends. Lock and socket lie in a folder for things of the run time, never beside the user's files.
-class OneInstance : private NonCopyable {
+class SingleInstance : private NonCopyable {
 public:
     /// The user's folder for such things: $XDG_RUNTIME_DIR unless its path is too long for a socket, else one of his
     /// own under /tmp. Empty when there is none that is his alone.
@@ -23,13 +23,13 @@ public:
     /// listens. Without a usable folder every claim succeeds.
     [[nodiscard]] static Claim claim(const std::string& runTimeFolder, const std::string& homeDirectory);
 
-    ~OneInstance();
+    ~SingleInstance();
 
     /// Calls `callback` for every later start on the same home directory, those made before this call included.
-    void whenCalled(EventLoop& eventLoop, std::function<void()> callback);
+    void onActivated(EventLoop& eventLoop, std::function<void()> callback);
 
 private:
-    OneInstance(int lock, int socket);
+    SingleInstance(int lock, int socket);
 
     int lock_;
     int socket_;
@@ -37,8 +37,8 @@ private:
 };
 
 /// What came of a claim.
-struct OneInstance::Claim {
-    std::unique_ptr<OneInstance> instance; ///< null when another process has the home directory
+struct SingleInstance::Claim {
+    std::unique_ptr<SingleInstance> instance; ///< null when another process has the home directory
     bool isOtherCalled = false; ///< whether that process has heard of this start
 };
 

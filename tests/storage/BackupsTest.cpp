@@ -1,4 +1,4 @@
-#include "storage/RescueCopies.h"
+#include "storage/Backups.h"
 
 #include "support/MemoryFiles.h"
 
@@ -17,19 +17,19 @@ std::set<std::string> names(const MemoryFiles& files)
     return result;
 }
 
-TEST(RescueCopies, TheNewestThreeAreKeptUnderRisingNumbers)
+TEST(Backups, TheNewestThreeAreKeptUnderRisingNumbers)
 {
     MemoryFiles files;
     for (int turn = 1; turn <= 5; ++turn) {
         files.files[path] = std::to_string(turn);
-        EXPECT_FALSE(keepRescueCopy(files, path, "damaged").isAbsent());
+        EXPECT_FALSE(keepBackup(files, path, "damaged").isAbsent());
     }
     EXPECT_EQ(names(files),
         (std::set<std::string>{
             "list.old.rdb=5", "list.old.damaged-3.rdb=3", "list.old.damaged-4.rdb=4", "list.old.damaged-5.rdb=5"}));
 }
 
-TEST(RescueCopies, OtherFilesAreNotTakenForCopies)
+TEST(Backups, OtherFilesAreNotTakenForCopies)
 {
     const std::set<std::string> others = {"list.damaged.rdb=", "list.old.damaged-0.rdb=", "list.old.damaged-02.rdb=",
         "list.old.damaged-x.rdb=", "list.old.damaged-9.csv=", "list.old.damaged-4294967295.rdb=",
@@ -38,13 +38,13 @@ TEST(RescueCopies, OtherFilesAreNotTakenForCopies)
     for (const std::string& other : others)
         files.files["/home/" + other.substr(0, other.size() - 1)] = "";
     files.files[path] = "now";
-    EXPECT_FALSE(setAsideAsRescueCopy(files, path, "damaged").isAbsent());
+    EXPECT_FALSE(quarantine(files, path, "damaged").isAbsent());
     std::set<std::string> expected = others;
     expected.insert("list.old.damaged.rdb=now");
     EXPECT_EQ(names(files), expected);
 }
 
-TEST(RescueCopies, AFailedCopyRemovesNoOlderOne)
+TEST(Backups, AFailedCopyRemovesNoOlderOne)
 {
     MemoryFiles files;
     for (const char* name : {"list.old.damaged.rdb", "list.old.damaged-2.rdb", "list.old.damaged-3.rdb"})
@@ -52,9 +52,9 @@ TEST(RescueCopies, AFailedCopyRemovesNoOlderOne)
     files.files[path] = "now";
     const auto before = names(files);
     files.failAll("keep");
-    EXPECT_TRUE(keepRescueCopy(files, path, "damaged").isAbsent());
+    EXPECT_TRUE(keepBackup(files, path, "damaged").isAbsent());
     files.failAll("list");
-    EXPECT_TRUE(keepRescueCopy(files, path, "damaged").isAbsent());
+    EXPECT_TRUE(keepBackup(files, path, "damaged").isAbsent());
     EXPECT_EQ(names(files), before);
 }
 

@@ -1,4 +1,4 @@
-#include "qt/kit/HouseStyle.h"
+#include "qt/kit/ApplicationStyle.h"
 
 #include "qt/kit/Images.h"
 #include "qt/kit/Palettes.h"
@@ -18,13 +18,13 @@ constexpr int palettesInUse = 16;
 
 } // namespace
 
-HouseStyle::HouseStyle(const QString& base)
+ApplicationStyle::ApplicationStyle(const QString& base)
     : QProxyStyle(base.isEmpty() ? nullptr : QStyleFactory::create(base))
     , outlined_(palettesInUse)
 {
 }
 
-int HouseStyle::styleHint(
+int ApplicationStyle::styleHint(
     StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const
 {
     switch (hint) {
@@ -38,7 +38,7 @@ int HouseStyle::styleHint(
     }
 }
 
-void HouseStyle::drawPrimitive(
+void ApplicationStyle::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
     const auto drawOutlined = [&](auto copy) {
@@ -56,7 +56,7 @@ void HouseStyle::drawPrimitive(
 }
 
 /// The toolkit mirrors the word beside a picture twice, which takes it to the edge of its button.
-void HouseStyle::drawControl(
+void ApplicationStyle::drawControl(
     ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
     const Qt::LayoutDirection direction = painter->layoutDirection();
@@ -66,7 +66,7 @@ void HouseStyle::drawControl(
     painter->setLayoutDirection(direction);
 }
 
-void HouseStyle::drawComplexControl(
+void ApplicationStyle::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
@@ -78,7 +78,7 @@ void HouseStyle::drawComplexControl(
 }
 
 /// The toolkit keeps what it drew by the palette, hence one and the same for each.
-QPalette HouseStyle::outlined(const QPalette& palette) const
+QPalette ApplicationStyle::outlined(const QPalette& palette) const
 {
     const qint64 key = palette.cacheKey();
     if (!outlined_.contains(key)) {
@@ -91,14 +91,14 @@ QPalette HouseStyle::outlined(const QPalette& palette) const
 
 /// Every menu bar asks for the picture of the button that shows what has no room, as good as never to be seen. The
 /// toolkit reads its own from a file, with a plug-in for every format that there is.
-QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
+QIcon ApplicationStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
 {
     if (picture != SP_ToolBarHorizontalExtensionButton || widget == nullptr)
         return QProxyStyle::standardIcon(picture, option, widget);
     return imageNamed("more.png", widget->palette());
 }
 
-QSize HouseStyle::sizeFromContents(
+QSize ApplicationStyle::sizeFromContents(
     ContentsType type, const QStyleOption* option, const QSize& contents, const QWidget* widget) const
 {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
@@ -108,7 +108,7 @@ QSize HouseStyle::sizeFromContents(
     return size.expandedTo({contents.width() + 2 * besideText, 0});
 }
 
-int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+int ApplicationStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const bool isBesideText = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
     const bool isTable = qobject_cast<const QTableView*>(widget) || qobject_cast<const QHeaderView*>(widget);

@@ -1,7 +1,7 @@
 // The real system calls, of which the n-th fails.
 #pragma once
 
-#include "adapters/files/FileCalls.h"
+#include "adapters/files/SystemCalls.h"
 
 #include <cerrno>
 #include <functional>
@@ -9,7 +9,7 @@
 
 namespace sonavel::test {
 
-class FailingFileCalls : public FileCalls {
+class FailingSystemCalls : public SystemCalls {
 public:
     enum class Failing { ThatCallAlone, ThatCallAndAllAfter };
 
@@ -28,48 +28,48 @@ public:
 
     int open(int folder, const char* name, int flags, mode_t mode) override
     {
-        return isToFail() ? -1 : FileCalls::open(folder, name, flags, mode);
+        return isToFail() ? -1 : SystemCalls::open(folder, name, flags, mode);
     }
     ssize_t read(int file, void* buffer, std::size_t size) override
     {
-        return isToFail() ? -1 : FileCalls::read(file, buffer, size);
+        return isToFail() ? -1 : SystemCalls::read(file, buffer, size);
     }
     /// Writes at most three bytes at a time, so that a write fails in the middle of a content too.
     ssize_t write(int file, const void* bytes, std::size_t size) override
     {
-        return isToFail() ? -1 : FileCalls::write(file, bytes, size < 3 ? size : 3);
+        return isToFail() ? -1 : SystemCalls::write(file, bytes, size < 3 ? size : 3);
     }
-    int changeMode(int file, mode_t mode) override { return isToFail() ? -1 : FileCalls::changeMode(file, mode); }
-    int synchronize(int file) override { return isToFail() ? -1 : FileCalls::synchronize(file); }
+    int changeMode(int file, mode_t mode) override { return isToFail() ? -1 : SystemCalls::changeMode(file, mode); }
+    int synchronize(int file) override { return isToFail() ? -1 : SystemCalls::synchronize(file); }
     int close(int file) override
     {
-        const int result = FileCalls::close(file);
+        const int result = SystemCalls::close(file);
         return isToFail() ? -1 : result;
     }
-    int status(int file, struct stat& status) override { return isToFail() ? -1 : FileCalls::status(file, status); }
+    int status(int file, struct stat& status) override { return isToFail() ? -1 : SystemCalls::status(file, status); }
     int statusOfName(int folder, const char* name, struct stat& status) override
     {
-        return isToFail() ? -1 : FileCalls::statusOfName(folder, name, status);
+        return isToFail() ? -1 : SystemCalls::statusOfName(folder, name, status);
     }
     ssize_t readLink(const char* path, char* buffer, std::size_t size) override
     {
-        return isToFail() ? -1 : FileCalls::readLink(path, buffer, size);
+        return isToFail() ? -1 : SystemCalls::readLink(path, buffer, size);
     }
     int rename(int folder, const char* name, int newFolder, const char* newName) override
     {
-        return isToFail() ? -1 : noteRename(FileCalls::rename(folder, name, newFolder, newName));
+        return isToFail() ? -1 : noteRename(SystemCalls::rename(folder, name, newFolder, newName));
     }
     int renameUnlessTaken(int folder, const char* name, int newFolder, const char* newName) override
     {
-        return isToFail() ? -1 : noteRename(FileCalls::renameUnlessTaken(folder, name, newFolder, newName));
+        return isToFail() ? -1 : noteRename(SystemCalls::renameUnlessTaken(folder, name, newFolder, newName));
     }
     int link(const char* path, int newFolder, const char* newName) override
     {
-        return isToFail() || areLinksRefused ? -1 : FileCalls::link(path, newFolder, newName);
+        return isToFail() || areLinksRefused ? -1 : SystemCalls::link(path, newFolder, newName);
     }
     int unlink(int folder, const char* name) override
     {
-        const int result = isToFail() ? -1 : FileCalls::unlink(folder, name);
+        const int result = isToFail() ? -1 : SystemCalls::unlink(folder, name);
         const int reason = errno;
         if (afterUnlink)
             std::exchange(afterUnlink, nullptr)();
@@ -78,7 +78,7 @@ public:
     }
     int makeFolder(const char* path, mode_t mode) override
     {
-        return isToFail() ? -1 : FileCalls::makeFolder(path, mode);
+        return isToFail() ? -1 : SystemCalls::makeFolder(path, mode);
     }
 
     /// As a file system without hard links.

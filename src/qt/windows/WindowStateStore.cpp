@@ -1,4 +1,4 @@
-#include "qt/windows/WindowMemory.h"
+#include "qt/windows/WindowStateStore.h"
 
 #include <QDir>
 #include <QFile>
@@ -28,18 +28,18 @@ QTableView* tableIn(const QWidget& window)
 
 } // namespace
 
-WindowMemory::WindowMemory(const QString& stateFolder)
+WindowStateStore::WindowStateStore(const QString& stateFolder)
     : file_(stateFolder + QStringLiteral("/sonavel/windows.ini"))
 {
 }
 
-QString WindowMemory::usersStateFolder()
+QString WindowStateStore::usersStateFolder()
 {
     const QString folder = qEnvironmentVariable("XDG_STATE_HOME");
     return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + QStringLiteral("/.local/state");
 }
 
-void WindowMemory::restore(QWidget& window) const
+void WindowStateStore::restore(QWidget& window) const
 {
     if (!QFile::exists(file_))
         return;
@@ -52,7 +52,7 @@ void WindowMemory::restore(QWidget& window) const
     }
 }
 
-void WindowMemory::keep(const QWidget& window) const
+void WindowStateStore::keep(const QWidget& window) const
 {
     if (window.windowHandle() == nullptr)
         return;

@@ -1,4 +1,4 @@
-#include "adapters/files/OneInstance.h"
+#include "adapters/files/SingleInstance.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -20,10 +20,10 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::chrono::seconds longestPatience{5};
+constexpr std::chrono::seconds maxWait{5};
 
 /// The name of a socket has little room, and below the folder there are "/sonavel/", twenty digits and the ending.
-constexpr std::size_t longestGiven = sizeof(sockaddr_un::sun_path) - 40;
+constexpr std::size_t maxFolderLength = sizeof(sockaddr_un::sun_path) - 40;
 constexpr std::chrono::milliseconds pause{20};
 
 /// The same for every way to write the path of one folder.
@@ -92,24 +92,24 @@ bool call(const std::string& path)
 
 } // namespace
 
-std::string OneInstance::usersRunTimeFolder()
+std::string SingleInstance::usersRunTimeFolder()
 {
     const char* given = std::getenv("XDG_RUNTIME_DIR");
-    const bool isUsable = given != nullptr && *given == '/' && std::strlen(given) <= longestGiven;
+    const bool isUsable = given != nullptr && *given == '/' && std::strlen(given) <= maxFolderLength;
     std::string folder = isUsable ? std::string(given) + "/sonavel" : "/tmp/sonavel-" + std::to_string(::getuid());
     ::mkdir(folder.c_str(), S_IRWXU);
     return isOwnFolder(folder) ? folder : std::string();
 }
 
-OneInstance::Claim OneInstance::claim(const std::string& runTimeFolder, const std::string& homeDirectory)
+SingleInstance::Claim SingleInstance::claim(const std::string& runTimeFolder, const std::string& homeDirectory)
 {
     if (runTimeFolder.empty())
-        return {std::unique_ptr<OneInstance>(new OneInstance(-1, -1))};
+        return {std::unique_ptr<SingleInstance>(new SingleInstance(-1, -1))};
     const std::string path = runTimeFolder + "/" + nameOf(homeDirectory);
-    const auto end = std::chrono::steady_clock::now() + longestPatience;
+    const auto end = std::chrono::steady_clock::now() + maxWait;
     do {
         if (const auto lock = lockedFile(path + ".lock"))
-            return {std::unique_ptr<OneInstance>(new OneInstance(*lock, listeningSocket(path + ".socket")))};
+            return {std::unique_ptr<SingleInstance>(new SingleInstance(*lock, listeningSocket(path + ".socket")))};
         // Between its lock and its socket the other one cannot be called yet.
         if (call(path + ".socket"))
             return {nullptr, true};
@@ -118,13 +118,13 @@ OneInstance::Claim OneInstance::claim(const std::string& runTimeFolder, const st
     return {nullptr, false};
 }
 
-OneInstance::OneInstance(int lock, int socket)
+SingleInstance::SingleInstance(int lock, int socket)
     : lock_(lock)
     , socket_(socket)
 {
 }
 
-OneInstance::~OneInstance()
+SingleInstance::~SingleInstance()
 {
     calls_.reset();
     if (socket_ >= 0)
@@ -133,7 +133,7 @@ OneInstance::~OneInstance()
         ::close(lock_);
 }
 
-void OneInstance::whenCalled(EventLoop& eventLoop, std::function<void()> callback)
+void SingleInstance::onActivated(EventLoop& eventLoop, std::function<void()> callback)
 {
     if (socket_ < 0)
         return;

@@ -1,5 +1,5 @@
 // Starts beside a running player.
-#include "adapters/files/OneInstance.h"
+#include "adapters/files/SingleInstance.h"
 
 #include "support/PollEventLoop.h"
 #include "support/TemporaryFolder.h"
@@ -13,11 +13,11 @@
 namespace sonavel {
 namespace {
 
-class OneInstanceTest : public testing::Test {
+class SingleInstanceTest : public testing::Test {
 protected:
-    std::unique_ptr<OneInstance> claim(const std::string& home = "/home/listener")
+    std::unique_ptr<SingleInstance> claim(const std::string& home = "/home/listener")
     {
-        return OneInstance::claim(folder.path(), home).instance;
+        return SingleInstance::claim(folder.path(), home).instance;
     }
 
     test::TemporaryFolder folder;
@@ -25,13 +25,13 @@ protected:
     int calls = 0;
 };
 
-TEST_F(OneInstanceTest, ASecondStartCallsTheFirstAlsoWhileThatIsStillStarting)
+TEST_F(SingleInstanceTest, ASecondStartCallsTheFirstAlsoWhileThatIsStillStarting)
 {
     auto first = claim();
     ASSERT_TRUE(first);
     EXPECT_FALSE(claim());
     EXPECT_FALSE(claim("/home//listener/./"));
-    first->whenCalled(loop, [&] { ++calls; });
+    first->onActivated(loop, [&] { ++calls; });
     EXPECT_TRUE(loop.runUntil([&] { return calls == 1; }));
     loop.runFor(std::chrono::milliseconds(20));
     EXPECT_EQ(calls, 1) << "calls that came together are one";
@@ -42,20 +42,20 @@ TEST_F(OneInstanceTest, ASecondStartCallsTheFirstAlsoWhileThatIsStillStarting)
     EXPECT_TRUE(claim());
 }
 
-TEST_F(OneInstanceTest, APlayerThatCannotBeCalledIsTold)
+TEST_F(SingleInstanceTest, APlayerThatCannotBeCalledIsTold)
 {
     const auto first = claim();
-    ASSERT_TRUE(OneInstance::claim(folder.path(), "/home/listener").isOtherCalled);
+    ASSERT_TRUE(SingleInstance::claim(folder.path(), "/home/listener").isOtherCalled);
     for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
         if (entry.path().extension() == ".socket")
             std::filesystem::remove(entry.path());
     }
-    const auto second = OneInstance::claim(folder.path(), "/home/listener");
+    const auto second = SingleInstance::claim(folder.path(), "/home/listener");
     EXPECT_FALSE(second.instance);
     EXPECT_FALSE(second.isOtherCalled);
 }
 
-TEST_F(OneInstanceTest, WhatAKilledPlayerLeftBehindIsNoObstacle)
+TEST_F(SingleInstanceTest, WhatAKilledPlayerLeftBehindIsNoObstacle)
 {
     const pid_t killed = ::fork();
     if (killed == 0) {
@@ -68,19 +68,19 @@ TEST_F(OneInstanceTest, WhatAKilledPlayerLeftBehindIsNoObstacle)
     EXPECT_TRUE(claim());
 }
 
-TEST_F(OneInstanceTest, WithoutAFolderOfTheUsersOwnEveryStartIsTheFirst)
+TEST_F(SingleInstanceTest, WithoutAFolderOfTheUsersOwnEveryStartIsTheFirst)
 {
     const std::string shared = folder.path() + "/shared";
     ::setenv("XDG_RUNTIME_DIR", shared.c_str(), 1);
-    EXPECT_EQ(OneInstance::usersRunTimeFolder(), "") << "there is none";
+    EXPECT_EQ(SingleInstance::usersRunTimeFolder(), "") << "there is none";
     std::filesystem::create_directories(shared + "/sonavel");
     std::filesystem::permissions(shared + "/sonavel", std::filesystem::perms::all);
-    EXPECT_EQ(OneInstance::usersRunTimeFolder(), "") << "others could take its place";
+    EXPECT_EQ(SingleInstance::usersRunTimeFolder(), "") << "others could take its place";
     std::filesystem::permissions(shared + "/sonavel", std::filesystem::perms::owner_all);
-    EXPECT_EQ(OneInstance::usersRunTimeFolder(), shared + "/sonavel");
+    EXPECT_EQ(SingleInstance::usersRunTimeFolder(), shared + "/sonavel");
     ::unsetenv("XDG_RUNTIME_DIR");
-    EXPECT_TRUE(OneInstance::claim("", "/home/listener").instance);
-    EXPECT_TRUE(OneInstance::claim("", "/home/listener").instance);
+    EXPECT_TRUE(SingleInstance::claim("", "/home/listener").instance);
+    EXPECT_TRUE(SingleInstance::claim("", "/home/listener").instance);
 }
 
 } // namespace

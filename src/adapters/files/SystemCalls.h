@@ -13,9 +13,9 @@ namespace sonavel {
 
 /// Each operation is the system call of the same purpose: it answers −1 (where not told otherwise) with the reason in
 /// `errno`, and never EINTR. A name is looked up in the open folder `folder`; AT_FDCWD does for an absolute path.
-class FileCalls : private NonCopyable {
+class SystemCalls : private NonCopyable {
 public:
-    virtual ~FileCalls() = default;
+    virtual ~SystemCalls() = default;
 
     /// The file descriptor is closed on exec.
     virtual int open(int folder, const char* name, int flags, mode_t mode);
@@ -45,7 +45,7 @@ public:
 /// Keeps a file descriptor and closes it at the latest at its own end.
 class OpenFile : private NonCopyable {
 public:
-    OpenFile(FileCalls& calls, int file)
+    OpenFile(SystemCalls& calls, int file)
         : calls_(calls)
         , file_(file)
     {
@@ -59,7 +59,7 @@ public:
     int close();
 
 private:
-    FileCalls& calls_;
+    SystemCalls& calls_;
     int file_;
 };
 

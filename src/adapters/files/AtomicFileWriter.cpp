@@ -1,4 +1,4 @@
-#include "adapters/files/FileReplacement.h"
+#include "adapters/files/AtomicFileWriter.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,7 +20,7 @@ std::string temporaryNameFor(std::string_view name)
     return temporaryName.append(name.substr(0, NAME_MAX - 1 - ending.size())).append(ending);
 }
 
-std::error_code writeAll(FileCalls& calls, int file, std::string_view bytes)
+std::error_code writeAll(SystemCalls& calls, int file, std::string_view bytes)
 {
     while (!bytes.empty()) {
         const ssize_t written = calls.write(file, bytes.data(), bytes.size());
@@ -35,7 +35,7 @@ std::error_code writeAll(FileCalls& calls, int file, std::string_view bytes)
 
 } // namespace
 
-FileReplacement::FileReplacement(FileCalls& calls, std::string_view path)
+AtomicFileWriter::AtomicFileWriter(SystemCalls& calls, std::string_view path)
     : calls_(calls)
     , path_(path)
     , name_(path.substr(path.rfind('/') + 1))
@@ -43,7 +43,7 @@ FileReplacement::FileReplacement(FileCalls& calls, std::string_view path)
 {
 }
 
-std::error_code FileReplacement::replace(std::string_view bytes, FileAccess access)
+std::error_code AtomicFileWriter::replace(std::string_view bytes, FileAccess access)
 {
     OpenFile folder(calls_, openFolderOf(calls_, path_));
     if (!folder.isOpen())
@@ -62,7 +62,7 @@ std::error_code FileReplacement::replace(std::string_view bytes, FileAccess acce
     return synchronizeFolder(calls_, folder);
 }
 
-std::error_code FileReplacement::create(std::string_view bytes, mode_t mode)
+std::error_code AtomicFileWriter::create(std::string_view bytes, mode_t mode)
 {
     OpenFile folder(calls_, openFolderOf(calls_, path_));
     if (!folder.isOpen())
@@ -77,7 +77,7 @@ std::error_code FileReplacement::create(std::string_view bytes, mode_t mode)
     return failure;
 }
 
-void FileReplacement::removeUnfinished()
+void AtomicFileWriter::removeUnfinished()
 {
     const OpenFile folder(calls_, openFolderOf(calls_, path_));
     const OpenFile unfinished(calls_,
@@ -89,7 +89,7 @@ void FileReplacement::removeUnfinished()
         calls_.unlink(folder.descriptor(), temporaryName_.c_str());
 }
 
-std::error_code FileReplacement::modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode)
+std::error_code AtomicFileWriter::modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode)
 {
     struct stat old { };
     if (calls_.statusOfName(folder.descriptor(), name_.c_str(), old) != 0)
@@ -103,7 +103,7 @@ std::error_code FileReplacement::modeOfOldFile(const OpenFile& folder, std::opti
 /// Makes the file with the first mode and, once it is complete, gives it the last one. Leaves no temporary file when it
 /// fails. What already has the temporary name is a crash's left-over or was planted there: it is removed, and neither
 /// opened nor followed.
-std::error_code FileReplacement::writeTemporary(
+std::error_code AtomicFileWriter::writeTemporary(
     const OpenFile& folder, std::string_view bytes, mode_t firstMode, std::optional<mode_t> lastMode)
 {
     if (calls_.unlink(folder.descriptor(), temporaryName_.c_str()) != 0 && errno != ENOENT)
@@ -126,13 +126,13 @@ std::error_code FileReplacement::writeTemporary(
     return failure;
 }
 
-int openFolderOf(FileCalls& calls, std::string_view path)
+int openFolderOf(SystemCalls& calls, std::string_view path)
 {
     const std::string folder(path.substr(0, path.rfind('/') + 1));
     return calls.open(AT_FDCWD, folder.c_str(), O_RDONLY | O_DIRECTORY, 0);
 }
 
-std::error_code synchronizeFolder(FileCalls& calls, const OpenFile& folder)
+std::error_code synchronizeFolder(SystemCalls& calls, const OpenFile& folder)
 {
     // EINVAL: a file system that cannot be asked for this, and hence keeps folders as safe as it ever does.
     return calls.synchronize(folder.descriptor()) == 0 || errno == EINVAL ? std::error_code() : lastError();
