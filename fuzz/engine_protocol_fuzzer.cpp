@@ -1,6 +1,7 @@
 // Fuzzes what player and engine read of each other, and the titles of streams.
 
 #include "Require.h"
+#include "engine/LineReader.h"
 #include "engine/Protocol.h"
 #include "engine/StreamTitle.h"
 
@@ -31,7 +32,7 @@ void checkReading(std::string_view bytes, std::size_t piece)
     for (; !bytes.empty(); bytes.remove_prefix(std::min(piece, bytes.size()))) {
         reader.append(bytes.substr(0, piece));
         while (const auto line = reader.nextLine()) {
-            require(line->size() <= LineReader::longestLine, "no line is too long");
+            require(line->size() <= LineReader::maxLine, "no line is too long");
             if (const auto command = commandFromLine(*line))
                 checkLine(lineFromCommand(*command));
             if (const auto event = eventFromLine(*line))

@@ -391,7 +391,7 @@
         <source>Playing</source>
         <translation>Playing</translation>
     </message>
-    <message id="NOW_PLAYING_HELD">
+    <message id="NOW_PLAYING_PAUSED">
         <source>Paused</source>
         <translation>Paused</translation>
     </message>

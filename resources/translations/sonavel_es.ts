@@ -391,7 +391,7 @@
         <source>Playing</source>
         <translation>En reproducción</translation>
     </message>
-    <message id="NOW_PLAYING_HELD">
+    <message id="NOW_PLAYING_PAUSED">
         <source>Paused</source>
         <translation>En pausa</translation>
     </message>

@@ -391,7 +391,7 @@
         <source>Playing</source>
         <translation>In riproduzione</translation>
     </message>
-    <message id="NOW_PLAYING_HELD">
+    <message id="NOW_PLAYING_PAUSED">
         <source>Paused</source>
         <translation>In pausa</translation>
     </message>

@@ -5,6 +5,7 @@
 #include "platform/Clock.h"
 #include "playback/StationSelection.h"
 #include "playback/StreamAddress.h"
+#include "playback/StreamStatus.h"
 #include "ui/Controls.h"
 
 #include <utility>
@@ -24,11 +25,12 @@ struct MediaControls::Command {
     unsigned interruptions;
 };
 
-MediaControls::MediaControls(MainControls& controls, Player& player, StationSelection& stationSelection,
-    const StationList& stationList, Actions& actions, const CountedAlerts& alerts, const Clock& clock,
-    Actions::Operation quitApp)
+MediaControls::MediaControls(MainControls& controls, Player& player, const StreamStatus& streamStatus,
+    StationSelection& stationSelection, const StationList& stationList, Actions& actions, const CountedAlerts& alerts,
+    const Clock& clock, Actions::Operation quitApp)
     : controls_(controls)
     , player_(player)
+    , streamStatus_(streamStatus)
     , stationSelection_(stationSelection)
     , stationList_(stationList)
     , actions_(actions)
@@ -51,6 +53,7 @@ const MediaState& MediaControls::state()
         state_.address = withoutUserInformation(item_->address);
         state_.station = item_->name;
     }
+    state_.title = streamStatus_.report().title;
     if (item_)
         state_.status = player.isPlay ? Status::Playing : Status::Paused;
     state_.volume = controls_.sliderVolume.state().value;

@@ -15,6 +15,7 @@ class Clock;
 class CountedAlerts;
 class StationList;
 class StationSelection;
+class StreamStatus;
 struct MainControls;
 
 struct MediaState {
@@ -25,6 +26,8 @@ struct MediaState {
     std::uint64_t stream = 0;
     /// The name of the station that is played.
     Text station;
+    /// What the stream says it plays; absent when it says nothing.
+    Text title;
     /// Without user and password.
     Text address;
     /// 0.0 (silent) to 1.0 (full).
@@ -43,11 +46,11 @@ struct MediaState {
 /// Main thread. Borrows everything it is given.
 class MediaControls : private NonCopyable {
 public:
-    MediaControls(MainControls& controls, Player& player, StationSelection& stationSelection,
-        const StationList& stationList, Actions& actions, const CountedAlerts& alerts, const Clock& clock,
-        Actions::Operation quitApp);
+    MediaControls(MainControls& controls, Player& player, const StreamStatus& streamStatus,
+        StationSelection& stationSelection, const StationList& stationList, Actions& actions,
+        const CountedAlerts& alerts, const Clock& clock, Actions::Operation quitApp);
 
-    /// To be asked after every action: a station keeps the name that it had when it began to play.
+    /// To be called after every action: a station keeps the name that it had when it began to play.
     [[nodiscard]] const MediaState& state();
 
     /// Plays or goes on; nothing when it plays.
@@ -78,6 +81,7 @@ private:
 
     MainControls& controls_;
     Player& player_;
+    const StreamStatus& streamStatus_;
     StationSelection& stationSelection_;
     const StationList& stationList_;
     Actions& actions_;

@@ -18,6 +18,7 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
     , listWriter(stationList, stationDatabase)
     , preferences(ports.preferenceDomains, ports.bundle, controls.stationList.winWebRadioListEdit)
     , preferencesWindow(preferences, stationList, controls.preferences)
+    , streamStatus(ports.streamPlayers)
     , player(ports.streamPlayers, ports.notificationCenter, controls.main, controls.menu.menuMute)
     , stationSelection(stationList, preferences, player, ports.localizedStrings, controls.main,
           controls.preferences.popupDefaultButtonListRadio)
@@ -43,8 +44,8 @@ WinSonavelController::WinSonavelController(const Ports& ports, const Configurati
               controls.main.popupbuttonRadioList, controls.preferences.winPreferences},
           ports.localizedStrings)
     , actions(queue, controls.stationList.tableViewListRadio, [this] { validateItems(); })
-    , mediaControls(
-          controls.main, player, stationSelection, stationList, actions, alerts, ports.clock, [this] { quitApp(); })
+    , mediaControls(controls.main, player, streamStatus, stationSelection, stationList, actions, alerts, ports.clock,
+          [this] { quitApp(); })
     , ports_(ports)
     , configuration_(configuration)
     , controls_(controls)

@@ -22,6 +22,7 @@
 #include "online/UpdateCheck.h"
 #include "playback/Player.h"
 #include "playback/StationSelection.h"
+#include "playback/StreamStatus.h"
 #include "prefs/Preferences.h"
 #include "prefs/PreferencesWindow.h"
 #include "storage/ListWriter.h"
@@ -63,6 +64,7 @@ public:
     ListWriter listWriter;
     Preferences preferences;
     PreferencesWindow preferencesWindow;
+    StreamStatus streamStatus;
     Player player;
     StationSelection stationSelection;
     ServerDates serverDates;

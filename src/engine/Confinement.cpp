@@ -141,7 +141,7 @@ void boundMemory()
 
 } // namespace
 
-Confinement confineThisProcess()
+Confinement enterSandbox()
 {
     refuseCoreDumps();
     boundMemory();

@@ -20,6 +20,6 @@ enum class Confinement {
 /// over and knows where it is.
 ///
 /// Call it while there is one thread, before anything from outside is opened; there is no way back.
-[[nodiscard]] Confinement confineThisProcess();
+[[nodiscard]] Confinement enterSandbox();
 
 } // namespace sonavel

@@ -1,6 +1,7 @@
 #include "engine/MpvEngine.h"
 
 #include "engine/FailureReason.h"
+#include "engine/MpvAccess.h"
 #include "engine/MpvSetUp.h"
 #include "engine/StreamTitle.h"
 #include "playback/StreamAddress.h"
@@ -17,47 +18,22 @@ namespace sonavel {
 namespace {
 
 /// A server can make playlists lead to playlists for ever.
-constexpr int mostAttempts = 20;
+constexpr int maxAttempts = 20;
 /// What libmpv logs as soon as a server has answered. Other levels choose a demuxer by the address, and for "rtsp" it
 /// is the demuxer that connects then.
 constexpr std::string_view answerSign = "Trying demuxers for level=normal";
 
-void endPlaying(mpv_handle* player)
-{
-    std::array<const char*, 2> arguments{"stop", nullptr};
-    (void)mpv_command(player, arguments.data());
-}
-
-PlaybackFailure failureFromError(int error)
-{
-    switch (error) {
-    case MPV_ERROR_UNKNOWN_FORMAT:
-    case MPV_ERROR_NOTHING_TO_PLAY:
-        return PlaybackFailure::NotAStream;
-    case MPV_ERROR_AO_INIT_FAILED:
-        return PlaybackFailure::NoSoundOutput;
-    default:
-        return PlaybackFailure::Unknown;
-    }
-}
-
 } // namespace
 
-std::unique_ptr<MpvEngine> MpvEngine::create(Tell tell)
+std::unique_ptr<MpvEngine> MpvEngine::create(SendEvent sendEvent)
 {
     mpv_handle* player = createMpv();
-    if (player == nullptr)
-        return nullptr;
-    mpv_request_log_messages(player, "v");
-    for (const char* property : {"core-idle", "idle-active", "metadata"})
-        mpv_observe_property(player, 0, property, MPV_FORMAT_NONE);
-    mpv_hook_add(player, 0, "on_load", 0);
-    return std::unique_ptr<MpvEngine>(new MpvEngine(player, std::move(tell)));
+    return std::unique_ptr<MpvEngine>(player == nullptr ? nullptr : new MpvEngine(player, std::move(sendEvent)));
 }
 
-MpvEngine::MpvEngine(mpv_handle* player, Tell tell)
+MpvEngine::MpvEngine(mpv_handle* player, SendEvent sendEvent)
     : player_(player)
-    , tell_(std::move(tell))
+    , sendEvent_(std::move(sendEvent))
 {
 }
 
@@ -70,10 +46,12 @@ void MpvEngine::perform(const EngineCommand& command)
 {
     if (const auto* loading = std::get_if<LoadCommand>(&command)) {
         load(*loading);
-    } else if (std::holds_alternative<HoldCommand>(command)) {
-        setHeld(true);
-    } else if (std::holds_alternative<ContinueCommand>(command)) {
-        setHeld(false);
+    } else if (std::holds_alternative<PauseCommand>(command)) {
+        isPaused_ = true;
+        applyPause();
+    } else if (std::holds_alternative<ResumeCommand>(command)) {
+        isPaused_ = false;
+        applyPause();
     } else if (std::holds_alternative<StopCommand>(command)) {
         stop();
     } else if (const auto* volume = std::get_if<VolumeCommand>(&command)) {
@@ -89,14 +67,14 @@ void MpvEngine::load(const LoadCommand& command)
 {
     stop();
     load_ = command.load;
-    isHeld_ = false;
+    isPaused_ = false;
     const Text address = usableStreamAddress(command.address);
     if (address.isAbsent()) {
         failure_ = PlaybackFailure::NotUsable;
         showFailure();
         return;
     }
-    applyHold();
+    applyPause();
     (void)mpv_set_property_string(player_, "force-media-title", command.name.string().c_str());
     const std::string file = address.string();
     std::array<const char*, 3> arguments{"loadfile", file.c_str(), nullptr};
@@ -105,12 +83,6 @@ void MpvEngine::load(const LoadCommand& command)
         failure_ = PlaybackFailure::Unknown;
         showFailure();
     }
-}
-
-void MpvEngine::setHeld(bool isHeld)
-{
-    isHeld_ = isHeld;
-    applyHold();
 }
 
 void MpvEngine::stop()
@@ -139,7 +111,7 @@ void MpvEngine::handleEvents()
             break;
         handle(*event);
     }
-    // Log lines, which tell the reason, come after the events that they belong to.
+    // Log lines, which give the reason, come after the events that they belong to.
     showFailure();
 }
 
@@ -147,29 +119,22 @@ void MpvEngine::handle(const mpv_event& event)
 {
     switch (event.event_id) {
     case MPV_EVENT_HOOK:
-        checkAddress(event);
-        break;
+        return checkAddress(event);
     case MPV_EVENT_LOG_MESSAGE:
-        noteLogLine(event);
-        break;
+        return noteLogLine(event);
     case MPV_EVENT_START_FILE:
-        noteStart(event);
-        break;
+        return noteStart(event);
     case MPV_EVENT_FILE_LOADED:
-        noteProgress(StreamState::Recognised);
-        break;
+        return noteProgress(StreamState::Recognised);
     case MPV_EVENT_END_FILE:
-        noteEnd(event);
-        break;
+        return noteEnd(event);
     case MPV_EVENT_AUDIO_RECONFIG:
-        applySound();
-        break;
+        return applySound();
     case MPV_EVENT_PROPERTY_CHANGE:
         showState();
-        showTitle();
-        break;
+        return showTitle();
     default:
-        break;
+        return;
     }
 }
 
@@ -177,11 +142,11 @@ void MpvEngine::handle(const mpv_event& event)
 void MpvEngine::checkAddress(const mpv_event& event)
 {
     const auto* hook = static_cast<const mpv_event_hook*>(event.data);
-    if (usableStreamAddress(text("stream-open-filename")).isAbsent()) {
+    if (usableStreamAddress(textProperty(player_, "stream-open-filename")).isAbsent()) {
         failure_ = PlaybackFailure::NotUsable;
         (void)mpv_set_property_string(player_, "stream-open-filename", "");
     }
-    if (++attempts_ > mostAttempts) {
+    if (++attempts_ > maxAttempts) {
         failure_ = PlaybackFailure::NotAStream;
         endPlaying(player_);
     }
@@ -238,80 +203,46 @@ void MpvEngine::showState()
 {
     if (!load_ || !hasBegun_)
         return;
-    const bool sounds = !flag("core-idle");
+    const bool sounds = !flagProperty(player_, "core-idle");
     const StreamState state = sounds ? StreamState::Playing : progress_;
     if (sounds)
         progress_ = StreamState::Buffering;
     if (state == shownState_)
         return;
     shownState_ = state;
-    tell_(StateEvent{*load_, state});
+    sendEvent_(StateEvent{*load_, state});
 }
 
 void MpvEngine::showTitle()
 {
     if (!load_)
         return;
-    std::string title = text("metadata/by-key/icy-title");
-    if (title.empty())
-        title = text("metadata/by-key/title");
-    const std::string artist = text("metadata/by-key/artist");
-    if (!title.empty() && !artist.empty() && text("metadata/by-key/icy-title").empty())
-        title.insert(0, artist + " - ");
-    Text shown = streamTitle(title);
+    Text shown = streamTitle(titleFromMetadata(player_));
     if (shown == shownTitle_ || (shown.isEmpty() && shownTitle_.isAbsent()))
         return;
     shownTitle_ = shown;
-    tell_(TitleEvent{*load_, std::move(shown)});
+    sendEvent_(TitleEvent{*load_, std::move(shown)});
 }
 
 /// Once libmpv has nothing left to play, the load is over.
 void MpvEngine::showFailure()
 {
-    if (!load_ || !failure_ || !flag("idle-active"))
+    if (!load_ || !failure_ || !flagProperty(player_, "idle-active"))
         return;
     const FailedEvent event{*std::exchange(load_, std::nullopt), *failure_};
-    tell_(event);
+    sendEvent_(event);
 }
 
-/// The output that sound servers offer has a volume of its own, which they remember from the last run and which exists
-/// only while it is open. So a load is held until it is set.
+/// A load stays paused until the sound output has its volume.
 void MpvEngine::applySound()
 {
-    const std::string output = text("current-ao");
-    const bool hasOwnVolume = output == "pulse" || output == "pipewire";
-    double percent = 100.0 * volume_;
-    double full = 100.0;
-    int muted = isMuted_ ? 1 : 0;
-    int unmuted = 0;
-    mpv_set_property(player_, "volume", MPV_FORMAT_DOUBLE, hasOwnVolume ? &full : &percent);
-    mpv_set_property(player_, "mute", MPV_FORMAT_FLAG, hasOwnVolume ? &unmuted : &muted);
-    if (hasOwnVolume) {
-        mpv_set_property(player_, "ao-volume", MPV_FORMAT_DOUBLE, &percent);
-        mpv_set_property(player_, "ao-mute", MPV_FORMAT_FLAG, &muted);
-    }
-    soundIsSet_ = !output.empty();
-    applyHold();
+    soundIsSet_ = setVolume(player_, volume_, isMuted_);
+    applyPause();
 }
 
-void MpvEngine::applyHold()
+void MpvEngine::applyPause()
 {
-    int pause = isHeld_ || !soundIsSet_ ? 1 : 0;
-    mpv_set_property(player_, "pause", MPV_FORMAT_FLAG, &pause);
-}
-
-bool MpvEngine::flag(const char* property) const
-{
-    int value = 0;
-    return mpv_get_property(player_, property, MPV_FORMAT_FLAG, &value) >= 0 && value != 0;
-}
-
-std::string MpvEngine::text(const char* property) const
-{
-    char* value = mpv_get_property_string(player_, property);
-    std::string result = value == nullptr ? "" : value;
-    mpv_free(value);
-    return result;
+    setPause(player_, isPaused_ || !soundIsSet_);
 }
 
 } // namespace sonavel

@@ -8,20 +8,19 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
 
 struct mpv_event;
 struct mpv_handle;
 
 namespace sonavel {
 
-/// Carries out commands, and tells events of the present load. One thread.
+/// Carries out commands, and sends events of the present load. One thread.
 class MpvEngine : private NonCopyable {
 public:
-    using Tell = std::function<void(const EngineEvent&)>;
+    using SendEvent = std::function<void(const EngineEvent&)>;
 
     /// Null when libmpv cannot be set up.
-    [[nodiscard]] static std::unique_ptr<MpvEngine> create(Tell tell);
+    [[nodiscard]] static std::unique_ptr<MpvEngine> create(SendEvent sendEvent);
 
     ~MpvEngine();
 
@@ -32,10 +31,9 @@ public:
     void handleEvents();
 
 private:
-    MpvEngine(mpv_handle* player, Tell tell);
+    MpvEngine(mpv_handle* player, SendEvent sendEvent);
 
     void load(const LoadCommand& command);
-    void setHeld(bool isHeld);
     void stop();
 
     void handle(const mpv_event& event);
@@ -48,20 +46,18 @@ private:
     void showTitle();
     void showFailure();
     void applySound();
-    void applyHold();
+    void applyPause();
 
     [[nodiscard]] bool isPresentEntry(std::int64_t entry) const { return load_ && entry >= firstEntry_; }
-    [[nodiscard]] bool flag(const char* property) const;
-    [[nodiscard]] std::string text(const char* property) const;
 
     mpv_handle* player_;
-    Tell tell_;
+    SendEvent sendEvent_;
 
     float volume_ = 1.0F;
     bool isMuted_ = false;
-    bool isHeld_ = false;
+    bool isPaused_ = false;
 
-    /// The present load; nothing after its failure was told, and after a stop.
+    /// The present load; nothing after its failure was sent, and after a stop.
     std::optional<std::uint64_t> load_;
     /// libmpv's number of the first playlist entry of the present load; what belongs to an earlier one comes late.
     std::int64_t firstEntry_ = 0;

@@ -75,13 +75,23 @@ bool setOptions(mpv_handle* player)
         && set(player, "demuxer-lavf-o", usableProtocols) && (!hasOutput || set(player, "ao", output));
 }
 
+void subscribe(mpv_handle* player)
+{
+    mpv_request_log_messages(player, "v");
+    for (const char* property : {"core-idle", "idle-active", "metadata"})
+        mpv_observe_property(player, 0, property, MPV_FORMAT_NONE);
+    mpv_hook_add(player, 0, "on_load", 0);
+}
+
 } // namespace
 
 mpv_handle* createMpv()
 {
     mpv_handle* player = mpv_create();
-    if (player != nullptr && setOptions(player) && mpv_initialize(player) >= 0)
+    if (player != nullptr && setOptions(player) && mpv_initialize(player) >= 0) {
+        subscribe(player);
         return player;
+    }
     mpv_terminate_destroy(player);
     return nullptr;
 }

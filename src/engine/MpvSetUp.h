@@ -1,4 +1,4 @@
-// libmpv with the options of a radio.
+// libmpv with the options of a radio, and with what the engine needs to be notified of.
 #pragma once
 
 struct mpv_handle;

@@ -1,11 +1,10 @@
 #include "engine/Protocol.h"
 
-#include "base/Ascii.h"
+#include "engine/Escaping.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <utility>
 
 namespace sonavel {
 
@@ -61,51 +60,6 @@ auto valueOf(const Words& words, std::string_view word) -> std::optional<decltyp
     return found->value;
 }
 
-/// Whether a text is the last argument of its line, so that it may hold blanks.
-enum class Place { Last, Before };
-
-bool needsEscape(char character, Place place)
-{
-    return isAsciiControl(character) || character == '%' || (character == ' ' && place == Place::Before);
-}
-
-std::string escaped(std::string_view text, Place place)
-{
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string result;
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (needsEscape(character, place))
-            result.append({'%', digits[byte >> 4U], digits[byte & 0xFU]});
-        else
-            result += character;
-    }
-    return result;
-}
-
-/// Nothing when an escape is broken or the result is not valid UTF-8.
-std::optional<Text> unescaped(std::string_view text)
-{
-    std::string result;
-    while (!text.empty()) {
-        if (text.front() != '%') {
-            result += text.front();
-            text.remove_prefix(1);
-            continue;
-        }
-        unsigned byte = 0;
-        const std::string_view digits = text.substr(1, 2);
-        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
-        if (error != std::errc() || digits.size() != 2 || end != digits.data() + 2)
-            return std::nullopt;
-        result += static_cast<char>(byte);
-        text.remove_prefix(3);
-    }
-    if (!isValidUtf8(result))
-        return std::nullopt;
-    return Text(std::move(result));
-}
-
 /// Cuts the word at the head off, and the blank behind it.
 std::string_view takeWord(std::string_view& line)
 {
@@ -145,8 +99,8 @@ struct CommandLine {
         return lineOf({"load", std::to_string(command.load), escaped(command.address.view(), Place::Before),
             escaped(command.name.view(), Place::Last)});
     }
-    std::string operator()(const HoldCommand&) const { return lineOf({"hold"}); }
-    std::string operator()(const ContinueCommand&) const { return lineOf({"continue"}); }
+    std::string operator()(const PauseCommand&) const { return lineOf({"pause"}); }
+    std::string operator()(const ResumeCommand&) const { return lineOf({"resume"}); }
     std::string operator()(const StopCommand&) const { return lineOf({"stop"}); }
     std::string operator()(const VolumeCommand& command) const
     {
@@ -246,8 +200,8 @@ std::optional<EngineCommand> commandFromLine(std::string_view line)
 {
     constexpr std::array readers{
         Word{"load", &loadFrom},
-        Word{"hold", &bareFrom<HoldCommand>},
-        Word{"continue", &bareFrom<ContinueCommand>},
+        Word{"pause", &bareFrom<PauseCommand>},
+        Word{"resume", &bareFrom<ResumeCommand>},
         Word{"stop", &bareFrom<StopCommand>},
         Word{"volume", &volumeFrom},
         Word{"muted", &mutedFrom},
@@ -266,29 +220,6 @@ std::optional<EngineEvent> eventFromLine(std::string_view line)
     const auto reader = valueOf(readers, takeWord(line));
     const auto load = numberFrom<std::uint64_t>(takeWord(line));
     return reader && load ? (*reader)(*load, line) : std::nullopt;
-}
-
-void LineReader::append(std::string_view bytes)
-{
-    pending_.append(bytes);
-}
-
-std::optional<std::string> LineReader::nextLine()
-{
-    for (;;) {
-        const std::size_t end = pending_.find('\n');
-        if (end == std::string::npos) {
-            if (pending_.size() > longestLine) {
-                pending_.clear();
-                isDropping_ = true;
-            }
-            return std::nullopt;
-        }
-        std::string line = pending_.substr(0, end);
-        pending_.erase(0, end + 1);
-        if (!std::exchange(isDropping_, false) && line.size() <= longestLine)
-            return line;
-    }
 }
 
 } // namespace sonavel

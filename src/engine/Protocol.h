@@ -7,7 +7,7 @@
 //
 //   player to engine                       engine to player
 //     load ID ADDRESS NAME                   state ID STATE
-//     hold, continue, stop                   failed ID REASON
+//     pause, resume, stop                    failed ID REASON
 //     volume 0.7                             title ID TEXT
 //     muted yes|no
 //
@@ -15,6 +15,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/StreamPlayer.h"
 
 #include <cstdint>
 #include <optional>
@@ -23,26 +24,6 @@
 #include <variant>
 
 namespace sonavel {
-
-/// Why a stream does not play.
-enum class PlaybackFailure {
-    Unknown,
-    NoSuchHost,
-    Refused,
-    Unreachable,
-    TimedOut,
-    Certificate,
-    NotFound,
-    NotAllowed,
-    Rejected,
-    ServerError,
-    NotAStream,
-    NotUsable,
-    Ended,
-    Silent,
-    NoSoundOutput,
-    EngineFailed,
-};
 
 enum class StreamState {
     Connecting,
@@ -54,7 +35,7 @@ enum class StreamState {
     Playing,
 };
 
-/// Plays the stream in the place of the present one, not held.
+/// Plays the stream in the place of the present one, not paused.
 struct LoadCommand {
     std::uint64_t load = 0;
     Text address;
@@ -64,12 +45,12 @@ struct LoadCommand {
     friend bool operator==(const LoadCommand&, const LoadCommand&) = default;
 };
 
-struct HoldCommand {
-    friend bool operator==(const HoldCommand&, const HoldCommand&) = default;
+struct PauseCommand {
+    friend bool operator==(const PauseCommand&, const PauseCommand&) = default;
 };
 
-struct ContinueCommand {
-    friend bool operator==(const ContinueCommand&, const ContinueCommand&) = default;
+struct ResumeCommand {
+    friend bool operator==(const ResumeCommand&, const ResumeCommand&) = default;
 };
 
 struct StopCommand {
@@ -89,7 +70,7 @@ struct MutedCommand {
     friend bool operator==(const MutedCommand&, const MutedCommand&) = default;
 };
 
-using EngineCommand = std::variant<LoadCommand, HoldCommand, ContinueCommand, StopCommand, VolumeCommand, MutedCommand>;
+using EngineCommand = std::variant<LoadCommand, PauseCommand, ResumeCommand, StopCommand, VolumeCommand, MutedCommand>;
 
 /// The first one of a load says that the engine has let go of the former load and begun with this one.
 struct StateEvent {
@@ -124,21 +105,5 @@ using EngineEvent = std::variant<StateEvent, FailedEvent, TitleEvent>;
 /// Reads a line without its line feed; nothing when it is not one.
 [[nodiscard]] std::optional<EngineCommand> commandFromLine(std::string_view line);
 [[nodiscard]] std::optional<EngineEvent> eventFromLine(std::string_view line);
-
-/// Cuts a stream of bytes into lines, whatever pieces it comes in. A line of more than `longestLine` bytes is dropped,
-/// and no more than that is ever kept.
-class LineReader {
-public:
-    /// Holds the longest address and the longest name with every byte of them escaped.
-    static constexpr std::size_t longestLine = 32768;
-
-    /// Takes the bytes over; then `nextLine` gives the lines that they end.
-    void append(std::string_view bytes);
-    [[nodiscard]] std::optional<std::string> nextLine();
-
-private:
-    std::string pending_;
-    bool isDropping_ = false;
-};
 
 } // namespace sonavel

@@ -2,6 +2,7 @@
 // ends when that socket closes.
 
 #include "engine/Confinement.h"
+#include "engine/LineReader.h"
 #include "engine/MpvEngine.h"
 #include "engine/Protocol.h"
 
@@ -25,7 +26,7 @@ using namespace sonavel;
 constexpr int playerSocket = STDIN_FILENO;
 
 /// Ends the process when the player does not take it: then nobody is there any more.
-void tellPlayer(const EngineEvent& event)
+void sendEvent(const EngineEvent& event)
 {
     const std::string line = lineFromEvent(event);
     for (std::size_t sent = 0; sent < line.size();) {
@@ -37,7 +38,7 @@ void tellPlayer(const EngineEvent& event)
 }
 
 /// Whether the player is still there.
-bool obeyPlayer(MpvEngine& engine, LineReader& lines)
+bool handleCommands(MpvEngine& engine, LineReader& lines)
 {
     std::array<char, 4096> bytes{};
     const ssize_t count = recv(playerSocket, bytes.data(), bytes.size(), 0);
@@ -61,7 +62,7 @@ void run(MpvEngine& engine)
             std::array<char, 256> wakeUps{};
             (void)!read(sources[1].fd, wakeUps.data(), wakeUps.size());
         }
-        if (sources[0].revents != 0 && !obeyPlayer(engine, lines))
+        if (sources[0].revents != 0 && !handleCommands(engine, lines))
             return;
         engine.handleEvents();
     }
@@ -77,10 +78,10 @@ int main()
     (void)mallopt(M_ARENA_MAX, 1);
     // Otherwise it would rise with the first large buffer that is freed, and large buffers would stay with the process.
     (void)mallopt(M_MMAP_THRESHOLD, 256 * 1024);
-    if (confineThisProcess() == Confinement::NotSupported)
+    if (enterSandbox() == Confinement::NotSupported)
         (void)std::fputs("sonavel-engine: this system cannot confine it, so it plays unconfined\n", stderr);
     (void)std::setlocale(LC_NUMERIC, "C");
-    const auto engine = MpvEngine::create(tellPlayer);
+    const auto engine = MpvEngine::create(sendEvent);
     if (engine == nullptr) {
         (void)std::fputs("sonavel-engine: libmpv cannot be set up\n", stderr);
         return EXIT_FAILURE;

@@ -1,7 +1,7 @@
 #include "qt/Program.h"
 
-#include "adapters/EngineProcess.h"
 #include "adapters/SystemClock.h"
+#include "adapters/engineclient/EngineProcess.h"
 #include "adapters/files/PlistPreferenceDomains.h"
 #include "adapters/files/PosixFiles.h"
 #include "adapters/files/SingleInstance.h"
@@ -13,7 +13,7 @@
 #include "qt/ProgramWindows.h"
 #include "qt/SaveFailure.h"
 #include "qt/binders/OutletConnector.h"
-#include "qt/desktop/AwakeningSignals.h"
+#include "qt/desktop/ConnectivityMonitor.h"
 #include "qt/desktop/MediaPlayerBus.h"
 #include "qt/desktop/Session.h"
 #include "qt/desktop/TerminationSignals.h"
@@ -66,11 +66,11 @@ DataServerSettings serverSettings(const Settings& settings)
     return server;
 }
 
-MainWindow::Emphasis emphasisOf(NowPlaying::State state)
+MainWindow::Emphasis emphasisOf(StreamReport::State state)
 {
-    if (state == NowPlaying::State::Reconnecting)
+    if (state == StreamReport::State::Reconnecting)
         return MainWindow::Emphasis::Failure;
-    return state == NowPlaying::State::Playing ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded;
+    return state == StreamReport::State::Playing ? MainWindow::Emphasis::Usual : MainWindow::Emphasis::Faded;
 }
 
 } // namespace
@@ -148,7 +148,7 @@ struct Program::Parts {
     std::unique_ptr<TerminationSignals> terminationSignals;
     std::unique_ptr<SessionEnd> sessionEnd;
     std::unique_ptr<MediaPlayerBus> mediaPlayerBus;
-    std::unique_ptr<AwakeningSignals> awakeningSignals;
+    std::unique_ptr<ConnectivityMonitor> connectivityMonitor;
 };
 
 std::unique_ptr<Program> Program::create(Settings settings, std::unique_ptr<SingleInstance> instance, QString& whyNot)
@@ -202,7 +202,7 @@ void Program::start(std::function<void()> whenVisible)
     parts_->isInitialized = true;
     parts_->windows.connectMainWindow();
     parts_->appDelegate.window = &parts_->controls.main.winSonavel;
-    parts_->engine.setNowPlayingObserver([this](const NowPlaying& nowPlaying) { showNowPlaying(nowPlaying); });
+    parts_->controller.streamStatus.addObserver([this] { showNowPlaying(); });
     afterFirstPaint(parts_->windows.mainWindow(), [this, whenVisible = std::move(whenVisible)] {
         parts_->engine.start();
         parts_->windows.buildOtherWindows();
@@ -219,16 +219,16 @@ void Program::joinDesktop()
 {
     parts_->mediaPlayerBus = std::make_unique<MediaPlayerBus>(parts_->controller.mediaControls);
     parts_->controller.actions.setObserver([this] { parts_->mediaPlayerBus->update(); });
-    parts_->awakeningSignals = std::make_unique<AwakeningSignals>([this] { parts_->engine.renewAtOnce(); });
+    parts_->controller.streamStatus.addObserver([this] { parts_->mediaPlayerBus->updateLater(); });
+    parts_->connectivityMonitor = std::make_unique<ConnectivityMonitor>([this] { parts_->engine.reconnectNow(); });
     if (parts_->instance)
         parts_->instance->onActivated(parts_->eventLoop, [this] { parts_->controller.mediaControls.raise(); });
 }
 
-void Program::showNowPlaying(const NowPlaying& nowPlaying)
+void Program::showNowPlaying()
 {
-    parts_->windows.mainWindow().showNowPlaying(nowPlayingText(nowPlaying), emphasisOf(nowPlaying.state));
-    if (parts_->mediaPlayerBus)
-        parts_->mediaPlayerBus->setTitle(onOneLine(toQString(nowPlaying.title)));
+    const StreamReport& report = parts_->controller.streamStatus.report();
+    parts_->windows.mainWindow().showNowPlaying(nowPlayingText(report), emphasisOf(report.state));
 }
 
 /// Only before there is a window; the main window stays painted by itself.

@@ -10,7 +10,6 @@
 namespace sonavel {
 
 class SingleInstance;
-struct NowPlaying;
 
 /// How it is started: make it after the application object, then `start`, then run the application's loop. It is never
 /// taken apart: the program ends through its process.
@@ -33,7 +32,7 @@ private:
     explicit Program(std::unique_ptr<Parts> parts);
 
     void joinDesktop();
-    void showNowPlaying(const NowPlaying& nowPlaying);
+    void showNowPlaying();
     void showWaiting(const QString& host);
     void keepWhatIsOpen();
     void endAsTheSessionDoes();

@@ -1,5 +1,6 @@
 #include "engine/Protocol.h"
 
+#include "engine/LineReader.h"
 #include "engine/StreamTitle.h"
 #include "playback/StreamAddress.h"
 
@@ -55,7 +56,7 @@ TEST(Protocol, LinesThatAreNotOfTheProtocolAreIgnored)
 {
     for (const char* line : {"", " ", "load", "loud 1 http://a/", "load -1 http://a/", "load 1x http://a/",
              "load 18446744073709551616 http://a/", "load 1 http://a/%4", "load 1 http://a/%zz", "load 1 http://a/% 1",
-             "load 1 http://a/%FF", "load 1 \xFF", "load 1 http://a/ %4", "load 1 http://a/ \xFF", "stop now", " hold",
+             "load 1 http://a/%FF", "load 1 \xFF", "load 1 http://a/ %4", "load 1 http://a/ \xFF", "stop now", " pause",
              "HOLD", "volume", "volume 1.1", "volume -0.1", "volume nan", "volume inf", "volume 0,5", "volume 0.5 ",
              "volume 1e99", "muted", "muted maybe", "muted yes no"})
         EXPECT_FALSE(commandFromLine(line).has_value()) << line;
@@ -66,7 +67,7 @@ TEST(Protocol, LinesThatAreNotOfTheProtocolAreIgnored)
 
 TEST(Protocol, LinesComeOutWholeWhateverPiecesTheyComeIn)
 {
-    const std::string bytes = "hold\n\nstop\n" + std::string(LineReader::longestLine, 'x') + "\ncontinue\n";
+    const std::string bytes = "pause\n\nstop\n" + std::string(LineReader::maxLine, 'x') + "\nresume\n";
     for (const std::size_t piece : {std::size_t{1}, std::size_t{5}, std::size_t{4096}, bytes.size()}) {
         LineReader reader;
         std::vector<std::string> lines;
@@ -75,8 +76,8 @@ TEST(Protocol, LinesComeOutWholeWhateverPiecesTheyComeIn)
             while (const auto line = reader.nextLine())
                 lines.push_back(*line);
         }
-        EXPECT_EQ(lines,
-            (std::vector<std::string>{"hold", "", "stop", std::string(LineReader::longestLine, 'x'), "continue"}));
+        EXPECT_EQ(
+            lines, (std::vector<std::string>{"pause", "", "stop", std::string(LineReader::maxLine, 'x'), "resume"}));
     }
 }
 
@@ -87,8 +88,8 @@ TEST(Protocol, ALineThatNeverEndsIsDroppedAndTheNextOneIsRead)
         reader.append(std::string(4096, 'x'));
         ASSERT_FALSE(reader.nextLine().has_value());
     }
-    reader.append("the rest of it\nhold\n");
-    EXPECT_EQ(reader.nextLine(), "hold");
+    reader.append("the rest of it\npause\n");
+    EXPECT_EQ(reader.nextLine(), "pause");
 }
 
 TEST(Protocol, TheLongestAddressAndNameFitALine)

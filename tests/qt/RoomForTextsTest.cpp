@@ -1,5 +1,5 @@
 // Whether every text has room in its control, in every language.
-#include "adapters/NowPlaying.h"
+#include "platform/StreamPlayer.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/ElidedLabel.h"
 #include "qt/kit/StationComboBox.h"
@@ -173,8 +173,8 @@ TEST_P(RoomForTextsTest, IsThereForWhyAStreamCannotBePlayed)
     const auto* line = main.findChild<ElidedLabel*>(QStringLiteral("labelNowPlaying"));
     main.showNowPlaying({}, MainWindow::Emphasis::Failure);
     for (int failure = 0; failure <= static_cast<int>(PlaybackFailure::EngineFailed); ++failure) {
-        const QString text = nowPlayingText(
-            {NowPlaying::State::Reconnecting, Text(), static_cast<PlaybackFailure>(failure), std::chrono::seconds(30)});
+        const QString text = nowPlayingText({StreamReport::State::Reconnecting, Text(),
+            static_cast<PlaybackFailure>(failure), std::chrono::seconds(30)});
         EXPECT_FALSE(text.contains(QStringLiteral("FAILURE_"))) << text.toStdString();
         EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->textArea().width())
             << GetParam() << ": " << text.toStdString();

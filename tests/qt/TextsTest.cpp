@@ -1,6 +1,6 @@
 // What the windows say of streams, files and names from outside.
 #include "UserInput.h"
-#include "adapters/NowPlaying.h"
+#include "platform/StreamPlayer.h"
 #include "qt/SaveFailure.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/kit/WrappedText.h"
@@ -19,11 +19,11 @@ namespace {
 
 TEST(NowPlayingLine, SaysWhatTheListenerWantsToKnow)
 {
-    using State = NowPlaying::State;
+    using State = StreamReport::State;
     using Failure = PlaybackFailure;
     using std::chrono::seconds;
     const struct {
-        NowPlaying nowPlaying;
+        StreamReport report;
         const char* line;
     } cases[] = {
         {{}, "Not playing"},
@@ -32,16 +32,16 @@ TEST(NowPlayingLine, SaysWhatTheListenerWantsToKnow)
         {{State::Playing, {}, {}, {}}, "Playing"},
         {{State::Playing, "", {}, {}}, "Playing"},
         {{State::Playing, "Ann & Bob – <i>%li</i>\nLive", {}, {}}, "Ann & Bob – <i>%li</i> Live"},
-        {{State::Held, "Song", {}, {}}, "Song"},
-        {{State::Held, {}, {}, {}}, "Paused"},
+        {{State::Paused, "Song", {}, {}}, "Song"},
+        {{State::Paused, {}, {}, {}}, "Paused"},
         {{State::Reconnecting, "Song", Failure::Ended, seconds(8)}, "Stream ended. Trying again in 8 s"},
         {{State::Reconnecting, {}, Failure::TimedOut, seconds(4)}, "No answer. Trying again in 4 s"},
         {{State::Reconnecting, {}, Failure::TimedOut, seconds(0)}, "No answer. Trying again…"},
         {{State::Reconnecting, {}, Failure::NotFound, seconds(1)}, "404 Not Found. Trying again in 1 s"},
         {{State::Reconnecting, {}, Failure::NotAStream, seconds(1)}, "Not a stream. Trying again in 1 s"},
     };
-    for (const auto& [nowPlaying, line] : cases)
-        EXPECT_EQ(nowPlayingText(nowPlaying).toStdString(), line);
+    for (const auto& [report, line] : cases)
+        EXPECT_EQ(nowPlayingText(report).toStdString(), line);
 }
 
 TEST(SaveFailures, NameWhatIsNotSavedAndWhy)

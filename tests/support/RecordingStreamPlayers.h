@@ -29,6 +29,10 @@ public:
     /// Every player that was made, in order.
     std::vector<std::shared_ptr<RecordedPlayer>> players;
 
+    /// Reports the stream's status.
+    Observer report;
+    void setObserver(Observer observer) override { report = std::move(observer); }
+
     [[nodiscard]] RecordedPlayer& last() const { return *players.back(); }
 
     std::unique_ptr<StreamPlayer> playerWithPlayerItem(std::shared_ptr<const PlayerItem> item) override

@@ -29,62 +29,61 @@ QString nameOf(MediaState::Status status)
 
 } // namespace
 
-MediaPlayerRoot::MediaPlayerRoot(MediaControls& controls, QObject& object)
+MprisRootAdaptor::MprisRootAdaptor(MediaControls& controls, QObject& object)
     : QDBusAbstractAdaptor(&object)
     , controls_(controls)
 {
 }
 
-QString MediaPlayerRoot::identity()
+QString MprisRootAdaptor::identity()
 {
     return QStringLiteral("Sonavel");
 }
 
-QString MediaPlayerRoot::desktopEntry()
+QString MprisRootAdaptor::desktopEntry()
 {
     return QStringLiteral("sonavel");
 }
 
 /// Whoever calls it waits for an answer, and must not wait for that of the question.
-void MediaPlayerRoot::Quit()
+void MprisRootAdaptor::Quit()
 {
     QMetaObject::invokeMethod(
         this, [this] { controls_.quit(); }, Qt::QueuedConnection);
 }
 
-MediaPlayerPlayer::MediaPlayerPlayer(MediaControls& controls, QObject& object)
+MprisPlayerAdaptor::MprisPlayerAdaptor(MediaControls& controls, QObject& object)
     : QDBusAbstractAdaptor(&object)
     , controls_(controls)
     , state_(controls.state())
-    , told_(changingProperties())
+    , sent_(changingProperties())
 {
 }
 
-void MediaPlayerPlayer::setTitle(const QString& title)
+void MprisPlayerAdaptor::updateLater()
 {
-    title_ = title;
-    QMetaObject::invokeMethod(this, &MediaPlayerPlayer::update, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &MprisPlayerAdaptor::update, Qt::QueuedConnection);
 }
 
-void MediaPlayerPlayer::update()
+void MprisPlayerAdaptor::update()
 {
     state_ = controls_.state();
     const QVariantMap present = changingProperties();
     QVariantMap changes;
     for (auto property = present.begin(); property != present.end(); ++property) {
-        if (told_.value(property.key()) != property.value())
+        if (sent_.value(property.key()) != property.value())
             changes.insert(property.key(), property.value());
     }
     if (changes.isEmpty())
         return;
-    told_ = present;
+    sent_ = present;
     QDBusMessage signal = QDBusMessage::createSignal(
         objectPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
     signal << QStringLiteral("org.mpris.MediaPlayer2.Player") << changes << QStringList();
     QDBusConnection::sessionBus().send(signal);
 }
 
-QVariantMap MediaPlayerPlayer::changingProperties() const
+QVariantMap MprisPlayerAdaptor::changingProperties() const
 {
     return {{QStringLiteral("PlaybackStatus"), playbackStatus()}, {QStringLiteral("Metadata"), metadata()},
         {QStringLiteral("Volume"), volume()}, {QStringLiteral("CanGoNext"), canStep()},
@@ -92,31 +91,32 @@ QVariantMap MediaPlayerPlayer::changingProperties() const
         {QStringLiteral("CanPause"), canPlay()}};
 }
 
-QString MediaPlayerPlayer::playbackStatus() const
+QString MprisPlayerAdaptor::playbackStatus() const
 {
     return nameOf(state_.status);
 }
 
 /// Panels show the title large; while the stream has none, the station stands there.
-QVariantMap MediaPlayerPlayer::metadata() const
+QVariantMap MprisPlayerAdaptor::metadata() const
 {
     const QString trackKey = QStringLiteral("mpris:trackid");
     if (state_.stream == 0)
         return {{trackKey, QVariant::fromValue(QDBusObjectPath(noTrack))}};
     const QString station = onOneLine(toQString(state_.station));
+    const QString title = onOneLine(toQString(state_.title));
     const QString track = QStringLiteral("/org/mpris/MediaPlayer2/stream/%1").arg(state_.stream);
     QVariantMap metadata{{trackKey, QVariant::fromValue(QDBusObjectPath(track))},
-        {QStringLiteral("xesam:title"), title_.isEmpty() ? station : title_},
+        {QStringLiteral("xesam:title"), title.isEmpty() ? station : title},
         {QStringLiteral("xesam:url"), toQString(state_.address)}};
-    if (!title_.isEmpty())
+    if (!title.isEmpty())
         metadata.insert(QStringLiteral("xesam:album"), station);
     return metadata;
 }
 
 MediaPlayerBus::MediaPlayerBus(MediaControls& controls)
-    : player_(new MediaPlayerPlayer(controls, *this))
+    : player_(new MprisPlayerAdaptor(controls, *this))
 {
-    new MediaPlayerRoot(controls, *this);
+    new MprisRootAdaptor(controls, *this);
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.registerObject(objectPath, this);
     if (!bus.registerService(serviceName))

@@ -11,7 +11,7 @@
 namespace sonavel {
 
 /// What concerns the program as a whole.
-class MediaPlayerRoot : public QDBusAbstractAdaptor {
+class MprisRootAdaptor : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.mpris.MediaPlayer2")
     Q_PROPERTY(bool CanQuit READ canQuit)
@@ -23,7 +23,7 @@ class MediaPlayerRoot : public QDBusAbstractAdaptor {
     Q_PROPERTY(QStringList SupportedMimeTypes READ supportedMimeTypes)
 
 public:
-    MediaPlayerRoot(MediaControls& controls, QObject& object);
+    MprisRootAdaptor(MediaControls& controls, QObject& object);
 
     [[nodiscard]] static bool canQuit() { return true; }
     [[nodiscard]] static bool canRaise() { return true; }
@@ -42,7 +42,7 @@ private:
 };
 
 /// What concerns the stream. A radio stream has no position to seek and one speed.
-class MediaPlayerPlayer : public QDBusAbstractAdaptor {
+class MprisPlayerAdaptor : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.mpris.MediaPlayer2.Player")
     Q_PROPERTY(QString PlaybackStatus READ playbackStatus)
@@ -60,13 +60,12 @@ class MediaPlayerPlayer : public QDBusAbstractAdaptor {
     Q_PROPERTY(bool CanControl READ canControl)
 
 public:
-    MediaPlayerPlayer(MediaControls& controls, QObject& object);
+    MprisPlayerAdaptor(MediaControls& controls, QObject& object);
 
-    /// What the stream calls what is on air; empty when it says nothing. It may come in the middle of an action, and
-    /// is told after it.
-    void setTitle(const QString& title);
-    /// Tells the bus what has changed since the last call.
+    /// Sends the properties that have changed since the last call to the bus.
     void update();
+    /// The same once the present action has ended.
+    void updateLater();
 
     [[nodiscard]] QString playbackStatus() const;
     [[nodiscard]] static double rate() { return 1.0; }
@@ -99,8 +98,7 @@ private:
 
     MediaControls& controls_;
     MediaState state_;
-    QString title_;
-    QVariantMap told_;
+    QVariantMap sent_;
 };
 
 /// Both of them, under the name "org.mpris.MediaPlayer2.sonavel", or one with the process's number behind it where that
@@ -109,11 +107,11 @@ class MediaPlayerBus : public QObject {
 public:
     explicit MediaPlayerBus(MediaControls& controls);
 
-    void setTitle(const QString& title) { player_->setTitle(title); }
     void update() { player_->update(); }
+    void updateLater() { player_->updateLater(); }
 
 private:
-    MediaPlayerPlayer* player_;
+    MprisPlayerAdaptor* player_;
 };
 
 } // namespace sonavel

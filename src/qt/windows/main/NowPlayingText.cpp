@@ -1,6 +1,6 @@
 #include "qt/windows/main/NowPlayingText.h"
 
-#include "adapters/NowPlaying.h"
+#include "platform/StreamPlayer.h"
 #include "qt/kit/TextConversion.h"
 
 namespace sonavel {
@@ -51,30 +51,30 @@ QString titleOr(const char* key, const Text& title)
     return title.isEmpty() ? qtTrId(key) : onOneLine(toQString(title));
 }
 
-QString brokenText(const NowPlaying& nowPlaying)
+QString brokenText(const StreamReport& report)
 {
-    const auto seconds = nowPlaying.reconnectIn.count();
+    const auto seconds = report.reconnectIn.count();
     QString text = seconds > 0 ? qtTrId("NOW_PLAYING_TRYING_IN") : qtTrId("NOW_PLAYING_TRYING");
     text.replace(QStringLiteral("%li"), QString::number(seconds));
-    return text.replace(QStringLiteral("%@"), qtTrId(keyOf(nowPlaying.failure)));
+    return text.replace(QStringLiteral("%@"), qtTrId(keyOf(report.failure)));
 }
 
 } // namespace
 
-QString nowPlayingText(const NowPlaying& nowPlaying)
+QString nowPlayingText(const StreamReport& report)
 {
-    switch (nowPlaying.state) {
-    case NowPlaying::State::Connecting:
+    switch (report.state) {
+    case StreamReport::State::Connecting:
         return qtTrId("NOW_PLAYING_CONNECTING");
-    case NowPlaying::State::Buffering:
+    case StreamReport::State::Buffering:
         return qtTrId("NOW_PLAYING_BUFFERING");
-    case NowPlaying::State::Playing:
-        return titleOr("NOW_PLAYING_UNTITLED", nowPlaying.title);
-    case NowPlaying::State::Held:
-        return titleOr("NOW_PLAYING_HELD", nowPlaying.title);
-    case NowPlaying::State::Reconnecting:
-        return brokenText(nowPlaying);
-    case NowPlaying::State::Nothing:
+    case StreamReport::State::Playing:
+        return titleOr("NOW_PLAYING_UNTITLED", report.title);
+    case StreamReport::State::Paused:
+        return titleOr("NOW_PLAYING_PAUSED", report.title);
+    case StreamReport::State::Reconnecting:
+        return brokenText(report);
+    case StreamReport::State::Nothing:
         break;
     }
     return qtTrId("NOW_PLAYING_NOTHING");

@@ -5,9 +5,9 @@
 
 namespace sonavel {
 
-struct NowPlaying;
+struct StreamReport;
 
 /// One line in the user's language: the stream's title, or what keeps it from sounding, in a few words.
-[[nodiscard]] QString nowPlayingText(const NowPlaying& nowPlaying);
+[[nodiscard]] QString nowPlayingText(const StreamReport& report);
 
 } // namespace sonavel

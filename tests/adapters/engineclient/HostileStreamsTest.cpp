@@ -1,4 +1,4 @@
-#include "engine/EngineProcessFixture.h"
+#include "adapters/engineclient/EngineProcessFixture.h"
 #include "support/SelfSignedTls.h"
 
 #include <csignal>
@@ -114,8 +114,8 @@ TEST_F(HostileStreams, APlaylistLeadsToItsStream)
 
 TEST_F(HostileStreams, AStreamThatNeverComesToItsSoundIsGivenUp)
 {
-    StreamSupervisor::Limits limits = shortDelays;
-    limits.opening = 500ms;
+    ReconnectPolicy::Limits limits = shortDelays;
+    limits.connectTimeout = 500ms;
     use(limits);
     const ScriptedServer endlessHead([](ScriptedServer::Connection& connection) {
         connection.send("HTTP/1.0 200 OK\r\n");
@@ -127,7 +127,7 @@ TEST_F(HostileStreams, AStreamThatNeverComesToItsSoundIsGivenUp)
         play(address);
         EXPECT_TRUE(failsWith(PlaybackFailure::TimedOut)) << address;
     }
-    limits.opening = 3s;
+    limits.connectTimeout = 3s;
     use(limits);
     const ScriptedServer noise([](ScriptedServer::Connection& connection) {
         connection.readRequestHead();

@@ -1,4 +1,4 @@
-#include "engine/EngineProcessFixture.h"
+#include "adapters/engineclient/EngineProcessFixture.h"
 
 #include <sys/wait.h>
 
@@ -59,7 +59,7 @@ TEST_F(EngineFaults, AnEngineThatReplacesAStuckOneIsHeldAsItsStreamIs)
     ASSERT_TRUE(loop_.runUntil([&] { return shown_.title == Text("Song"); }));
     EXPECT_NE(children().back(), stuck);
     loop_.runFor(500ms);
-    EXPECT_EQ(shown_.state, State::Held);
+    EXPECT_EQ(shown_.state, State::Paused);
     player_->play();
     EXPECT_EQ(shown_.state, State::Connecting) << "it sounded while it was held";
     EXPECT_TRUE(comesTo(State::Playing));
@@ -89,8 +89,8 @@ TEST_F(EngineFaults, TheTimersOfAPlayerThatIsGoneAreGoneWithIt)
 TEST_F(EngineFaults, AnEngineThatCannotBeStartedOrEndsAtOnceIsAFailureAndNothingWorse)
 {
     for (const char* program : {"/nowhere/sonavel-engine", "/", "/bin/true", "/bin/cat"}) {
-        StreamSupervisor::Limits limits = shortDelays;
-        limits.opening = 300ms;
+        ReconnectPolicy::Limits limits = shortDelays;
+        limits.connectTimeout = 300ms;
         use(limits, program);
         engine_->start();
         play("http://127.0.0.1:1/");

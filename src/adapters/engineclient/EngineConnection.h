@@ -3,6 +3,7 @@
 
 #include "adapters/EventLoop.h"
 #include "base/NonCopyable.h"
+#include "engine/LineReader.h"
 #include "engine/Protocol.h"
 
 #include <sys/types.h>

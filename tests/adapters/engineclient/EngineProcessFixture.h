@@ -1,7 +1,7 @@
 // The engine program, the players that it serves and what they tell.
 #pragma once
 
-#include "adapters/EngineProcess.h"
+#include "adapters/engineclient/EngineProcess.h"
 #include "platform/NotificationCenter.h"
 #include "support/PollEventLoop.h"
 #include "support/ToneStream.h"
@@ -17,12 +17,12 @@
 namespace sonavel::test {
 
 /// Delays that a test need not wait for.
-inline constexpr StreamSupervisor::Limits shortDelays{
-    .shortestDelay = std::chrono::milliseconds(20), .longestDelay = std::chrono::milliseconds(100)};
+inline constexpr ReconnectPolicy::Limits shortDelays{
+    .initialBackoff = std::chrono::milliseconds(20), .maxBackoff = std::chrono::milliseconds(100)};
 
 class EngineProcessTest : public ::testing::Test {
 protected:
-    using State = NowPlaying::State;
+    using State = StreamReport::State;
 
     EngineProcessTest()
     {
@@ -35,11 +35,11 @@ protected:
     ~EngineProcessTest() override { player_.reset(); }
 
     /// Begins anew with another engine.
-    void use(const StreamSupervisor::Limits& limits, const std::string& program = SONAVEL_ENGINE)
+    void use(const ReconnectPolicy::Limits& limits, const std::string& program = SONAVEL_ENGINE)
     {
         player_.reset();
         engine_.emplace(loop_, notifications_, program, limits);
-        engine_->setNowPlayingObserver([this](const NowPlaying& shown) {
+        engine_->setObserver([this](const StreamReport& shown) {
             shown_ = shown;
             states_.insert(shown.state);
             if (shown.state == State::Reconnecting)
@@ -85,7 +85,7 @@ protected:
     NotificationCenter notifications_;
     int stalls_ = 0;
     int errors_ = 0;
-    NowPlaying shown_;
+    StreamReport shown_;
     std::optional<PlaybackFailure> lastFailure_;
     /// Those of the present player.
     std::set<State> states_;

@@ -8,11 +8,11 @@
 namespace sonavel {
 
 /// Listens on the system's message bus to the login manager and the network manager, as far as they are there.
-class AwakeningSignals : public QObject {
+class ConnectivityMonitor : public QObject {
     Q_OBJECT
 
 public:
-    explicit AwakeningSignals(std::function<void()> awakened);
+    explicit ConnectivityMonitor(std::function<void()> awakened);
 
 private slots:
     void preparingForSleep(bool isAboutToSleep);

@@ -1,4 +1,4 @@
-#include "adapters/EngineConnection.h"
+#include "adapters/engineclient/EngineConnection.h"
 
 #include <fcntl.h>
 #include <spawn.h>

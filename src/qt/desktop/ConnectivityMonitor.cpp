@@ -1,4 +1,4 @@
-#include "qt/desktop/AwakeningSignals.h"
+#include "qt/desktop/ConnectivityMonitor.h"
 
 #include <QDBusConnection>
 
@@ -13,7 +13,7 @@ constexpr uint connectedToSite = 60;
 
 } // namespace
 
-AwakeningSignals::AwakeningSignals(std::function<void()> awakened)
+ConnectivityMonitor::ConnectivityMonitor(std::function<void()> awakened)
     : awakened_(std::move(awakened))
 {
     QDBusConnection bus = QDBusConnection::systemBus();
@@ -25,13 +25,13 @@ AwakeningSignals::AwakeningSignals(std::function<void()> awakened)
         SLOT(networkChanged(uint)));
 }
 
-void AwakeningSignals::preparingForSleep(bool isAboutToSleep)
+void ConnectivityMonitor::preparingForSleep(bool isAboutToSleep)
 {
     if (!isAboutToSleep)
         awakened_();
 }
 
-void AwakeningSignals::networkChanged(uint state)
+void ConnectivityMonitor::networkChanged(uint state)
 {
     const bool wasConnected = std::exchange(isConnected_, state >= connectedToSite);
     if (isConnected_ && !wasConnected)

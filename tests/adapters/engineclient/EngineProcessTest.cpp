@@ -1,4 +1,4 @@
-#include "engine/EngineProcessFixture.h"
+#include "adapters/engineclient/EngineProcessFixture.h"
 #include "support/TemporaryFolder.h"
 
 namespace sonavel::test {
@@ -23,8 +23,8 @@ TEST_F(EngineProcessTest, AStreamThatEndsIsOpenedAgain)
 
 TEST_F(EngineProcessTest, AStreamThatFallsSilentOnAnOpenConnectionIsOpenedAgain)
 {
-    StreamSupervisor::Limits limits = shortDelays;
-    limits.silence = 500ms;
+    ReconnectPolicy::Limits limits = shortDelays;
+    limits.stallTimeout = 500ms;
     use(limits);
     std::atomic<int> count = 0;
     const ScriptedServer server([&](ScriptedServer::Connection& connection) {
@@ -41,16 +41,16 @@ TEST_F(EngineProcessTest, AStreamThatFallsSilentOnAnOpenConnectionIsOpenedAgain)
 
 TEST_F(EngineProcessTest, AShortHoldGoesOnAndALongOneIsOpenedAgain)
 {
-    StreamSupervisor::Limits limits = shortDelays;
-    limits.hold = 1s;
-    limits.silence = 1500ms;
+    ReconnectPolicy::Limits limits = shortDelays;
+    limits.maxPause = 1s;
+    limits.stallTimeout = 1500ms;
     use(limits);
     const ScriptedServer server(playTone);
     play(server.address());
     ASSERT_TRUE(comesTo(State::Playing));
 
     player_->pause();
-    EXPECT_EQ(shown_.state, State::Held);
+    EXPECT_EQ(shown_.state, State::Paused);
     player_->play();
     loop_.runFor(1800ms);
     EXPECT_TRUE(comesTo(State::Playing));
@@ -58,7 +58,7 @@ TEST_F(EngineProcessTest, AShortHoldGoesOnAndALongOneIsOpenedAgain)
 
     player_->pause();
     loop_.runFor(1200ms);
-    EXPECT_EQ(shown_.state, State::Held);
+    EXPECT_EQ(shown_.state, State::Paused);
     player_->play();
     EXPECT_TRUE(loop_.runUntil([&] { return server.connectionCount() == 2; }));
     EXPECT_TRUE(comesTo(State::Playing));
@@ -71,7 +71,7 @@ TEST_F(EngineProcessTest, AHeldStreamThatBreaksStaysHeldUntilItIsContinued)
     ASSERT_TRUE(comesTo(State::Playing));
     player_->pause();
     loop_.runFor(500ms);
-    EXPECT_EQ(shown_.state, State::Held);
+    EXPECT_EQ(shown_.state, State::Paused);
     EXPECT_EQ(server.connectionCount(), 1);
     player_->play();
     EXPECT_TRUE(comesTo(State::Playing));
@@ -117,8 +117,8 @@ private:
 TEST_F(EngineProcessTest, AStreamThatIsRecognisedCountsAsConnectingUntilItIsGivenUpAsSilent)
 {
     const ListeningEngine engine("state 1 recognised");
-    StreamSupervisor::Limits limits = shortDelays;
-    limits.opening = 1s;
+    ReconnectPolicy::Limits limits = shortDelays;
+    limits.connectTimeout = 1s;
     use(limits, engine.program());
     play("http://radio.example/");
     EXPECT_TRUE(failsWith(PlaybackFailure::Silent));
