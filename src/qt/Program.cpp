@@ -10,6 +10,7 @@
 #include "app/Ports.h"
 #include "app/WinSonavelController.h"
 #include "platform/NotificationCenter.h"
+#include "qt/LaunchResources.h"
 #include "qt/ProgramWindows.h"
 #include "qt/SaveFailure.h"
 #include "qt/binders/OutletConnector.h"
@@ -31,12 +32,10 @@
 #include "qt/windows/main/MainWindow.h"
 #include "qt/windows/main/NowPlayingText.h"
 #include "qt/windows/splash/SplashScreen.h"
-#include "server/DataServer.h"
 #include "ui/Controls.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QUrl>
 
 namespace sonavel {
@@ -52,18 +51,9 @@ std::string enginePath()
     return (QFile::exists(beside) ? beside : installed).toStdString();
 }
 
-QLocale localeOf(const Settings& settings)
+QLocale localeOf(const LaunchOptions& options)
 {
-    return settings.language.isEmpty() ? QLocale::system() : QLocale(settings.language);
-}
-
-DataServerSettings serverSettings(const Settings& settings)
-{
-    DataServerSettings server;
-    server.content = settings.isDemo ? DataServerSettings::Content::Demo : DataServerSettings::Content::Starter;
-    if (settings.offersUpdate)
-        server.offer = DataServerSettings::Offer::NewerVersion;
-    return server;
+    return options.language.isEmpty() ? QLocale::system() : QLocale(options.language);
 }
 
 MainWindow::Emphasis emphasisOf(StreamReport::State state)
@@ -77,23 +67,21 @@ MainWindow::Emphasis emphasisOf(StreamReport::State state)
 
 /// In the order of their dependence.
 struct Program::Parts {
-    Parts(const Settings& settings, std::unique_ptr<SingleInstance> claim, std::unique_ptr<QTemporaryDir> temporaryHome,
-        std::unique_ptr<DataServer> server)
+    Parts(const LaunchOptions& options, LaunchResources provided, std::unique_ptr<SingleInstance> claim)
         : instance(std::move(claim))
-        , throwAwayHome(std::move(temporaryHome))
-        , dataServer(std::move(server))
-        , filePanels(alerts, throwAwayHome ? throwAwayHome->path() : QString())
-        , strings(localeOf(settings))
-        , files(toText(settings.home))
+        , resources(std::move(provided))
+        , filePanels(alerts, resources.temporaryHome ? resources.temporaryHome->path() : QString())
+        , strings(localeOf(options))
+        , files(toText(options.home))
         , preferenceDomains(files)
         , curl(programBundle().shortVersion)
         , httpClient(curl)
         , engine(eventLoop, notificationCenter, enginePath())
-        , controller(ports(), {toText(settings.dataServer), toText(settings.probe)}, controls)
+        , controller(ports(), {toText(options.dataServer), toText(options.probe)}, controls)
         , windows(
               controls, controller.actions,
               [this](const Text& path) { controller.stationImport.importRadioListFromFileAtPath(path); },
-              settings.isDemo ? settings.home : WindowStateStore::usersStateFolder())
+              options.isDemo ? options.home : WindowStateStore::usersStateFolder())
     {
     }
 
@@ -118,8 +106,7 @@ struct Program::Parts {
     }
 
     std::unique_ptr<SingleInstance> instance; ///< null where nobody else can have the home directory
-    std::unique_ptr<QTemporaryDir> throwAwayHome; ///< null when the home directory is the user's
-    std::unique_ptr<DataServer> dataServer; ///< null when others are asked
+    LaunchResources resources;
 
     QtProcess process;
     QtAlerts messageBoxes;
@@ -151,34 +138,13 @@ struct Program::Parts {
     std::unique_ptr<ConnectivityMonitor> connectivityMonitor;
 };
 
-std::unique_ptr<Program> Program::create(Settings settings, std::unique_ptr<SingleInstance> instance, QString& whyNot)
+tl::expected<std::unique_ptr<Program>, QString> Program::create(
+    LaunchOptions options, std::unique_ptr<SingleInstance> instance)
 {
-    std::unique_ptr<QTemporaryDir> throwAwayHome;
-    if (settings.home.isEmpty()) {
-        throwAwayHome = std::make_unique<QTemporaryDir>();
-        if (!throwAwayHome->isValid()) {
-            whyNot = throwAwayHome->errorString();
-            return nullptr;
-        }
-        settings.home = throwAwayHome->path();
-    }
-    std::unique_ptr<DataServer> dataServer;
-    if (settings.dataServer.isEmpty() || settings.probe.isEmpty()) {
-        std::string reason;
-        dataServer = DataServer::create(serverSettings(settings), reason);
-        if (!dataServer) {
-            whyNot = QString::fromStdString(reason);
-            return nullptr;
-        }
-        const QString address = toQString(dataServer->baseAddress());
-        for (QString* unset : {&settings.dataServer, &settings.probe}) {
-            if (unset->isEmpty())
-                *unset = address;
-        }
-    }
-    auto parts =
-        std::make_unique<Parts>(settings, std::move(instance), std::move(throwAwayHome), std::move(dataServer));
-    return std::unique_ptr<Program>(new Program(std::move(parts)));
+    return provideResources(options).map([&](LaunchResources resources) {
+        return std::unique_ptr<Program>(
+            new Program(std::make_unique<Parts>(options, std::move(resources), std::move(instance))));
+    });
 }
 
 Program::Program(std::unique_ptr<Parts> parts)
@@ -262,8 +228,8 @@ void Program::endAsTheSessionDoes()
 void Program::leaveWindows()
 {
     parts_->windows.keepPlaces();
-    if (parts_->throwAwayHome)
-        parts_->throwAwayHome->remove();
+    if (parts_->resources.temporaryHome)
+        parts_->resources.temporaryHome->remove();
 }
 
 } // namespace sonavel

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Text.h"
-#include "qt/Settings.h"
+#include "qt/LaunchOptions.h"
 
 #include <functional>
 #include <memory>
@@ -15,11 +15,11 @@ class SingleInstance;
 /// taken apart: the program ends through its process.
 class Program {
 public:
-    /// Stores nothing and asks nobody, except that it may start a data server of its own. Nothing, and a reason in one
-    /// line, when that or the throw-away home cannot be had. `instance` is the claim on the home directory; null when
-    /// that is a throw-away one.
-    [[nodiscard]] static std::unique_ptr<Program> create(
-        Settings settings, std::unique_ptr<SingleInstance> instance, QString& whyNot);
+    /// Stores nothing and sends no request, but may start a data server of its own. The error, in one line, says why
+    /// that or a temporary home directory cannot be had. `instance` is the claim on the home directory; null when that
+    /// is a temporary one.
+    [[nodiscard]] static tl::expected<std::unique_ptr<Program>, QString> create(
+        LaunchOptions options, std::unique_ptr<SingleInstance> instance);
     ~Program();
 
     /// Both phases of the start-up, with the building of the main window between them. The main window is on the screen

@@ -1,16 +1,16 @@
 #include "qt/SessionRestart.h"
 
-#include "qt/Settings.h"
+#include "qt/LaunchOptions.h"
 #include "qt/desktop/Session.h"
 
 #include <QCoreApplication>
 
 namespace sonavel {
 
-void restartWithSession(const Settings& settings)
+void restartWithSession(const LaunchOptions& options)
 {
-    restartWithSession(QStringList(QCoreApplication::applicationFilePath()) + settings.options,
-        settings.isDemo ? Restart::Never : Restart::WithSession);
+    restartWithSession(QStringList(QCoreApplication::applicationFilePath()) + options.arguments,
+        options.isDemo ? Restart::Never : Restart::WithSession);
 }
 
 } // namespace sonavel

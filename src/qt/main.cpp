@@ -1,6 +1,7 @@
 // The player.
 #include "adapters/files/SingleInstance.h"
 #include "adapters/network/CurlHttpClient.h"
+#include "qt/LaunchValues.h"
 #include "qt/Program.h"
 #include "qt/SessionRestart.h"
 #include "qt/desktop/DesktopAppearance.h"
@@ -19,13 +20,13 @@
 
 namespace {
 
-int print(const sonavel::EndAtOnce& end)
+int print(const sonavel::EarlyExit& exit)
 {
-    (end.status == 0 ? std::cout : std::cerr) << qUtf8Printable(end.text) << std::endl;
-    return end.status;
+    (exit.status == 0 ? std::cout : std::cerr) << qUtf8Printable(exit.text) << std::endl;
+    return exit.status;
 }
 
-sonavel::EndAtOnce noAnswer()
+sonavel::EarlyExit noAnswer()
 {
     return {1, QStringLiteral("sonavel: another player has this home directory and does not answer")};
 }
@@ -53,16 +54,16 @@ bool isPlain(const sonavel::ApplicationStyle& style)
 
 /// The program's own colours are made for one style; a desktop that has its own keeps them. Answers with what
 /// follows the desktop from then on, if anything does.
-std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::Settings& settings)
+std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::LaunchOptions& options)
 {
-    auto* style = new sonavel::ApplicationStyle(settings.appearance ? QStringLiteral("fusion") : QString());
+    auto* style = new sonavel::ApplicationStyle(options.appearance ? QStringLiteral("fusion") : QString());
     QApplication::setStyle(style);
-    if (settings.appearance)
-        QApplication::setPalette(sonavel::paletteFor(*settings.appearance));
-    if (settings.appearance || !isPlain(*style))
+    if (options.appearance)
+        QApplication::setPalette(sonavel::paletteFor(*options.appearance));
+    if (options.appearance || !isPlain(*style))
         return nullptr;
     auto appearance = std::make_unique<sonavel::DesktopAppearance>(
-        settings.isDemo ? QString() : sonavel::WindowStateStore::usersStateFolder());
+        options.isDemo ? QString() : sonavel::WindowStateStore::usersStateFolder());
     appearance->applyRemembered();
     return appearance;
 }
@@ -73,19 +74,17 @@ int main(int argumentCount, char** arguments)
 {
     QStringList given = withoutName(argumentCount, arguments);
     QByteArray session = sonavel::takeSessionId(given).toLocal8Bit();
-    const sonavel::SettingsOrEnd outcome =
-        sonavel::settingsFrom(given, sonavel::readEnvironment(), sonavel::readConfiguration());
-    if (const auto* end = std::get_if<sonavel::EndAtOnce>(&outcome))
-        return print(*end);
-    const auto& settings = std::get<sonavel::Settings>(outcome);
+    const auto options = sonavel::launchOptionsFrom(given, sonavel::readEnvironment(), sonavel::readConfiguration());
+    if (!options)
+        return print(options.error());
 
     std::unique_ptr<sonavel::SingleInstance> instance;
-    if (!settings.home.isEmpty()) {
+    if (!options->home.isEmpty()) {
         auto claim =
-            sonavel::SingleInstance::claim(sonavel::SingleInstance::usersRunTimeFolder(), settings.home.toStdString());
-        if (!claim.instance)
-            return claim.isOtherCalled ? 0 : print(noAnswer());
-        instance = std::move(claim.instance);
+            sonavel::SingleInstance::claim(sonavel::SingleInstance::usersRunTimeFolder(), options->home.toStdString());
+        if (!claim)
+            return claim.error() == sonavel::OtherInstance::Activated ? 0 : print(noAnswer());
+        instance = std::move(*claim);
     }
 
     // Reading the settings of the fonts takes a fifth of a start; it is done while Qt finds the display.
@@ -95,20 +94,19 @@ int main(int argumentCount, char** arguments)
     std::array toolkitArguments{arguments[0], sessionOption.data(), session.data()};
     int toolkitArgumentCount = session.isEmpty() ? 1 : 3;
     QApplication application(toolkitArgumentCount, toolkitArguments.data());
-    sonavel::restartWithSession(settings);
+    sonavel::restartWithSession(*options);
     // And what the first request needs, while the main window is built.
     const std::jthread network([] { sonavel::CurlHttpClient::loadLibrary(); });
     setUpNames();
-    if (settings.isMirrored)
+    if (options->isMirrored)
         QApplication::setLayoutDirection(Qt::RightToLeft);
-    const auto desktop = setUpLooks(settings);
+    const auto desktop = setUpLooks(*options);
 
-    QString whyNot;
-    const auto program = sonavel::Program::create(settings, std::move(instance), whyNot);
+    const auto program = sonavel::Program::create(*options, std::move(instance));
     if (!program)
-        return print({1, QStringLiteral("sonavel: ") + whyNot});
+        return print({1, QStringLiteral("sonavel: ") + program.error()});
     fonts.join();
-    program->start([&desktop] {
+    (*program)->start([&desktop] {
         // A window manager takes the picture at any time; the window is there sooner without it.
         QApplication::setWindowIcon(sonavel::programIcon());
         if (desktop)

@@ -1,7 +1,7 @@
 // The ports of the core as Qt provides them.
 #include "UserInput.h"
 #include "qt/SessionRestart.h"
-#include "qt/Settings.h"
+#include "qt/LaunchOptions.h"
 #include "qt/desktop/Session.h"
 #include "qt/desktop/TerminationSignals.h"
 #include "qt/kit/TextConversion.h"
@@ -290,18 +290,18 @@ TEST(SessionManager, HearsAtEachSaveHowThePlayerIsToComeBackAndThatTheDemoIsNot)
 {
     auto* manager = qApp->findChild<QSessionManager*>();
     ASSERT_NE(manager, nullptr);
-    Settings settings;
-    settings.options = QStringList{"--language", "de", "-reverse"};
+    LaunchOptions options;
+    options.arguments = QStringList{"--language", "de", "-reverse"};
     for (const bool isDemo : {true, false}) {
-        settings.isDemo = isDemo;
-        restartWithSession(settings);
+        options.isDemo = isDemo;
+        restartWithSession(options);
         for (const auto signal : {&QGuiApplication::saveStateRequest, &QGuiApplication::commitDataRequest}) {
             manager->setRestartHint(QSessionManager::RestartAnyway);
             manager->setRestartCommand(QStringList());
             emit(qApp->*signal)(*manager);
             EXPECT_EQ(
                 manager->restartHint(), isDemo ? QSessionManager::RestartNever : QSessionManager::RestartIfRunning);
-            EXPECT_EQ(manager->restartCommand().mid(0, 4), QStringList(qApp->applicationFilePath()) + settings.options);
+            EXPECT_EQ(manager->restartCommand().mid(0, 4), QStringList(qApp->applicationFilePath()) + options.arguments);
             EXPECT_EQ(manager->restartCommand().value(4), "-session");
         }
     }

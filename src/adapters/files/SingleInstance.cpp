@@ -1,5 +1,7 @@
 #include "adapters/files/SingleInstance.h"
 
+#include "adapters/files/SystemCalls.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/socket.h>
@@ -13,7 +15,6 @@
 #include <cstring>
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <thread>
 
 namespace sonavel {
@@ -43,14 +44,16 @@ bool isOwnFolder(const std::string& folder)
         && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
-/// Nothing when another process holds the lock; −1 when there can be no lock at all.
-std::optional<int> lockedFile(const std::string& path)
+/// The error is `operation_would_block` when another process holds the lock.
+tl::expected<int, std::error_code> lockFile(const std::string& path)
 {
     const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-    if (file < 0 || ::flock(file, LOCK_EX | LOCK_NB) == 0)
+    if (file >= 0 && ::flock(file, LOCK_EX | LOCK_NB) == 0)
         return file;
-    ::close(file);
-    return std::nullopt;
+    const std::error_code failure = lastError();
+    if (file >= 0)
+        ::close(file);
+    return tl::unexpected(failure);
 }
 
 sockaddr_un addressOf(const std::string& path)
@@ -78,14 +81,14 @@ int listeningSocket(const std::string& path)
     return -1;
 }
 
-bool call(const std::string& path)
+bool activate(const std::string& path)
 {
     const int socket = openSocket();
     const sockaddr_un address = addressOf(path);
     const char note = 1;
     const bool isSent =
         ::sendto(socket, &note, sizeof note, 0, reinterpret_cast<const sockaddr*>(&address), sizeof address) >= 0
-        || errno == EAGAIN; // enough calls are waiting
+        || errno == EAGAIN; // enough activations are waiting
     ::close(socket);
     return isSent;
 }
@@ -101,21 +104,26 @@ std::string SingleInstance::usersRunTimeFolder()
     return isOwnFolder(folder) ? folder : std::string();
 }
 
-SingleInstance::Claim SingleInstance::claim(const std::string& runTimeFolder, const std::string& homeDirectory)
+tl::expected<std::unique_ptr<SingleInstance>, OtherInstance> SingleInstance::claim(
+    const std::string& runTimeFolder, const std::string& homeDirectory)
 {
+    const auto instance = [](int lock, int socket) {
+        return std::unique_ptr<SingleInstance>(new SingleInstance(lock, socket));
+    };
     if (runTimeFolder.empty())
-        return {std::unique_ptr<SingleInstance>(new SingleInstance(-1, -1))};
+        return instance(-1, -1);
     const std::string path = runTimeFolder + "/" + nameOf(homeDirectory);
     const auto end = std::chrono::steady_clock::now() + maxWait;
     do {
-        if (const auto lock = lockedFile(path + ".lock"))
-            return {std::unique_ptr<SingleInstance>(new SingleInstance(*lock, listeningSocket(path + ".socket")))};
-        // Between its lock and its socket the other one cannot be called yet.
-        if (call(path + ".socket"))
-            return {nullptr, true};
+        const auto lock = lockFile(path + ".lock");
+        if (lock || lock.error() != std::errc::operation_would_block)
+            return instance(lock.value_or(-1), listeningSocket(path + ".socket"));
+        // Between its lock and its socket the other one cannot be activated yet.
+        if (activate(path + ".socket"))
+            return tl::unexpected(OtherInstance::Activated);
         std::this_thread::sleep_for(pause);
     } while (std::chrono::steady_clock::now() < end);
-    return {nullptr, false};
+    return tl::unexpected(OtherInstance::NotResponding);
 }
 
 SingleInstance::SingleInstance(int lock, int socket)
@@ -126,7 +134,7 @@ SingleInstance::SingleInstance(int lock, int socket)
 
 SingleInstance::~SingleInstance()
 {
-    calls_.reset();
+    activations_.reset();
     if (socket_ >= 0)
         ::close(socket_);
     if (lock_ >= 0)
@@ -137,7 +145,7 @@ void SingleInstance::onActivated(EventLoop& eventLoop, std::function<void()> cal
 {
     if (socket_ < 0)
         return;
-    calls_ = eventLoop.whenReadable(socket_, [socket = socket_, callback = std::move(callback)] {
+    activations_ = eventLoop.whenReadable(socket_, [socket = socket_, callback = std::move(callback)] {
         char note = 0;
         while (::recv(socket, &note, sizeof note, 0) >= 0) { }
         callback();

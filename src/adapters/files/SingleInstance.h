@@ -4,24 +4,29 @@
 #include "adapters/EventLoop.h"
 #include "base/NonCopyable.h"
 
+#include <tl/expected.hpp>
+
 #include <functional>
 #include <memory>
 #include <string>
 
 namespace sonavel {
 
-/// Holds the claim on a home directory for as long as it lives; the system takes it back when the process ends, however
-/// that ends. Lock and socket lie in a folder for things of the run time, never beside the user's files.
+/// Another process that has the claim on a home directory.
+enum class OtherInstance { Activated, NotResponding };
+
+/// Holds the claim on a home directory for as long as it lives; the system releases it when the process ends, however
+/// that ends. Lock and socket lie in a folder for run-time files, never beside the user's files.
 class SingleInstance : private NonCopyable {
 public:
-    /// The user's folder for such things: $XDG_RUNTIME_DIR unless its path is too long for a socket, else one of his
-    /// own under /tmp. Empty when there is none that is his alone.
+    /// The user's folder for such files: $XDG_RUNTIME_DIR unless its path is too long for a socket, else one under
+    /// /tmp. Empty when there is none that belongs to the user alone.
     [[nodiscard]] static std::string usersRunTimeFolder();
 
-    struct Claim;
-    /// Claims the home directory. While another process has it, that one is called, for up to five seconds until it
+    /// Claims the home directory. While another process has it, that one is activated, for up to five seconds until it
     /// listens. Without a usable folder every claim succeeds.
-    [[nodiscard]] static Claim claim(const std::string& runTimeFolder, const std::string& homeDirectory);
+    [[nodiscard]] static tl::expected<std::unique_ptr<SingleInstance>, OtherInstance> claim(
+        const std::string& runTimeFolder, const std::string& homeDirectory);
 
     ~SingleInstance();
 
@@ -33,13 +38,7 @@ private:
 
     int lock_;
     int socket_;
-    std::unique_ptr<EventLoop::Registration> calls_;
-};
-
-/// What came of a claim.
-struct SingleInstance::Claim {
-    std::unique_ptr<SingleInstance> instance; ///< null when another process has the home directory
-    bool isOtherCalled = false; ///< whether that process has heard of this start
+    std::unique_ptr<EventLoop::Registration> activations_;
 };
 
 } // namespace sonavel

@@ -17,7 +17,7 @@ class SingleInstanceTest : public testing::Test {
 protected:
     std::unique_ptr<SingleInstance> claim(const std::string& home = "/home/listener")
     {
-        return SingleInstance::claim(folder.path(), home).instance;
+        return SingleInstance::claim(folder.path(), home).value_or(nullptr);
     }
 
     test::TemporaryFolder folder;
@@ -45,14 +45,12 @@ TEST_F(SingleInstanceTest, ASecondStartCallsTheFirstAlsoWhileThatIsStillStarting
 TEST_F(SingleInstanceTest, APlayerThatCannotBeCalledIsTold)
 {
     const auto first = claim();
-    ASSERT_TRUE(SingleInstance::claim(folder.path(), "/home/listener").isOtherCalled);
+    ASSERT_EQ(SingleInstance::claim(folder.path(), "/home/listener").error(), OtherInstance::Activated);
     for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
         if (entry.path().extension() == ".socket")
             std::filesystem::remove(entry.path());
     }
-    const auto second = SingleInstance::claim(folder.path(), "/home/listener");
-    EXPECT_FALSE(second.instance);
-    EXPECT_FALSE(second.isOtherCalled);
+    EXPECT_EQ(SingleInstance::claim(folder.path(), "/home/listener").error(), OtherInstance::NotResponding);
 }
 
 TEST_F(SingleInstanceTest, WhatAKilledPlayerLeftBehindIsNoObstacle)
@@ -79,8 +77,8 @@ TEST_F(SingleInstanceTest, WithoutAFolderOfTheUsersOwnEveryStartIsTheFirst)
     std::filesystem::permissions(shared + "/sonavel", std::filesystem::perms::owner_all);
     EXPECT_EQ(SingleInstance::usersRunTimeFolder(), shared + "/sonavel");
     ::unsetenv("XDG_RUNTIME_DIR");
-    EXPECT_TRUE(SingleInstance::claim("", "/home/listener").instance);
-    EXPECT_TRUE(SingleInstance::claim("", "/home/listener").instance);
+    EXPECT_TRUE(SingleInstance::claim("", "/home/listener"));
+    EXPECT_TRUE(SingleInstance::claim("", "/home/listener"));
 }
 
 } // namespace

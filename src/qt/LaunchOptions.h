@@ -1,4 +1,4 @@
-// What the player was started with: options, environment and configuration file.
+// What the player is started with: options, environment and configuration file.
 #pragma once
 
 #include "qt/kit/Palettes.h"
@@ -7,13 +7,14 @@
 #include <QString>
 #include <QStringList>
 
+#include <tl/expected.hpp>
+
 #include <optional>
-#include <variant>
 
 namespace sonavel {
 
-struct Settings {
-    /// An existing folder, absolute, without a trailing "/". Empty for a throw-away one.
+struct LaunchOptions {
+    /// An existing folder, absolute, without a trailing "/". Empty for a temporary one.
     QString home;
     /// http or https address ending in "/". Empty for a server of the player's own.
     QString dataServer;
@@ -27,33 +28,24 @@ struct Settings {
     QString language;
     /// Absent for the desktop's.
     std::optional<Appearance> appearance;
-    /// The windows begin at the right.
+    /// The windows are laid out from right to left.
     bool isMirrored = false;
     /// The options that were given, as they start the player the same way from any folder.
-    QStringList options;
+    QStringList arguments;
 };
 
-/// The program is to end at once: with status 0 after `--help` and `--version`, with 2 after a usage error.
-struct EndAtOnce {
+/// Why the program exits at once: with status 0 after `--help` and `--version`, with 2 after a usage error.
+struct EarlyExit {
     int status = 0;
     /// To print, without a line end; on the standard error output when the status is not 0.
     QString text;
 };
 
-using SettingsOrEnd = std::variant<Settings, EndAtOnce>;
-
 /// Options win over the environment, which wins over the configuration file, which wins over the built-in value; with
 /// `--demo` the addresses and the home folder come from the options or are embedded. `-reverse` mirrors the windows, as
 /// in every program of the toolkit. `arguments` are without the name of the program; `configuration` maps the long
 /// names of options to values.
-[[nodiscard]] SettingsOrEnd settingsFrom(
+[[nodiscard]] tl::expected<LaunchOptions, EarlyExit> launchOptionsFrom(
     QStringList arguments, const QMap<QString, QString>& environment, const QMap<QString, QString>& configuration);
-
-/// What stands in `sonavel/sonavel.conf` of the user's and the system's configuration folders; the user's wins, key by
-/// key.
-[[nodiscard]] QMap<QString, QString> readConfiguration();
-
-/// The variables of the environment that concern the player.
-[[nodiscard]] QMap<QString, QString> readEnvironment();
 
 } // namespace sonavel
