@@ -2,9 +2,9 @@
 
 #include "app/CountedAlerts.h"
 #include "model/StationList.h"
+#include "model/StreamAddress.h"
 #include "platform/Clock.h"
 #include "playback/StationSelection.h"
-#include "playback/StreamAddress.h"
 #include "playback/StreamStatus.h"
 #include "ui/Controls.h"
 

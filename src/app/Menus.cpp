@@ -85,7 +85,7 @@ int tagOf(MenuItem MenuControls::*item)
 {
     const auto* const row =
         std::find_if(rows.begin(), rows.end(), [item](const auto& each) { return each.item == item; });
-    return row == rows.end() ? -1 : row->tag;
+    return row == rows.end() ? noTag : row->tag;
 }
 
 Menus::Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings)

@@ -53,7 +53,7 @@ struct TaggedItem {
 /// All of them.
 [[nodiscard]] std::span<const TaggedItem> taggedItems();
 
-/// The item's tag; −1 when it has none.
+/// The item's tag; `noTag` when it has none.
 [[nodiscard]] int tagOf(MenuItem MenuControls::*item);
 
 /// Main thread. Borrows everything it is given.

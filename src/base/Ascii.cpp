@@ -4,15 +4,6 @@
 
 namespace sonavel {
 
-namespace {
-
-char lowerCase(char character)
-{
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
-} // namespace
-
 bool isAscii(std::string_view text)
 {
     return std::all_of(text.begin(), text.end(), [](char character) { return isAscii(character); });
@@ -28,7 +19,7 @@ std::string_view withoutOuterBlanks(std::string_view text)
 bool equalsIgnoringCase(std::string_view text, std::string_view other)
 {
     return std::equal(text.begin(), text.end(), other.begin(), other.end(),
-        [](char left, char right) { return lowerCase(left) == lowerCase(right); });
+        [](char left, char right) { return asciiLowerCase(left) == asciiLowerCase(right); });
 }
 
 bool beginsWithIgnoringCase(std::string_view text, std::string_view beginning)

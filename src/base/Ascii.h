@@ -17,6 +17,12 @@ namespace sonavel {
     return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
 }
 
+/// The small letter of one from A to Z; any other byte as it is.
+[[nodiscard]] inline char asciiLowerCase(char character)
+{
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
 /// Without blanks, tabs and line ends around.
 [[nodiscard]] std::string_view withoutOuterBlanks(std::string_view text);
 

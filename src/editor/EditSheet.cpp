@@ -62,7 +62,7 @@ void EditSheet::buttonAction()
         addStation(stations);
     else if (mode == localizedStrings_.localizedStringForKey("BUTTON_EDIT"))
         changeSelectedStation(stations);
-    sortRecords(stations, "radio");
+    sortRecords(stations, radioKey);
     listWriter_.perform(ListChange::replaced(present, stations), ListOperation::SheetConfirmed);
 }
 

@@ -12,9 +12,9 @@ namespace {
 
 Text valueForKey(const KVStationWebRadio& station, std::string_view key)
 {
-    if (key == "radio")
+    if (key == radioKey)
         return station.radio();
-    if (key == "link")
+    if (key == linkKey)
         return station.link();
     return key == "idRadio" ? decimalText(static_cast<std::int64_t>(station.idRadio())) : Text();
 }
@@ -24,9 +24,9 @@ using Setter = void (KVStationWebRadio::*)(Text);
 /// Null for what cannot be edited.
 Setter setterForKey(std::string_view key)
 {
-    if (key == "radio")
+    if (key == radioKey)
         return &KVStationWebRadio::setRadio;
-    return key == "link" ? &KVStationWebRadio::setLink : nullptr;
+    return key == linkKey ? &KVStationWebRadio::setLink : nullptr;
 }
 
 } // namespace

@@ -75,7 +75,7 @@ StationImport::StationImport(const StationList& stationList, ListWriter& listWri
 
 void StationImport::importRadioListFromFile()
 {
-    const Text path = filePanels_.runModal(OpenPanel{"csv"});
+    const Text path = filePanels_.runModal(OpenPanel{listTextExtension});
     if (!path.isAbsent())
         importRadioListFromFileAtPath(path);
 }

@@ -4,7 +4,7 @@
 #include "engine/MpvAccess.h"
 #include "engine/MpvSetUp.h"
 #include "engine/StreamTitle.h"
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 
 #include <mpv/client.h>
 

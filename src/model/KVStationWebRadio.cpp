@@ -12,7 +12,7 @@ KVStationWebRadio::KVStationWebRadio(std::uint64_t idRadio, Text radio, Text lin
 }
 
 KVStationWebRadio::KVStationWebRadio(const KeyedArchive& archive)
-    : KVStationWebRadio(archive.decodeInteger("idRadio"), archive.decodeObject("radio"), archive.decodeObject("link"))
+    : KVStationWebRadio(archive.decodeInteger("idRadio"), archive.decodeObject(radioKey), archive.decodeObject(linkKey))
 {
 }
 
@@ -26,8 +26,8 @@ std::string KVStationWebRadio::returnPropertyIntoFormatDefaultCSV() const
 void KVStationWebRadio::encodeWithCoder(KeyedArchive& archive) const
 {
     archive.encodeInteger(idRadio_, "idRadio");
-    archive.encodeObject(radio_, "radio");
-    archive.encodeObject(link_, "link");
+    archive.encodeObject(radio_, radioKey);
+    archive.encodeObject(link_, linkKey);
 }
 
 } // namespace sonavel

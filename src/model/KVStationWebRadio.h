@@ -6,10 +6,15 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace sonavel {
 
 class KeyedArchive;
+
+/// The names of a station's fields, which the columns of its table and the heading of a list text bear too.
+inline constexpr std::string_view radioKey = "radio";
+inline constexpr std::string_view linkKey = "link";
 
 /// A station: a number, a name and a stream address. Any name and address is accepted, absent ones too.
 ///

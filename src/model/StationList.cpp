@@ -37,9 +37,9 @@ void sortRecords(StationRecords& records, Property property)
 
 void sortRecords(StationRecords& records, std::string_view key)
 {
-    if (key == "radio")
+    if (key == radioKey)
         sortRecords(records, &KVStationWebRadio::radio);
-    else if (key == "link")
+    else if (key == linkKey)
         sortRecords(records, &KVStationWebRadio::link);
 }
 

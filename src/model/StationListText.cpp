@@ -32,7 +32,7 @@ std::size_t lengthOfListText(const StationRecords& records)
 
 bool isStationName(std::string_view name)
 {
-    return !name.empty() && name != "-" && name != "radio" && name != "link";
+    return !name.empty() && name != "-" && name != radioKey && name != linkKey;
 }
 
 std::optional<StationListLine> StationListReader::next()

@@ -11,6 +11,9 @@
 
 namespace sonavel {
 
+/// The extension of files with a station list text.
+inline constexpr const char* listTextExtension = "csv";
+
 /// One line of a station list text.
 struct StationListLine {
     /// Counted from 0 over all lines, the header and skipped ones included.

@@ -1,7 +1,7 @@
 #include "online/RequestAddress.h"
 
 #include "base/Ascii.h"
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 
 #include <algorithm>
 

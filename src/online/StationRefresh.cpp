@@ -52,7 +52,7 @@ void StationRefresh::chekNewRadioOnLine()
     StationRecords merged = *stationList_.listRadio();
     if (!mergeStations(merged, downloaded))
         return;
-    sortRecords(merged, "radio");
+    sortRecords(merged, radioKey);
     listWriter_.perform(ListChange::replaced(*stationList_.listRadio(), merged), ListOperation::Refreshed);
 }
 

@@ -1,7 +1,7 @@
 #include "playback/Player.h"
 
+#include "model/StreamAddress.h"
 #include "platform/NotificationCenter.h"
-#include "playback/StreamAddress.h"
 #include "ui/Controls.h"
 
 namespace sonavel {

@@ -1,7 +1,7 @@
 #include "qt/LaunchOptions.h"
 
+#include "model/StreamAddress.h"
 #include "platform/Bundle.h"
-#include "playback/StreamAddress.h"
 #include "qt/LaunchValues.h"
 #include "qt/kit/TextConversion.h"
 

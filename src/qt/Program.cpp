@@ -206,7 +206,7 @@ void Program::showWaiting(const QString& host)
         parts_->splashScreen = std::make_unique<SplashScreen>();
         connectSplashScreen(parts_->controls.winSplashScreen, *parts_->splashScreen);
     }
-    parts_->splashScreen->setWaitingFor(qtTrId("SPLASH_WAITING").replace(QStringLiteral("%@"), host));
+    parts_->splashScreen->setWaitingFor(filledIn("SPLASH_WAITING", host));
     parts_->controls.winSplashScreen.setIsVisible(true);
 }
 

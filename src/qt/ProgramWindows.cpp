@@ -84,8 +84,7 @@ void ProgramWindows::buildAboutWindow()
     const auto label = [&window](const char* name) { return window.findChild<QLabel*>(QString::fromLatin1(name)); };
     label("imageAppIcon")->setPixmap(programIcon().pixmap(iconSize));
     label("labelAppName")->setText(QStringLiteral("Sonavel"));
-    label("labelAppVersion")
-        ->setText(qtTrId("ABOUT_VERSION").replace(QStringLiteral("%@"), toQString(programBundle().shortVersion)));
+    label("labelAppVersion")->setText(filledIn("ABOUT_VERSION", toQString(programBundle().shortVersion)));
     connectAboutWindow(controls_.about, window);
 }
 

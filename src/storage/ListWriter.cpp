@@ -35,7 +35,7 @@ const std::vector<ListStep>& stepsAfter(ListOperation operation)
 void ListWriter::load(StationRecords records)
 {
     stationList_.setListRadio(std::move(records));
-    stationList_.sortingRadioWithKey("radio");
+    stationList_.sortingRadioWithKey(radioKey);
 }
 
 void ListWriter::apply(const ListChange& change)

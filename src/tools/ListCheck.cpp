@@ -3,7 +3,7 @@
 #include "base/ForeignText.h"
 #include "base/Numbers.h"
 #include "model/KVStationWebRadio.h"
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 #include "prefs/PreferenceFields.h"
 
 #include <string_view>

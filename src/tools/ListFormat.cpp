@@ -2,6 +2,7 @@
 
 #include "base/Ascii.h"
 #include "base/ForeignText.h"
+#include "model/StationListText.h"
 #include "tools/ListLines.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace sonavel {
 namespace {
 
 constexpr std::array<std::pair<std::string_view, ListFormat>, 6> formatNames{{
-    {"csv", ListFormat::Csv},
+    {listTextExtension, ListFormat::Csv},
     {"rdb", ListFormat::Rdb},
     {"json", ListFormat::Json},
     {"m3u", ListFormat::M3u},

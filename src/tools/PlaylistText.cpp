@@ -4,7 +4,7 @@
 #include "base/ForeignText.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 #include "tools/ListLines.h"
 
 #include <charconv>

@@ -2,7 +2,7 @@
 
 #include "base/ForeignText.h"
 #include "model/StationListText.h"
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 
 namespace sonavel {
 

@@ -3,13 +3,14 @@
 
 #include "base/Text.h"
 #include "ui/Rendered.h"
+#include "ui/Tag.h"
 
 namespace sonavel {
 
 struct MenuItemState {
     Text title;
-    /// Tells the items of all menus apart; −1 for none.
-    int tag = -1;
+    /// Tells the items of all menus apart.
+    int tag = noTag;
     bool isEnabled = false;
     /// Whether it bears a check mark.
     bool isOn = false;

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "ui/Rendered.h"
+#include "ui/Tag.h"
 
 namespace sonavel {
 
 struct ToolbarItemState {
-    /// Tells the items of a toolbar apart; −1 for none.
-    int tag = -1;
+    /// Tells the items of a toolbar apart.
+    int tag = noTag;
     bool isEnabled = false;
 
     friend bool operator==(const ToolbarItemState&, const ToolbarItemState&) = default;

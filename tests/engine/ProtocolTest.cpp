@@ -2,7 +2,7 @@
 
 #include "engine/LineReader.h"
 #include "engine/StreamTitle.h"
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 
 #include <gtest/gtest.h>
 

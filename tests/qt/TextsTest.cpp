@@ -58,7 +58,7 @@ TEST(SaveFailures, NameWhatIsNotSavedAndWhy)
 
 TEST(Conversion, NothingFromOutsideBecomesMarkupOrAShortcut)
 {
-    EXPECT_EQ(withoutMnemonics("R&B"), "R&&B");
+    EXPECT_EQ(escapeMnemonics("R&B"), "R&&B");
     EXPECT_EQ(onOneLine(QStringLiteral("a\nb\r\u2028c")), "a b  c");
     EXPECT_EQ(toQString(Text("\xff"
                              "ok")),

@@ -72,7 +72,7 @@ void ButtonBinder::renderEnabling(bool isEnabled)
 void ButtonBinder::renderWords(const ButtonState& state)
 {
     const QString word = wordForImage(state.image);
-    widget_.setText(withoutMnemonics(word.isNull() ? toQString(state.title) : word));
+    widget_.setText(escapeMnemonics(word.isNull() ? toQString(state.title) : word));
     if (!word.isNull())
         widget_.setToolTip(hintForImage(state.image));
 }

@@ -29,7 +29,7 @@ MenuItemBinder::~MenuItemBinder()
 void MenuItemBinder::render(const MenuItemState& state)
 {
     if (state.title != titleShown_)
-        action_.setText(withoutMnemonics(toQString(state.title)));
+        action_.setText(escapeMnemonics(toQString(state.title)));
     titleShown_ = state.title;
     action_.setEnabled(state.isEnabled);
     action_.setChecked(state.isOn);

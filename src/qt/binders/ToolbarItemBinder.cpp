@@ -4,12 +4,6 @@
 
 namespace sonavel {
 
-namespace {
-
-constexpr int noTag = -1;
-
-} // namespace
-
 ToolbarItemBinder::ToolbarItemBinder(ToolbarItem& item, QAction& action)
     : QObject(&action)
     , item_(item)

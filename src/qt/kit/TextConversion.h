@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Text.h"
+#include "platform/LocalizedStrings.h"
 
 #include <QString>
 
@@ -22,6 +23,12 @@ namespace sonavel {
     return {string.toStdString()};
 }
 
+/// The translated text of `key` with `value` in the place of its "%@".
+[[nodiscard]] inline QString filledIn(const char* key, const QString& value)
+{
+    return toQString(filledIn(toText(qtTrId(key)), toText(value)));
+}
+
 /// On one line: a line feed or another break in a name from outside is drawn as a blank.
 [[nodiscard]] inline QString onOneLine(QString string)
 {
@@ -34,7 +41,7 @@ namespace sonavel {
 }
 
 /// For places where Qt takes "&" for the mark of a shortcut.
-[[nodiscard]] inline QString withoutMnemonics(QString string)
+[[nodiscard]] inline QString escapeMnemonics(QString string)
 {
     return string.replace(u'&', QStringLiteral("&&"));
 }

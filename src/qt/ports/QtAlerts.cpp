@@ -22,7 +22,7 @@ QMessageBox::ButtonRole roleOf(std::size_t index, std::size_t count)
 void addButtons(QMessageBox& box, const std::vector<Text>& titles)
 {
     for (std::size_t index = 0; index < titles.size(); ++index) {
-        QPushButton* button = box.addButton(withoutMnemonics(toQString(titles[index])), roleOf(index, titles.size()));
+        QPushButton* button = box.addButton(escapeMnemonics(toQString(titles[index])), roleOf(index, titles.size()));
         button->setMinimumHeight(box.fontMetrics().height() * 2);
         button->setProperty("answer", firstButtonAnswer + static_cast<int>(index));
         if (index == 0)

@@ -14,11 +14,6 @@ namespace sonavel {
 
 namespace {
 
-Text textWith(const char* key, const QString& value)
-{
-    return toText(qtTrId(key).replace(QStringLiteral("%@"), value));
-}
-
 QFileInfo withExtension(const QFileInfo& entered, const QString& extension)
 {
     const bool isNamedWhole = entered.isDir() || !entered.suffix().isEmpty();
@@ -54,7 +49,7 @@ Text QtFilePanels::runModal(const OpenPanel& panel)
         if (chosen.isDir())
             dialog.setDirectory(chosen.filePath());
         else
-            alerts_.runModal({textWith("PANEL_OTHER_KIND", type), {toText(qtTrId("BUTTON_CONTINUE"))}});
+            alerts_.runModal({toText(filledIn("PANEL_OTHER_KIND", type)), {toText(qtTrId("BUTTON_CONTINUE"))}});
     }
     return {};
 }
@@ -81,7 +76,7 @@ Text QtFilePanels::runModal(const SavePanel& panel)
 bool QtFilePanels::isToBeReplaced(const QString& name)
 {
     return alerts_.runModal(
-               {textWith("PANEL_REPLACE", name), {toText(qtTrId("BUTTON_YES")), toText(qtTrId("BUTTON_NO"))}})
+               {toText(filledIn("PANEL_REPLACE", name)), {toText(qtTrId("BUTTON_YES")), toText(qtTrId("BUTTON_NO"))}})
         == firstButtonAnswer;
 }
 

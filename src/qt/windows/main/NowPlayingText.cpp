@@ -54,9 +54,11 @@ QString titleOr(const char* key, const Text& title)
 QString brokenText(const StreamReport& report)
 {
     const auto seconds = report.reconnectIn.count();
-    QString text = seconds > 0 ? qtTrId("NOW_PLAYING_TRYING_IN") : qtTrId("NOW_PLAYING_TRYING");
-    text.replace(QStringLiteral("%li"), QString::number(seconds));
-    return text.replace(QStringLiteral("%@"), qtTrId(keyOf(report.failure)));
+    const QString reason = qtTrId(keyOf(report.failure));
+    if (seconds == 0)
+        return filledIn("NOW_PLAYING_TRYING", reason);
+    const Text text = filledIn(toText(qtTrId("NOW_PLAYING_TRYING_IN")), static_cast<long>(seconds));
+    return toQString(filledIn(text, toText(reason)));
 }
 
 } // namespace

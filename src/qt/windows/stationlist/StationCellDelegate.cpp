@@ -1,6 +1,6 @@
 #include "qt/windows/stationlist/StationCellDelegate.h"
 
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/kit/WrappedText.h"
 #include "qt/windows/stationlist/StationTableModel.h"

@@ -1,7 +1,7 @@
 // Finds stations by a part of their name or address.
 #pragma once
 
-#include "qt/windows/stationlist/SearchFolding.h"
+#include "base/SearchFolding.h"
 #include "ui/TableView.h"
 
 #include <QString>

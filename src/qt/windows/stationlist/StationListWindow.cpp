@@ -1,5 +1,6 @@
 #include "qt/windows/stationlist/StationListWindow.h"
 
+#include "model/StationListText.h"
 #include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/windows/stationlist/FindField.h"
@@ -28,7 +29,8 @@ QString stationListIn(const QMimeData& dragged)
     if (urls.size() != 1 || !urls.constFirst().isLocalFile())
         return {};
     const QFileInfo file(urls.constFirst().toLocalFile());
-    const bool isList = file.isFile() && file.suffix().compare(QStringLiteral("csv"), Qt::CaseInsensitive) == 0;
+    const bool isList =
+        file.isFile() && file.suffix().compare(QLatin1String(listTextExtension), Qt::CaseInsensitive) == 0;
     return isList ? file.absoluteFilePath() : QString();
 }
 

@@ -1,5 +1,6 @@
 #include "qt/windows/stationlist/StationTableModel.h"
 
+#include "model/KVStationWebRadio.h"
 #include "qt/kit/TextConversion.h"
 
 #include <array>
@@ -8,7 +9,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::array columnIdentifiers{"radio", "link"};
+constexpr std::array columnIdentifiers{radioKey, linkKey};
 /// A text that is longer than any window is wide is drawn cut, since laying out a very long one takes seconds.
 constexpr std::size_t maxBytesDrawn = 2'000;
 

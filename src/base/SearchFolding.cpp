@@ -1,43 +1,12 @@
-#include "qt/windows/stationlist/SearchFolding.h"
+#include "base/SearchFolding.h"
 
-#include <QList>
-#include <QString>
-
-#include <utility>
+#include "base/Ascii.h"
 
 namespace sonavel {
 
 namespace {
 
 constexpr char32_t replacementCharacter = 0xFFFD;
-
-char smallLetter(char byte)
-{
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
-}
-
-/// Letters whose stroke or ligature is no accent to Unicode, but to those who search.
-QString withoutStrokes(const QString& character)
-{
-    constexpr std::array<std::pair<char16_t, const char*>, 8> pairs{
-        {{u'ø', "o"}, {u'đ', "d"}, {u'ł', "l"}, {u'ħ', "h"}, {u'ŧ', "t"}, {u'ı', "i"}, {u'æ', "ae"}, {u'œ', "oe"}}};
-    for (const auto& [letter, plain] : pairs) {
-        if (character == letter)
-            return QString::fromLatin1(plain);
-    }
-    return character;
-}
-
-std::string fold(char32_t character)
-{
-    const QString decomposed = QString::fromUcs4(&character, 1).normalized(QString::NormalizationForm_KD);
-    QString kept;
-    for (const char32_t part : decomposed.toUcs4()) {
-        if (!QChar::isMark(part))
-            kept += QChar::fromUcs4(part);
-    }
-    return withoutStrokes(kept.toCaseFolded()).toStdString();
-}
 
 /// Takes one character outside ASCII off the front; bytes that are no UTF-8 are replacement characters.
 char32_t takeCharacter(std::string_view& bytes)
@@ -66,14 +35,14 @@ std::string_view SearchFolding::folded(std::string_view utf8)
     unsigned char bits = 0;
     for (std::size_t index = 0; index < utf8.size(); ++index) {
         bits = static_cast<unsigned char>(bits | static_cast<unsigned char>(utf8[index]));
-        folded_[index] = smallLetter(utf8[index]);
+        folded_[index] = asciiLowerCase(utf8[index]);
     }
     if (bits < 0x80)
         return folded_;
     folded_.clear();
     while (!utf8.empty()) {
         if (static_cast<unsigned char>(utf8.front()) < 0x80) {
-            folded_ += smallLetter(utf8.front());
+            folded_ += asciiLowerCase(utf8.front());
             utf8.remove_prefix(1);
         } else {
             folded_ += foldedCharacter(takeCharacter(utf8));
@@ -89,7 +58,7 @@ const std::string& SearchFolding::foldedCharacter(char32_t character)
         page = std::make_unique<Page>();
     std::optional<std::string>& folded = page->at(character & 0xFFU);
     if (!folded)
-        folded = fold(character);
+        folded = fold_(character);
     return *folded;
 }
 

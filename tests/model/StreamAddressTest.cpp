@@ -1,4 +1,4 @@
-#include "playback/StreamAddress.h"
+#include "model/StreamAddress.h"
 
 #include <gtest/gtest.h>
 
