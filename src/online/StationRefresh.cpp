@@ -61,7 +61,7 @@ Text StationRefresh::downloadedListText() const
 {
     HttpRequest request;
     request.address = percentEscaped(dataServer_.string().append(listResource));
-    return decodeStationList(httpClient_.sendSynchronousRequest(request));
+    return httpClient_.sendSynchronousRequest(request).map(decodeStationList).value_or(Text());
 }
 
 } // namespace sonavel

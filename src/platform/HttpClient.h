@@ -4,6 +4,8 @@
 #include "base/NonCopyable.h"
 #include "base/Text.h"
 
+#include <tl/expected.hpp>
+
 #include <chrono>
 #include <optional>
 #include <string>
@@ -27,15 +29,23 @@ struct HttpRequest {
     std::string body;
 };
 
+struct HttpFailure {
+    /// In one line, for logs.
+    std::string reason;
+};
+
+/// The body of an answer.
+using HttpResult = tl::expected<std::string, HttpFailure>;
+
 class HttpClient : private NonCopyable {
 public:
     virtual ~HttpClient() = default;
 
     /// Sends the request and returns when the body has arrived whole, whatever the HTTP status; it may be empty.
-    /// Nothing when the request failed: no network, no such host, refused, timed out, cut off, too large, redirected
-    /// too often or to something other than http and https. Bounded in time and memory whatever the server does. Main
-    /// thread; no action of the user is run meanwhile.
-    virtual std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) = 0;
+    /// Fails when there is no network or no such host, and when the request is refused, timed out, cut off, too large,
+    /// redirected too often or to something other than http and https. Bounded in time and memory whatever the server
+    /// does. Main thread; no action of the user is run meanwhile.
+    virtual HttpResult sendSynchronousRequest(const HttpRequest& request) = 0;
 };
 
 } // namespace sonavel

@@ -17,7 +17,7 @@ namespace {
 /// Answers when it is told to.
 class HeldHttpClient : public HttpClient {
 public:
-    std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) override
+    HttpResult sendSynchronousRequest(const HttpRequest& request) override
     {
         std::unique_lock lock(mutex_);
         released_.wait_for(lock, std::chrono::seconds(10), [this] { return isReleased_; });

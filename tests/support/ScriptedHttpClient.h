@@ -23,13 +23,15 @@ public:
     std::function<void()> whileAsking = [] {};
 
     /// Logged as "request ADDRESS".
-    std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) override
+    HttpResult sendSynchronousRequest(const HttpRequest& request) override
     {
         log_.push_back("request " + request.address.string());
         requests.push_back(request);
         whileAsking();
         const auto answer = answers.find(request.address.view());
-        return answer == answers.end() ? std::nullopt : std::optional(answer->second);
+        if (answer == answers.end())
+            return tl::unexpected(HttpFailure{"no such server"});
+        return answer->second;
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "adapters/network/CurlHttpClient.h"
 
 #include "adapters/network/CurlLibrary.h"
+#include "base/NonCopyable.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -19,12 +20,10 @@ const CurlLibrary& curl()
     return *CurlLibrary::shared();
 }
 
-struct HandleRelease {
-    void operator()(CURL* handle) const { curl().easyCleanup(handle); }
+struct HeadersRelease {
     void operator()(curl_slist* headers) const { curl().slistFreeAll(headers); }
 };
-using Handle = std::unique_ptr<CURL, HandleRelease>;
-using Headers = std::unique_ptr<curl_slist, HandleRelease>;
+using Headers = std::unique_ptr<curl_slist, HeadersRelease>;
 
 /// What has arrived so far. A body or heads beyond their limit end the request.
 struct Answer {
@@ -73,37 +72,55 @@ std::string hostsWithoutProxy()
     return hosts.append(others);
 }
 
-template <class Value> void set(const Handle& handle, CURLoption option, Value value)
-{
-    curl().easySetopt(handle.get(), option, value);
-}
+/// One transfer. Once an option cannot be set, as in a version of the library that does not know it, nothing is sent.
+class Transfer : private NonCopyable {
+public:
+    Transfer()
+        : handle_(curl().easyInit())
+        , status_(handle_ == nullptr ? CURLE_FAILED_INIT : CURLE_OK)
+    {
+    }
+    ~Transfer() { curl().easyCleanup(handle_); }
 
-void setSafety(const Handle& handle)
+    template <class Value> void set(CURLoption option, Value value)
+    {
+        if (status_ == CURLE_OK)
+            status_ = curl().easySetopt(handle_, option, value);
+    }
+
+    [[nodiscard]] CURLcode perform() { return status_ == CURLE_OK ? curl().easyPerform(handle_) : status_; }
+
+private:
+    CURL* handle_;
+    CURLcode status_;
+};
+
+void setSafety(Transfer& transfer)
 {
-    set(handle, CURLOPT_PROTOCOLS_STR, usableSchemes); // of redirections too
-    set(handle, CURLOPT_FOLLOWLOCATION, 1L);
-    set(handle, CURLOPT_MAXREDIRS, maxRedirections);
-    set(handle, CURLOPT_NOPROXY, hostsWithoutProxy().c_str());
-    set(handle, CURLOPT_NOSIGNAL, 1L);
+    transfer.set(CURLOPT_PROTOCOLS_STR, usableSchemes); // of redirections too
+    transfer.set(CURLOPT_FOLLOWLOCATION, 1L);
+    transfer.set(CURLOPT_MAXREDIRS, maxRedirections);
+    transfer.set(CURLOPT_NOPROXY, hostsWithoutProxy().c_str());
+    transfer.set(CURLOPT_NOSIGNAL, 1L);
     // Else the end of the request waits for a name server that does not answer, however long that takes.
-    set(handle, CURLOPT_QUICK_EXIT, 1L);
+    transfer.set(CURLOPT_QUICK_EXIT, 1L);
 }
 
-void setBounds(const Handle& handle, const HttpRequest& request, const CurlHttpClient::Limits& limits)
+void setBounds(Transfer& transfer, const HttpRequest& request, const CurlHttpClient::Limits& limits)
 {
     const auto whole = request.timeout.value_or(limits.wholeRequest);
     const auto connecting = std::min(whole, limits.connecting);
-    set(handle, CURLOPT_TIMEOUT_MS, std::max(1L, static_cast<long>(whole.count())));
-    set(handle, CURLOPT_CONNECTTIMEOUT_MS, std::max(1L, static_cast<long>(connecting.count())));
-    set(handle, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limits.body));
+    transfer.set(CURLOPT_TIMEOUT_MS, std::max(1L, static_cast<long>(whole.count())));
+    transfer.set(CURLOPT_CONNECTTIMEOUT_MS, std::max(1L, static_cast<long>(connecting.count())));
+    transfer.set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limits.body));
 }
 
-void receiveInto(Answer& answer, const Handle& handle)
+void receiveInto(Answer& answer, Transfer& transfer)
 {
-    set(handle, CURLOPT_WRITEFUNCTION, &Answer::receiveBody);
-    set(handle, CURLOPT_WRITEDATA, &answer);
-    set(handle, CURLOPT_HEADERFUNCTION, &Answer::receiveHeadLine);
-    set(handle, CURLOPT_HEADERDATA, &answer);
+    transfer.set(CURLOPT_WRITEFUNCTION, &Answer::receiveBody);
+    transfer.set(CURLOPT_WRITEDATA, &answer);
+    transfer.set(CURLOPT_HEADERFUNCTION, &Answer::receiveHeadLine);
+    transfer.set(CURLOPT_HEADERDATA, &answer);
 }
 
 void appendHeader(Headers& headers, const std::string& line)
@@ -121,14 +138,14 @@ Headers headersOf(const HttpRequest& request)
     return headers;
 }
 
-/// `request` must outlive the use of the handle.
-void setContent(const Handle& handle, const HttpRequest& request, const Headers& headers)
+/// `request` must outlive the transfer.
+void setContent(Transfer& transfer, const HttpRequest& request, const Headers& headers)
 {
-    set(handle, CURLOPT_URL, request.address.string().c_str());
-    set(handle, CURLOPT_HTTPHEADER, headers.get());
+    transfer.set(CURLOPT_URL, request.address.string().c_str());
+    transfer.set(CURLOPT_HTTPHEADER, headers.get());
     if (request.method == HttpRequest::Method::Post) {
-        set(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
-        set(handle, CURLOPT_POSTFIELDS, request.body.data());
+        transfer.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
+        transfer.set(CURLOPT_POSTFIELDS, request.body.data());
     }
 }
 
@@ -150,22 +167,24 @@ CurlHttpClient::CurlHttpClient(const Text& version, const Limits& limits)
 {
 }
 
-std::optional<std::string> CurlHttpClient::sendSynchronousRequest(const HttpRequest& request)
+HttpResult CurlHttpClient::sendSynchronousRequest(const HttpRequest& request)
 {
-    const Handle handle(CurlLibrary::shared() == nullptr ? nullptr : curl().easyInit());
-    if (!handle)
-        return std::nullopt;
-
+    const auto failure = [](const char* reason) { return tl::unexpected(HttpFailure{reason}); };
+    if (CurlLibrary::shared() == nullptr)
+        return failure("libcurl cannot be loaded");
     Answer answer(limits_);
     const Headers headers = headersOf(request);
-    setSafety(handle);
-    setBounds(handle, request, limits_);
-    receiveInto(answer, handle);
-    setContent(handle, request, headers);
-    set(handle, CURLOPT_USERAGENT, userAgent_.c_str());
+    Transfer transfer;
+    setSafety(transfer);
+    setBounds(transfer, request, limits_);
+    receiveInto(answer, transfer);
+    setContent(transfer, request, headers);
+    transfer.set(CURLOPT_USERAGENT, userAgent_.c_str());
+    if (const CURLcode status = transfer.perform(); status != CURLE_OK)
+        return failure(curl().easyStrerror(status));
     // A connection that ends within the head is an empty body to libcurl.
-    if (curl().easyPerform(handle.get()) != CURLE_OK || !answer.isHeadWhole)
-        return std::nullopt;
+    if (!answer.isHeadWhole)
+        return failure("the answer ended within its head");
     return std::move(answer.body);
 }
 

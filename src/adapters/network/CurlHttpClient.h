@@ -6,8 +6,8 @@
 namespace sonavel {
 
 /// Verifies certificates, goes through the proxies that the environment names (never for this machine itself), stores
-/// no cookies and caches nothing. Bodies are handed over as they were sent, encoded or not. May be called on any one
-/// thread at a time.
+/// no cookies and caches nothing. Sends nothing when the library cannot keep to the limits. Bodies are handed over as
+/// they were sent, encoded or not. May be called on any one thread at a time.
 class CurlHttpClient : public HttpClient {
 public:
     /// A request that goes beyond one of these has failed.
@@ -28,7 +28,7 @@ public:
     explicit CurlHttpClient(const Text& version);
     CurlHttpClient(const Text& version, const Limits& limits);
 
-    std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) override;
+    HttpResult sendSynchronousRequest(const HttpRequest& request) override;
 
 private:
     std::string userAgent_;

@@ -1,8 +1,11 @@
 #include "qt/ports/AwaitingHttpClient.h"
 
+#include "qt/kit/TextConversion.h"
+
 #include <QEventLoop>
 #include <QMetaObject>
 #include <QTimer>
+#include <QUrl>
 
 #include <thread>
 
@@ -14,9 +17,9 @@ AwaitingHttpClient::AwaitingHttpClient(HttpClient& client, std::chrono::millisec
 {
 }
 
-std::optional<std::string> AwaitingHttpClient::sendSynchronousRequest(const HttpRequest& request)
+HttpResult AwaitingHttpClient::sendSynchronousRequest(const HttpRequest& request)
 {
-    std::optional<std::string> answer;
+    HttpResult answer;
     QEventLoop loop;
     std::thread worker([&] {
         answer = client_.sendSynchronousRequest(request);
@@ -34,6 +37,9 @@ std::optional<std::string> AwaitingHttpClient::sendSynchronousRequest(const Http
     worker.join();
     if (!patience.isActive() && slowRequestEnded_)
         slowRequestEnded_();
+    if (!answer)
+        qWarning("sonavel: no answer from %s: %s", qUtf8Printable(QUrl(toQString(request.address)).host()),
+            answer.error().reason.c_str());
     return answer;
 }
 

@@ -27,7 +27,7 @@ public:
         slowRequestEnded_ = std::move(ended);
     }
 
-    std::optional<std::string> sendSynchronousRequest(const HttpRequest& request) override;
+    HttpResult sendSynchronousRequest(const HttpRequest& request) override;
 
 private:
     HttpClient& client_;
