@@ -79,6 +79,10 @@
         <source>Stations imported: %li.</source>
         <translation>Importierte Sender: %li.</translation>
     </message>
+    <message id="STATUS_FILE_NOT_READ">
+        <source>The file could not be read: %@</source>
+        <translation>Die Datei konnte nicht gelesen werden: %@</translation>
+    </message>
     <message id="STATUS_NOTHING_IMPORTED">
         <source>No stations were found in the file.</source>
         <translation>In der Datei wurden keine Sender gefunden.</translation>

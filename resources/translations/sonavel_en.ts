@@ -79,6 +79,10 @@
         <source>Stations imported: %li.</source>
         <translation>Stations imported: %li.</translation>
     </message>
+    <message id="STATUS_FILE_NOT_READ">
+        <source>The file could not be read: %@</source>
+        <translation>The file could not be read: %@</translation>
+    </message>
     <message id="STATUS_NOTHING_IMPORTED">
         <source>No stations were found in the file.</source>
         <translation>No stations were found in the file.</translation>

@@ -79,6 +79,10 @@
         <source>Stations imported: %li.</source>
         <translation>Emisoras importadas: %li.</translation>
     </message>
+    <message id="STATUS_FILE_NOT_READ">
+        <source>The file could not be read: %@</source>
+        <translation>No se ha podido leer el archivo: %@</translation>
+    </message>
     <message id="STATUS_NOTHING_IMPORTED">
         <source>No stations were found in the file.</source>
         <translation>No se ha encontrado ninguna emisora en el archivo.</translation>

@@ -79,6 +79,10 @@
         <source>Stations imported: %li.</source>
         <translation>Stations importées : %li.</translation>
     </message>
+    <message id="STATUS_FILE_NOT_READ">
+        <source>The file could not be read: %@</source>
+        <translation>Le fichier n’a pas pu être lu : %@</translation>
+    </message>
     <message id="STATUS_NOTHING_IMPORTED">
         <source>No stations were found in the file.</source>
         <translation>Aucune station n’a été trouvée dans le fichier.</translation>

@@ -79,6 +79,10 @@
         <source>Stations imported: %li.</source>
         <translation>Stazioni importate: %li.</translation>
     </message>
+    <message id="STATUS_FILE_NOT_READ">
+        <source>The file could not be read: %@</source>
+        <translation>Impossibile leggere il file: %@</translation>
+    </message>
     <message id="STATUS_NOTHING_IMPORTED">
         <source>No stations were found in the file.</source>
         <translation>Nel file non è stata trovata nessuna stazione.</translation>

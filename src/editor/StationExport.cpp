@@ -20,7 +20,7 @@ void StationExport::exportRadioListIntoFile()
     if (path.isAbsent())
         return;
     const std::string text = listTextFromRecords(*stationList_.listRadio(), Heading::FieldNames);
-    files_.writeAtomically(path, text, FileAccess::AsUsual);
+    files_.writeAtomically({UserFile::Kind::Other, path}, text, FileAccess::AsUsual);
 }
 
 } // namespace sonavel

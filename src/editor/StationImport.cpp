@@ -82,18 +82,18 @@ void StationImport::importRadioListFromFile()
 
 void StationImport::importRadioListFromFileAtPath(const Text& path)
 {
-    Text rescueCopy;
+    Text backup;
     if (stationList_.numberOfStations() > 0 && isToReplaceList()) {
-        rescueCopy = stationDatabase_.keepListBeforeImport();
-        if (rescueCopy.isAbsent())
+        backup = stationDatabase_.keepListBeforeImport();
+        if (backup.isAbsent())
             return controls_.labelListStatus.announce(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
         listWriter_.apply(ListChange::replaced(*stationList_.listRadio(), {}));
     }
-    const Text text = listTextOfPlainFile(files_, path);
-    const Outcome outcome = text.isAbsent() ? Outcome() : appendStations(text);
+    const auto text = listTextOfPlainFile(files_, path);
+    const auto outcome = text.map([this](const Text& list) { return appendStations(list); });
     listWriter_.follow(ListOperation::ImportEnded);
-    tellOutcome(outcome, rescueCopy);
-    if (outcome.hasDuplicates)
+    announce(outcome, backup);
+    if (outcome && outcome->hasDuplicates)
         notify("AS_DUPLICATED_DATA");
 }
 
@@ -141,15 +141,21 @@ void StationImport::notify(std::string_view message) const
     alerts_.runModal({strings.localizedStringForKey(message), {strings.localizedStringForKey("BUTTON_CONTINUE")}});
 }
 
-void StationImport::tellOutcome(const Outcome& outcome, const Text& rescueCopy)
+Text StationImport::statusOf(const FileResult<Outcome>& outcome) const
 {
-    const auto& strings = localizedStrings_;
-    std::string status = outcome.imported == 0
-        ? strings.localizedStringForKey("STATUS_NOTHING_IMPORTED").string()
-        : filledIn(strings.localizedStringForKey("STATUS_IMPORTED"), static_cast<long>(outcome.imported)).string();
-    if (!rescueCopy.isAbsent()) {
-        const Text name = rescueCopy.view().substr(rescueCopy.view().rfind('/') + 1);
-        status.append(" ").append(filledIn(strings.localizedStringForKey("STATUS_LIST_KEPT"), name).view());
+    const auto text = [this](std::string_view key) { return localizedStrings_.localizedStringForKey(key); };
+    if (!outcome)
+        return filledIn(text("STATUS_FILE_NOT_READ"), Text(outcome.error().message()));
+    return outcome->imported == 0 ? text("STATUS_NOTHING_IMPORTED")
+                                  : filledIn(text("STATUS_IMPORTED"), static_cast<long>(outcome->imported));
+}
+
+void StationImport::announce(const FileResult<Outcome>& outcome, const Text& backup)
+{
+    std::string status = statusOf(outcome).string();
+    if (!backup.isAbsent()) {
+        const Text name = backup.view().substr(backup.view().rfind('/') + 1);
+        status.append(" ").append(filledIn(localizedStrings_.localizedStringForKey("STATUS_LIST_KEPT"), name).view());
     }
     controls_.labelListStatus.announce(status);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/NonCopyable.h"
-#include "base/Text.h"
+#include "platform/Files.h"
 
 #include <string_view>
 
@@ -10,7 +10,6 @@ namespace sonavel {
 
 class Alerts;
 class FilePanels;
-class Files;
 class ListWriter;
 class LocalizedStrings;
 class StationDatabase;
@@ -29,7 +28,7 @@ public:
     void importRadioListFromFile();
 
     /// Appends the stations of a plain list file, in the order of its lines, to the list, or replaces the list by them:
-    /// the user is asked when there are stations. The list that is replaced is kept as a rescue copy first; where that
+    /// the user is asked when there are stations. The list that is replaced is kept as a backup first; where that
     /// fails, nothing is imported. A name that the list holds gets a number behind it. A file that cannot be read has
     /// no stations. Stores the list; neither sorts it nor refreshes the title. Table and pop-ups show the list as it
     /// was before the last line.
@@ -44,7 +43,8 @@ private:
     [[nodiscard]] bool isToReplaceList() const;
     [[nodiscard]] Outcome appendStations(const Text& text);
     void notify(std::string_view message) const;
-    void tellOutcome(const Outcome& outcome, const Text& rescueCopy);
+    [[nodiscard]] Text statusOf(const FileResult<Outcome>& outcome) const;
+    void announce(const FileResult<Outcome>& outcome, const Text& backup);
 
     const StationList& stationList_;
     ListWriter& listWriter_;

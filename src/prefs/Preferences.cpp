@@ -1,18 +1,12 @@
 #include "prefs/Preferences.h"
 
+#include "platform/UserFile.h"
 #include "prefs/PreferenceTexts.h"
 #include "ui/Window.h"
 
-#include <string_view>
 #include <utility>
 
 namespace sonavel {
-
-namespace {
-
-constexpr std::string_view domainName = "Mertzan-Software.Sonavel.plist";
-
-} // namespace
 
 Preferences::Preferences(PreferenceDomains& domains, Bundle bundle, const Window& winWebRadioListEdit)
     : domains_(domains)
@@ -28,7 +22,7 @@ void Preferences::setStartValues()
 
 void Preferences::loadingPreference()
 {
-    const auto domain = domains_.persistentDomainForName(domainName);
+    const auto domain = domains_.persistentDomainForName(preferenceDomainName);
     if (domain)
         readPreferenceTexts(*domain, *this);
     else
@@ -41,7 +35,7 @@ void Preferences::updatePreference()
     PreferenceDomain domain = preferenceTexts(*this);
     domain.insert_or_assign("appVersion", bundle_.shortVersion);
     domain.insert_or_assign("appBuild", bundle_.version);
-    domains_.setPersistentDomainForName(domain, domainName);
+    domains_.setPersistentDomainForName(domain, preferenceDomainName);
     domains_.synchronize();
 }
 

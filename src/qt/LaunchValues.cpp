@@ -1,5 +1,7 @@
 #include "qt/LaunchValues.h"
 
+#include "platform/UserFile.h"
+
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -33,7 +35,7 @@ QMap<QString, QString> readConfiguration()
 {
     QMap<QString, QString> configuration;
     const QStringList files =
-        QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, QStringLiteral("sonavel/sonavel.conf"));
+        QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, QLatin1String(configurationName.data()));
     for (const QString& path : files) {
         const QSettings file(path, QSettings::IniFormat);
         for (const LaunchOption& option : options) {

@@ -155,8 +155,9 @@ Program::Program(std::unique_ptr<Parts> parts)
     parts_->httpClient.setSlowRequestObserver(
         [this](const HttpRequest& request) { showWaiting(QUrl(toQString(request.address)).host()); },
         [this] { parts_->splashScreen.reset(); });
-    parts_->files.setWriteFailureObserver(
-        [this](const Text& path, const Text& why) { parts_->windows.showNotice(saveFailureText(path, why)); });
+    parts_->files.setSaveFailureObserver([this](const UserFile& file, const std::error_code& why) {
+        parts_->windows.showNotice(saveFailureText(file, why));
+    });
     parts_->process.beforeExit([this] { leaveWindows(); });
 }
 

@@ -6,20 +6,23 @@ namespace sonavel {
 
 namespace {
 
-const char* keyOf(const QString& path)
+const char* keyOf(UserFile::Kind kind)
 {
-    if (path.endsWith(QStringLiteral("/radiolist.rdb")))
+    switch (kind) {
+    case UserFile::Kind::StationList:
         return "NOTICE_STATIONS_NOT_SAVED";
-    if (path.endsWith(QStringLiteral(".plist")))
+    case UserFile::Kind::Preferences:
         return "NOTICE_PREFERENCES_NOT_SAVED";
-    return "NOTICE_FILE_NOT_SAVED";
+    default:
+        return "NOTICE_FILE_NOT_SAVED";
+    }
 }
 
 } // namespace
 
-QString saveFailureText(const Text& path, const Text& why)
+QString saveFailureText(const UserFile& file, const std::error_code& why)
 {
-    return qtTrId(keyOf(toQString(path))).replace(QStringLiteral("%@"), onOneLine(toQString(why)));
+    return qtTrId(keyOf(file.kind)).replace(QStringLiteral("%@"), onOneLine(QString::fromStdString(why.message())));
 }
 
 } // namespace sonavel

@@ -1,13 +1,15 @@
 // A file of the user that could not be written, in words.
 #pragma once
 
-#include "base/Text.h"
+#include "platform/UserFile.h"
 
 #include <QString>
 
+#include <system_error>
+
 namespace sonavel {
 
-/// One line in the user's language; `why` in the system's words.
-[[nodiscard]] QString saveFailureText(const Text& path, const Text& why);
+/// One line in the user's language, with the reason in the system's words.
+[[nodiscard]] QString saveFailureText(const UserFile& file, const std::error_code& why);
 
 } // namespace sonavel

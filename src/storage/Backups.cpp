@@ -16,15 +16,15 @@ constexpr std::size_t copiesKept = 3;
 /// Higher numbers are not ours; the next one must not overflow.
 constexpr std::uint32_t maxNumber = 999'999'999;
 
-/// How the backups of one file for one reason are named.
+/// How the backups of one file with one mark are named.
 class CopyNames {
 public:
-    CopyNames(std::string_view path, std::string_view reason)
+    CopyNames(std::string_view path, std::string_view mark)
         : folder_(path.substr(0, path.rfind('/') + 1))
     {
         const std::string_view name = path.substr(folder_.size());
         const std::size_t dot = std::min(name.rfind('.'), name.size());
-        head_.append(name.substr(0, dot)).append(".").append(reason);
+        head_.append(name.substr(0, dot)).append(".").append(mark);
         extension_ = name.substr(dot);
     }
 
@@ -58,47 +58,51 @@ private:
 
 using CopiesByNumber = std::map<std::uint32_t, Text>;
 
-CopiesByNumber copiesPresent(const Files& files, const CopyNames& names)
+CopiesByNumber copiesAmong(const std::vector<std::string>& present, const CopyNames& names)
 {
     CopiesByNumber copies;
-    for (const std::string& name : files.namesInFolder(names.folder()))
+    for (const std::string& name : present)
         if (const auto number = names.numberOf(name))
             copies.emplace(*number, names.pathOf(*number));
     return copies;
 }
 
-using Keep = bool (Files::*)(const Text& path, const Text& copy);
-
-Text keep(Files& files, const Text& path, std::string_view reason, Keep operation)
+/// `operation` makes the copy at the path that it is given.
+FileResult<Text> keep(Files& files, const Text& path, std::string_view mark, auto&& operation)
 {
-    const CopyNames names(path.view(), reason);
-    CopiesByNumber copies = copiesPresent(files, names);
+    const CopyNames names(path.view(), mark);
+    const auto present = files.namesInFolder(names.folder());
+    if (!present)
+        return tl::unexpected(present.error());
+    CopiesByNumber copies = copiesAmong(*present, names);
     const std::uint32_t number = copies.empty() ? 1 : copies.rbegin()->first + 1;
-    Text copy = names.pathOf(number);
-    if (!(files.*operation)(path, copy))
-        return {};
-    copies.emplace(number, copy);
-    for (; copies.size() > copiesKept; copies.erase(copies.begin()))
-        files.removeFile(copies.begin()->second);
-    return copy;
+    return operation(names.pathOf(number)).map([&] {
+        copies.emplace(number, names.pathOf(number));
+        for (; copies.size() > copiesKept; copies.erase(copies.begin()))
+            files.removeFile(copies.begin()->second);
+        return names.pathOf(number);
+    });
 }
 
 } // namespace
 
-Text keepBackup(Files& files, const Text& path, std::string_view reason)
+FileResult<Text> keepBackup(Files& files, const Text& path, std::string_view mark)
 {
-    return keep(files, path, reason, &Files::keepCopy);
+    return keep(files, path, mark, [&](const Text& copy) {
+        return files.keepCopy(path, {UserFile::Kind::Backup, copy});
+    });
 }
 
-Text quarantine(Files& files, const Text& path, std::string_view reason)
+FileResult<Text> quarantine(Files& files, const Text& path, std::string_view mark)
 {
-    return keep(files, path, reason, &Files::moveFile);
+    return keep(files, path, mark, [&](const Text& copy) { return files.moveFile(path, copy); });
 }
 
-bool keepDamaged(Files& files, const Text& path)
+FileResult<Text> keepDamaged(Files& files, const Text& path)
 {
-    constexpr std::string_view reason = "damaged";
-    return !keepBackup(files, path, reason).isAbsent() || !quarantine(files, path, reason).isAbsent();
+    return keepBackup(files, path, damagedMark).or_else([&](const std::error_code&) {
+        return quarantine(files, path, damagedMark);
+    });
 }
 
 } // namespace sonavel

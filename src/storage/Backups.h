@@ -7,16 +7,16 @@
 
 namespace sonavel {
 
-/// Gives the content of `path` a further name in its folder, made of the file's own and of `reason` ("damaged"), and
+/// Gives the content of `path` a further name in its folder, made of the file's own and of `mark` ("damaged"), and
 /// removes all but the newest three copies of that kind. A later copy has a higher number than those present, from "-2"
-/// on. Answers the copy's path; absent when the content could not be kept, and nothing has changed then.
-[[nodiscard]] Text keepBackup(Files& files, const Text& path, std::string_view reason);
+/// on. Gives the copy's path; after a failure nothing has changed.
+[[nodiscard]] FileResult<Text> keepBackup(Files& files, const Text& path, std::string_view mark);
 
 /// The same by renaming, so that nothing is left at `path`; takes folders too.
-[[nodiscard]] Text quarantine(Files& files, const Text& path, std::string_view reason);
+[[nodiscard]] FileResult<Text> quarantine(Files& files, const Text& path, std::string_view mark);
 
 /// Keeps what cannot be read as "damaged", so that a new file may take its place: in either way, as the second also
-/// works for folders. False when neither does; then it must not be replaced.
-[[nodiscard]] bool keepDamaged(Files& files, const Text& path);
+/// works for folders. When both fail it must not be replaced.
+[[nodiscard]] FileResult<Text> keepDamaged(Files& files, const Text& path);
 
 } // namespace sonavel

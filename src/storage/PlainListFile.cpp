@@ -1,17 +1,17 @@
 #include "storage/PlainListFile.h"
 
 #include "base/ForeignText.h"
-#include "platform/Files.h"
 
 namespace sonavel {
 
-Text listTextOfPlainFile(const Files& files, const Text& path)
+FileResult<Text> listTextOfPlainFile(const Files& files, const Text& path)
 {
-    auto content = files.contentsOfFile(path);
-    if (!content || !isValidUtf8(*content))
-        return {};
-    const Text text(std::move(*content));
-    return text.slice(withoutByteOrderMark(text.view()));
+    return files.contentsOfFile(path).and_then([](std::string content) -> FileResult<Text> {
+        if (!isValidUtf8(content))
+            return tl::unexpected(std::make_error_code(std::errc::illegal_byte_sequence));
+        const Text text(std::move(content));
+        return text.slice(withoutByteOrderMark(text.view()));
+    });
 }
 
 } // namespace sonavel

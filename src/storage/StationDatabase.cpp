@@ -11,23 +11,22 @@ namespace sonavel {
 StationDatabase::StationDatabase(Files& files, const StationList& list)
     : files_(files)
     , list_(list)
-    , folder_(files.homeDirectory().string() + "/Library/Preferences")
-    , databasePath_(folder_.string() + "/radiolist.rdb")
-    , legacyPath_(folder_.string() + "/radiolist.csv")
+    , database_(stationDatabaseFile(files.homeDirectory()))
+    , legacyList_(legacyListFile(files.homeDirectory()))
 {
 }
 
 bool StationDatabase::fileRadioDBVerify(bool legacy) const
 {
-    return files_.fileExists(legacy ? legacyPath_ : databasePath_);
+    return files_.fileExists(legacy ? legacyList_.path : database_.path);
 }
 
 Text StationDatabase::fileRadioDBreadCypted(bool crypted)
 {
     if (!crypted)
-        return listTextOfPlainFile(files_, legacyPath_);
-    files_.removeUnfinishedWrite(databasePath_);
-    Text text = decodeStationList(files_.contentsOfFile(databasePath_));
+        return listTextOfPlainFile(files_, legacyList_.path).value_or(Text());
+    files_.removeUnfinishedWrite(database_.path);
+    Text text = files_.contentsOfFile(database_.path).map(decodeStationList).value_or(Text());
     databaseMayBeReplaced_ = !text.isAbsent();
     return text;
 }
@@ -41,20 +40,20 @@ void StationDatabase::fileRadioDBupdate()
 void StationDatabase::quarantineLegacyFile()
 {
     // Where it cannot be renamed it stays as it is, which loses nothing.
-    (void)quarantine(files_, legacyPath_, "damaged");
+    (void)quarantine(files_, legacyList_.path, damagedMark);
 }
 
 Text StationDatabase::keepListBeforeImport()
 {
-    return writeList() ? keepBeforeImport() : Text();
+    return writeList() ? keepBeforeImport().value_or(Text()) : Text();
 }
 
 bool StationDatabase::writeList()
 {
-    if (list_.listRadio() == nullptr || !files_.makeFolder(folder_) || !keepUnreadDatabase())
+    if (list_.listRadio() == nullptr || !files_.makeFolderOf(database_) || !keepUnreadDatabase())
         return false;
     const Text content = encodeStationList(listTextFromRecords(*list_.listRadio(), Heading::None));
-    if (content.isAbsent() || !files_.writeAtomically(databasePath_, content.view()))
+    if (content.isAbsent() || !files_.writeAtomically(database_, content.view()))
         return false;
     databaseMayBeReplaced_ = true;
     return true;
@@ -62,21 +61,24 @@ bool StationDatabase::writeList()
 
 bool StationDatabase::keepUnreadDatabase()
 {
-    if (databaseMayBeReplaced_ || !fileRadioDBVerify(false))
+    if (databaseMayBeReplaced_)
         return true;
-    const bool isReadable = !decodeStationList(files_.contentsOfFile(databasePath_)).isAbsent();
-    databaseMayBeReplaced_ = isReadable ? !keepBeforeImport().isAbsent() : keepDamaged(files_, databasePath_);
+    const auto content = files_.contentsOfFile(database_.path);
+    if (!content && isAbsent(content.error()))
+        return true;
+    const bool isReadable = content && !decodeStationList(*content).isAbsent();
+    databaseMayBeReplaced_ = (isReadable ? keepBeforeImport() : keepDamaged(files_, database_.path)).has_value();
     return databaseMayBeReplaced_;
 }
 
-Text StationDatabase::keepBeforeImport()
+FileResult<Text> StationDatabase::keepBeforeImport()
 {
-    return keepBackup(files_, databasePath_, "before-import");
+    return keepBackup(files_, database_.path, beforeImportMark);
 }
 
 void StationDatabase::removeLegacyFile()
 {
-    legacyRemovalDue_ = !files_.removeFile(legacyPath_) && fileRadioDBVerify(true);
+    legacyRemovalDue_ = !files_.removeFile(legacyList_.path) && fileRadioDBVerify(true);
 }
 
 } // namespace sonavel

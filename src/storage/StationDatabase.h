@@ -51,14 +51,13 @@ public:
 private:
     [[nodiscard]] bool writeList();
     [[nodiscard]] bool keepUnreadDatabase();
-    [[nodiscard]] Text keepBeforeImport();
+    [[nodiscard]] FileResult<Text> keepBeforeImport();
     void removeLegacyFile();
 
     Files& files_;
     const StationList& list_;
-    const Text folder_;
-    const Text databasePath_;
-    const Text legacyPath_;
+    const UserFile database_;
+    const UserFile legacyList_;
     bool databaseMayBeReplaced_ = false;
     bool legacyRemovalDue_ = false;
 };

@@ -13,9 +13,9 @@ Text encodeStationList(std::string listText)
     return bytes ? base64Encoding(*bytes) : Text();
 }
 
-Text decodeStationList(std::optional<std::string> content)
+Text decodeStationList(std::string content)
 {
-    return content ? AES256DecryptWithKey(Text(std::move(*content)), stationDatabasePassphrase) : Text();
+    return AES256DecryptWithKey(Text(std::move(content)), stationDatabasePassphrase);
 }
 
 } // namespace sonavel

@@ -3,7 +3,6 @@
 
 #include "base/Text.h"
 
-#include <optional>
 #include <string>
 
 namespace sonavel {
@@ -12,8 +11,8 @@ namespace sonavel {
 /// for 2 GiB and above.
 [[nodiscard]] Text encodeStationList(std::string listText);
 
-/// The list text that was encoded. Absent for no content, and for one that cannot be decrypted or is no valid UTF-8
-/// then. Content outside ASCII needs no check beforehand: it does not decode.
-[[nodiscard]] Text decodeStationList(std::optional<std::string> content);
+/// The list text that was encoded. Absent when the content cannot be decrypted or is no valid UTF-8 then. Content
+/// outside ASCII needs no check beforehand: it does not decode.
+[[nodiscard]] Text decodeStationList(std::string content);
 
 } // namespace sonavel

@@ -85,8 +85,11 @@ bool write(const std::string& path, std::string_view bytes)
     if (path == standardStream)
         return print(bytes);
     PosixFiles files{Text()};
-    files.setWriteFailureObserver([&path](const Text&, const Text& why) { complain(path, why.string()); });
-    return files.writeAtomically(std::filesystem::absolute(path).string(), bytes, FileAccess::AsUsual);
+    const UserFile file{UserFile::Kind::Other, std::filesystem::absolute(path).string()};
+    const auto written = files.writeAtomically(file, bytes, FileAccess::AsUsual);
+    if (!written)
+        complain(path, written.error().message());
+    return written.has_value();
 }
 
 /// How many places of a list the reading left out or changed.

@@ -162,7 +162,7 @@ TEST_F(StationImportTest, OddFilesGiveTheStationsThatTheyHold)
     keepStations(0);
     controller.stationImport.importRadioListFromFile();
     EXPECT_EQ(list(), "");
-    EXPECT_EQ(status(), "<STATUS_NOTHING_IMPORTED>");
+    EXPECT_EQ(status(), "<STATUS_FILE_NOT_READ>");
 }
 
 TEST_F(StationImportTest, TheSameOutcomeIsAnnouncedAnew)

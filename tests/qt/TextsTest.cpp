@@ -46,14 +46,14 @@ TEST(NowPlayingLine, SaysWhatTheListenerWantsToKnow)
 
 TEST(SaveFailures, NameWhatIsNotSavedAndWhy)
 {
-    const Text why("No space left on device");
-    const std::pair<const char*, const char*> cases[] = {
-        {"/home/u/Library/Preferences/radiolist.rdb", "The station list could not be saved: No space left on device"},
-        {"/home/u/Library/Preferences/Any.plist", "The preferences could not be saved: No space left on device"},
-        {"/home/u/Library", "A file could not be saved: No space left on device"},
+    const auto why = std::make_error_code(std::errc::no_space_on_device);
+    const std::pair<UserFile, const char*> cases[] = {
+        {stationDatabaseFile("/home/u"), "The station list could not be saved: No space left on device"},
+        {preferencesFile("/home/u", "Any.plist"), "The preferences could not be saved: No space left on device"},
+        {{UserFile::Kind::Other, "/home/u/radiolist.rdb"}, "A file could not be saved: No space left on device"},
     };
-    for (const auto& [path, line] : cases)
-        EXPECT_EQ(saveFailureText(path, why).toStdString(), line);
+    for (const auto& [file, line] : cases)
+        EXPECT_EQ(saveFailureText(file, why).toStdString(), line);
 }
 
 TEST(Conversion, NothingFromOutsideBecomesMarkupOrAShortcut)

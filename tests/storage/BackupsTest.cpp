@@ -22,7 +22,7 @@ TEST(Backups, TheNewestThreeAreKeptUnderRisingNumbers)
     MemoryFiles files;
     for (int turn = 1; turn <= 5; ++turn) {
         files.files[path] = std::to_string(turn);
-        EXPECT_FALSE(keepBackup(files, path, "damaged").isAbsent());
+        EXPECT_TRUE(keepBackup(files, path, "damaged"));
     }
     EXPECT_EQ(names(files),
         (std::set<std::string>{
@@ -38,7 +38,7 @@ TEST(Backups, OtherFilesAreNotTakenForCopies)
     for (const std::string& other : others)
         files.files["/home/" + other.substr(0, other.size() - 1)] = "";
     files.files[path] = "now";
-    EXPECT_FALSE(quarantine(files, path, "damaged").isAbsent());
+    EXPECT_TRUE(quarantine(files, path, "damaged"));
     std::set<std::string> expected = others;
     expected.insert("list.old.damaged.rdb=now");
     EXPECT_EQ(names(files), expected);
@@ -52,9 +52,9 @@ TEST(Backups, AFailedCopyRemovesNoOlderOne)
     files.files[path] = "now";
     const auto before = names(files);
     files.failAll("keep");
-    EXPECT_TRUE(keepBackup(files, path, "damaged").isAbsent());
+    EXPECT_FALSE(keepBackup(files, path, "damaged"));
     files.failAll("list");
-    EXPECT_TRUE(keepBackup(files, path, "damaged").isAbsent());
+    EXPECT_FALSE(keepBackup(files, path, "damaged"));
     EXPECT_EQ(names(files), before);
 }
 

@@ -41,21 +41,24 @@ public:
         return files.contains(path.string()) || isFolder(path.string());
     }
 
-    [[nodiscard]] std::optional<std::string> contentsOfFile(const Text& path) const override
+    [[nodiscard]] FileResult<std::string> contentsOfFile(const Text& path) const override
     {
-        if (fails("read " + path.string()) || !files.contains(path.string()) || unreadable.contains(path.string()))
-            return std::nullopt;
+        if (fails("read " + path.string()) || unreadable.contains(path.string()) || isFolder(path.string()))
+            return failure();
+        if (!files.contains(path.string()))
+            return failure(std::errc::no_such_file_or_directory);
         return files.at(path.string());
     }
 
-    bool writeAtomically(
-        const Text& path, std::string_view bytes, FileAccess /*access*/ = FileAccess::OwnerOnly) override
+    FileResult<> writeAtomically(
+        const UserFile& file, std::string_view bytes, FileAccess /*access*/ = FileAccess::OwnerOnly) override
     {
-        if (fails("write " + path.string()) || isFolder(path.string()) || !isFolder(folderOf(path.string())))
-            return false;
-        files[path.string()] = std::string(bytes);
-        unreadable.erase(path.string());
-        return true;
+        const std::string path = file.path.string();
+        if (fails("write " + path) || isFolder(path) || !isFolder(folderOf(path)))
+            return failure();
+        files[path] = std::string(bytes);
+        unreadable.erase(path);
+        return {};
     }
 
     void removeUnfinishedWrite(const Text& path) override
@@ -65,49 +68,51 @@ public:
         files.erase(whole.substr(0, name) + "." + whole.substr(name) + ".saving");
     }
 
-    bool keepCopy(const Text& path, const Text& copy) override
+    FileResult<> keepCopy(const Text& path, const UserFile& copy) override
     {
-        if (fails("keep " + path.string() + " " + copy.string()) || !files.contains(path.string()) || fileExists(copy))
-            return false;
-        files[copy.string()] = files.at(path.string());
+        const std::string name = copy.path.string();
+        if (fails("keep " + path.string() + " " + name) || !files.contains(path.string()) || fileExists(copy.path))
+            return failure();
+        files[name] = files.at(path.string());
         if (unreadable.contains(path.string()))
-            unreadable.insert(copy.string());
-        return true;
+            unreadable.insert(name);
+        return {};
     }
 
-    bool moveFile(const Text& path, const Text& newPath) override
+    FileResult<> moveFile(const Text& path, const Text& newPath) override
     {
-        if (fails("move " + path.string() + " " + newPath.string()) || fileExists(newPath))
-            return false;
-        if (isFolder(path.string()))
-            return folders.erase(path.string()) == 1 && folders.insert(newPath.string()).second;
-        if (!files.contains(path.string()))
-            return false;
-        files[newPath.string()] = files.at(path.string());
-        files.erase(path.string());
+        if (fails("move " + path.string() + " " + newPath.string()) || fileExists(newPath) || !fileExists(path))
+            return failure();
+        if (folders.erase(path.string()) == 1)
+            folders.insert(newPath.string());
+        else
+            files.insert({newPath.string(), files.extract(path.string()).mapped()});
         if (unreadable.erase(path.string()) == 1)
             unreadable.insert(newPath.string());
-        return true;
+        return {};
     }
 
-    bool removeFile(const Text& path) override
+    FileResult<> removeFile(const Text& path) override
     {
-        return !fails("remove " + path.string()) && files.erase(path.string()) == 1;
+        if (fails("remove " + path.string()) || files.erase(path.string()) == 0)
+            return failure();
+        return {};
     }
 
-    bool makeFolder(const Text& path) override
+    FileResult<> makeFolderOf(const UserFile& file) override
     {
-        if (fails("mkdir " + path.string()) || files.contains(path.string()))
-            return false;
-        folders.insert(path.string());
-        return true;
+        const std::string folder = folderOf(file.path.string());
+        if (fails("mkdir " + folder) || files.contains(folder))
+            return failure();
+        folders.insert(folder);
+        return {};
     }
 
-    [[nodiscard]] std::vector<std::string> namesInFolder(const Text& path) const override
+    [[nodiscard]] FileResult<std::vector<std::string>> namesInFolder(const Text& path) const override
     {
         std::vector<std::string> names;
         if (fails("list " + path.string()))
-            return names;
+            return failure();
         const auto add = [&](const std::string& entry) {
             if (folderOf(entry) + "/" == path.string() || folderOf(entry) == path.string())
                 names.push_back(entry.substr(entry.rfind('/') + 1));
@@ -120,6 +125,11 @@ public:
     }
 
 private:
+    static tl::unexpected<std::error_code> failure(std::errc why = std::errc::io_error)
+    {
+        return tl::unexpected(std::make_error_code(why));
+    }
+
     static std::string folderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
 
     bool isFolder(const std::string& path) const

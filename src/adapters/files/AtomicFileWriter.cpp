@@ -20,14 +20,14 @@ std::string temporaryNameFor(std::string_view name)
     return temporaryName.append(name.substr(0, NAME_MAX - 1 - ending.size())).append(ending);
 }
 
-std::error_code writeAll(SystemCalls& calls, int file, std::string_view bytes)
+FileResult<> writeAll(SystemCalls& calls, int file, std::string_view bytes)
 {
     while (!bytes.empty()) {
         const ssize_t written = calls.write(file, bytes.data(), bytes.size());
         if (written < 0)
-            return lastError();
+            return lastFailure();
         if (written == 0)
-            return std::make_error_code(std::errc::no_space_on_device);
+            return tl::unexpected(std::make_error_code(std::errc::no_space_on_device));
         bytes.remove_prefix(static_cast<std::size_t>(written));
     }
     return {};
@@ -43,38 +43,38 @@ AtomicFileWriter::AtomicFileWriter(SystemCalls& calls, std::string_view path)
 {
 }
 
-std::error_code AtomicFileWriter::replace(std::string_view bytes, FileAccess access)
+FileResult<> AtomicFileWriter::replace(std::string_view bytes, FileAccess access)
 {
     OpenFile folder(calls_, openFolderOf(calls_, path_));
     if (!folder.isOpen())
-        return lastError();
-    std::optional<mode_t> oldMode;
-    if (const std::error_code failure = modeOfOldFile(folder, oldMode))
-        return failure;
-    const mode_t firstMode = oldMode || access == FileAccess::OwnerOnly ? ownerAlone : everybody;
-    if (const std::error_code failure = writeTemporary(folder, bytes, firstMode, oldMode))
-        return failure;
+        return lastFailure();
+    const auto oldMode = modeOfOldFile(folder);
+    if (!oldMode)
+        return tl::unexpected(oldMode.error());
+    const mode_t firstMode = *oldMode || access == FileAccess::OwnerOnly ? ownerAlone : everybody;
+    if (auto written = writeTemporary(folder, bytes, firstMode, *oldMode); !written)
+        return written;
     if (calls_.rename(folder.descriptor(), temporaryName_.c_str(), folder.descriptor(), name_.c_str()) != 0) {
-        const std::error_code failure = lastError();
+        const auto failure = lastFailure();
         calls_.unlink(folder.descriptor(), temporaryName_.c_str());
         return failure;
     }
     return synchronizeFolder(calls_, folder);
 }
 
-std::error_code AtomicFileWriter::create(std::string_view bytes, mode_t mode)
+FileResult<> AtomicFileWriter::create(std::string_view bytes, mode_t mode)
 {
     OpenFile folder(calls_, openFolderOf(calls_, path_));
     if (!folder.isOpen())
-        return lastError();
-    if (const std::error_code failure = writeTemporary(folder, bytes, ownerAlone, mode))
-        return failure;
+        return lastFailure();
+    if (auto written = writeTemporary(folder, bytes, ownerAlone, mode); !written)
+        return written;
     const int at = folder.descriptor();
     const bool isRenamed = calls_.renameUnlessTaken(at, temporaryName_.c_str(), at, name_.c_str()) == 0;
-    std::error_code failure = isRenamed ? synchronizeFolder(calls_, folder) : lastError();
-    if (failure)
+    FileResult<> created = isRenamed ? synchronizeFolder(calls_, folder) : lastFailure();
+    if (!created)
         calls_.unlink(at, isRenamed ? name_.c_str() : temporaryName_.c_str());
-    return failure;
+    return created;
 }
 
 void AtomicFileWriter::removeUnfinished()
@@ -89,41 +89,44 @@ void AtomicFileWriter::removeUnfinished()
         calls_.unlink(folder.descriptor(), temporaryName_.c_str());
 }
 
-std::error_code AtomicFileWriter::modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode)
+FileResult<std::optional<mode_t>> AtomicFileWriter::modeOfOldFile(const OpenFile& folder)
 {
     struct stat old { };
-    if (calls_.statusOfName(folder.descriptor(), name_.c_str(), old) != 0)
-        return errno == ENOENT && !name_.empty() ? std::error_code() : lastError();
+    if (calls_.statusOfName(folder.descriptor(), name_.c_str(), old) != 0) {
+        if (errno == ENOENT && !name_.empty())
+            return std::nullopt;
+        return lastFailure();
+    }
     if (!S_ISREG(old.st_mode))
-        return std::make_error_code(S_ISDIR(old.st_mode) ? std::errc::is_a_directory : std::errc::not_supported);
-    mode = old.st_mode & 0777U;
-    return {};
+        return tl::unexpected(
+            std::make_error_code(S_ISDIR(old.st_mode) ? std::errc::is_a_directory : std::errc::not_supported));
+    return old.st_mode & 0777U;
 }
 
 /// Makes the file with the first mode and, once it is complete, gives it the last one. Leaves no temporary file when it
 /// fails. What already has the temporary name is a crash's left-over or was planted there: it is removed, and neither
 /// opened nor followed.
-std::error_code AtomicFileWriter::writeTemporary(
+FileResult<> AtomicFileWriter::writeTemporary(
     const OpenFile& folder, std::string_view bytes, mode_t firstMode, std::optional<mode_t> lastMode)
 {
     if (calls_.unlink(folder.descriptor(), temporaryName_.c_str()) != 0 && errno != ENOENT)
-        return lastError();
+        return lastFailure();
     OpenFile temporary(calls_,
         calls_.open(folder.descriptor(), temporaryName_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, firstMode));
     if (!temporary.isOpen())
-        return lastError();
+        return lastFailure();
 
-    std::error_code failure = writeAll(calls_, temporary.descriptor(), bytes);
+    FileResult<> written = writeAll(calls_, temporary.descriptor(), bytes);
     // Some file systems have no modes; the content must not be lost over that, and 0600 errs on the safe side.
-    if (!failure && lastMode && *lastMode != firstMode)
+    if (written && lastMode && *lastMode != firstMode)
         calls_.changeMode(temporary.descriptor(), *lastMode);
-    if (!failure && calls_.synchronize(temporary.descriptor()) != 0)
-        failure = lastError();
-    if (temporary.close() != 0 && !failure)
-        failure = lastError();
-    if (failure)
+    if (written && calls_.synchronize(temporary.descriptor()) != 0)
+        written = lastFailure();
+    if (temporary.close() != 0 && written)
+        written = lastFailure();
+    if (!written)
         calls_.unlink(folder.descriptor(), temporaryName_.c_str());
-    return failure;
+    return written;
 }
 
 int openFolderOf(SystemCalls& calls, std::string_view path)
@@ -132,10 +135,12 @@ int openFolderOf(SystemCalls& calls, std::string_view path)
     return calls.open(AT_FDCWD, folder.c_str(), O_RDONLY | O_DIRECTORY, 0);
 }
 
-std::error_code synchronizeFolder(SystemCalls& calls, const OpenFile& folder)
+FileResult<> synchronizeFolder(SystemCalls& calls, const OpenFile& folder)
 {
     // EINVAL: a file system that cannot be asked for this, and hence keeps folders as safe as it ever does.
-    return calls.synchronize(folder.descriptor()) == 0 || errno == EINVAL ? std::error_code() : lastError();
+    if (calls.synchronize(folder.descriptor()) != 0 && errno != EINVAL)
+        return lastFailure();
+    return {};
 }
 
 } // namespace sonavel

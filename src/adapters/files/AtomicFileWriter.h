@@ -21,17 +21,17 @@ public:
     /// Replaces the file, which keeps its mode, or makes it with `access`. On failure the old content stands and the
     /// temporary file is gone; when only the last step failed, which makes the replacement outlast a power cut, the
     /// new content stands, whole.
-    [[nodiscard]] std::error_code replace(std::string_view bytes, FileAccess access);
+    [[nodiscard]] FileResult<> replace(std::string_view bytes, FileAccess access);
 
     /// Makes the file with the given mode. Fails when its name is taken; nothing has changed then.
-    [[nodiscard]] std::error_code create(std::string_view bytes, mode_t mode);
+    [[nodiscard]] FileResult<> create(std::string_view bytes, mode_t mode);
 
     /// Removes the temporary file, if there is one that a write of this user's can have left.
     void removeUnfinished();
 
 private:
-    [[nodiscard]] std::error_code modeOfOldFile(const OpenFile& folder, std::optional<mode_t>& mode);
-    [[nodiscard]] std::error_code writeTemporary(
+    [[nodiscard]] FileResult<std::optional<mode_t>> modeOfOldFile(const OpenFile& folder);
+    [[nodiscard]] FileResult<> writeTemporary(
         const OpenFile& folder, std::string_view bytes, mode_t firstMode, std::optional<mode_t> lastMode);
 
     SystemCalls& calls_;
@@ -44,6 +44,6 @@ private:
 [[nodiscard]] int openFolderOf(SystemCalls& calls, std::string_view path);
 
 /// Makes what was renamed, linked or removed in an open folder outlast a power cut.
-[[nodiscard]] std::error_code synchronizeFolder(SystemCalls& calls, const OpenFile& folder);
+[[nodiscard]] FileResult<> synchronizeFolder(SystemCalls& calls, const OpenFile& folder);
 
 } // namespace sonavel

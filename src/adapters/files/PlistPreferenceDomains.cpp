@@ -1,7 +1,6 @@
 #include "adapters/files/PlistPreferenceDomains.h"
 
 #include "adapters/files/PropertyList.h"
-#include "platform/Files.h"
 #include "storage/Backups.h"
 
 namespace sonavel {
@@ -20,16 +19,17 @@ PlistPreferenceDomains::StoredDomain& PlistPreferenceDomains::domainNamed(const 
 {
     const auto known = domains_.find(name.view());
     return known != domains_.end() ? known->second
-                                   : domains_.emplace(name.string(), load(pathOf(name.view()))).first->second;
+                                   : domains_.emplace(name.string(), load(fileOf(name.view()).path)).first->second;
 }
 
 PlistPreferenceDomains::StoredDomain PlistPreferenceDomains::load(const Text& path) const
 {
     StoredDomain domain;
     files_.removeUnfinishedWrite(path);
-    if (const auto bytes = files_.contentsOfFile(path))
+    const auto bytes = files_.contentsOfFile(path);
+    if (bytes)
         domain.content = domainFromPropertyList(*bytes);
-    domain.isFileDamaged = !domain.content && files_.fileExists(path);
+    domain.isFileDamaged = bytes ? !domain.content : !isAbsent(bytes.error());
     return domain;
 }
 
@@ -45,26 +45,16 @@ void PlistPreferenceDomains::synchronize()
 {
     for (auto& [name, domain] : domains_)
         if (domain.isWriteDue)
-            write(pathOf(name), domain);
+            write(fileOf(name), domain);
 }
 
-void PlistPreferenceDomains::write(const Text& path, StoredDomain& domain)
+void PlistPreferenceDomains::write(const UserFile& file, StoredDomain& domain)
 {
-    if (domain.isFileDamaged && !keepDamaged(files_, path))
+    if (domain.isFileDamaged && !keepDamaged(files_, file.path))
         return;
     domain.isFileDamaged = false;
-    files_.makeFolder(folder());
-    domain.isWriteDue = !files_.writeAtomically(path, propertyListFromDomain(*domain.content));
-}
-
-Text PlistPreferenceDomains::folder() const
-{
-    return files_.homeDirectory().string() + "/Library/Preferences";
-}
-
-Text PlistPreferenceDomains::pathOf(std::string_view name) const
-{
-    return folder().string().append("/").append(name);
+    domain.isWriteDue = !files_.makeFolderOf(file).and_then(
+        [&] { return files_.writeAtomically(file, propertyListFromDomain(*domain.content)); });
 }
 
 } // namespace sonavel

@@ -1,11 +1,10 @@
 // Preference domains as property-list files in the user's preferences folder.
 #pragma once
 
+#include "platform/Files.h"
 #include "platform/PreferenceDomains.h"
 
 namespace sonavel {
-
-class Files;
 
 /// The domain NAME is the file "Library/Preferences/NAME" under the home directory: read once, when it is first asked
 /// for or set, and written as XML. A file that is there and is no such domain counts as not stored; the first write
@@ -30,10 +29,9 @@ private:
     };
 
     StoredDomain& domainNamed(const Text& name);
+    [[nodiscard]] UserFile fileOf(std::string_view name) const { return preferencesFile(files_.homeDirectory(), name); }
     [[nodiscard]] StoredDomain load(const Text& path) const;
-    void write(const Text& path, StoredDomain& domain);
-    [[nodiscard]] Text folder() const;
-    [[nodiscard]] Text pathOf(std::string_view name) const;
+    void write(const UserFile& file, StoredDomain& domain);
 
     Files& files_;
     std::map<std::string, StoredDomain, std::less<>> domains_; // by name

@@ -38,126 +38,118 @@ bool PosixFiles::fileExists(const Text& path) const
     return calls_->statusOfName(AT_FDCWD, path.string().c_str(), status) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
-std::optional<std::string> PosixFiles::contentsOfFile(const Text& path) const
+FileResult<std::string> PosixFiles::contentsOfFile(const Text& path) const
 {
-    std::string content;
-    mode_t mode = 0;
-    if (readFile(path.string(), content, mode))
-        return std::nullopt;
-    return content;
+    return readFile(path.string()).map([](Contents contents) { return std::move(contents.bytes); });
 }
 
-std::error_code PosixFiles::readFile(const std::string& path, std::string& content, mode_t& mode) const
+FileResult<PosixFiles::Contents> PosixFiles::readFile(const std::string& path) const
 {
+    const auto failure = [](std::errc why) { return tl::unexpected(std::make_error_code(why)); };
     const OpenFile file(*calls_, calls_->open(AT_FDCWD, path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY, 0));
     struct stat status { };
     if (!file.isOpen() || calls_->status(file.descriptor(), status) != 0)
-        return lastError();
+        return lastFailure();
     if (!S_ISREG(status.st_mode))
-        return std::make_error_code(std::errc::not_supported);
+        return failure(S_ISDIR(status.st_mode) ? std::errc::is_a_directory : std::errc::not_supported);
     if (static_cast<std::size_t>(status.st_size) > maxFileSize)
-        return std::make_error_code(std::errc::file_too_large);
-    mode = status.st_mode & 0777U;
+        return failure(std::errc::file_too_large);
 
     // One byte more than expected, so that the end is met without growing.
-    content.resize(static_cast<std::size_t>(status.st_size) + 1);
+    Contents contents{std::string(static_cast<std::size_t>(status.st_size) + 1, '\0'), status.st_mode & 0777U};
+    std::string& bytes = contents.bytes;
     std::size_t filled = 0;
     while (filled <= maxFileSize) {
-        if (filled == content.size())
-            content.resize(std::min(filled * 2, maxFileSize + 1));
-        const ssize_t size = calls_->read(file.descriptor(), content.data() + filled, content.size() - filled);
+        if (filled == bytes.size())
+            bytes.resize(std::min(filled * 2, maxFileSize + 1));
+        const ssize_t size = calls_->read(file.descriptor(), bytes.data() + filled, bytes.size() - filled);
         if (size < 0)
-            return lastError();
+            return lastFailure();
         if (size == 0) {
-            content.resize(filled);
-            return {};
+            bytes.resize(filled);
+            return contents;
         }
         filled += static_cast<std::size_t>(size);
     }
-    return std::make_error_code(std::errc::file_too_large);
+    return failure(std::errc::file_too_large);
 }
 
-bool PosixFiles::writeAtomically(const Text& path, std::string_view bytes, FileAccess access)
+FileResult<> PosixFiles::writeAtomically(const UserFile& file, std::string_view bytes, FileAccess access)
 {
-    std::string target = path.string();
-    std::error_code failure = followLinks(target);
-    if (!failure)
-        failure = AtomicFileWriter(*calls_, target).replace(bytes, access);
-    return tell(failure, path);
+    const auto write = [&](const std::string& path) { return AtomicFileWriter(*calls_, path).replace(bytes, access); };
+    return reported(linkTarget(file.path.string()).and_then(write), file);
 }
 
 void PosixFiles::removeUnfinishedWrite(const Text& path)
 {
-    std::string target = path.string();
-    if (!followLinks(target))
-        AtomicFileWriter(*calls_, target).removeUnfinished();
+    if (const auto target = linkTarget(path.string()))
+        AtomicFileWriter(*calls_, *target).removeUnfinished();
 }
 
-/// Replaces `path` by what it leads to in the end, which need not be there: the rename of an atomic write would put a
-/// file in the place of the link.
-std::error_code PosixFiles::followLinks(std::string& path) const
+/// What `path` leads to in the end, which need not exist: the rename of an atomic write would put a file in the place
+/// of the link.
+FileResult<std::string> PosixFiles::linkTarget(std::string path) const
 {
     for (int links = 0; links < maxLinks; ++links) {
         std::array<char, PATH_MAX> buffer{};
         const ssize_t size = calls_->readLink(path.c_str(), buffer.data(), buffer.size());
+        if (size < 0 && (errno == EINVAL || errno == ENOENT))
+            return path;
         if (size < 0)
-            return errno == EINVAL || errno == ENOENT ? std::error_code() : lastError();
+            return lastFailure();
         const std::string target(buffer.data(), static_cast<std::size_t>(size));
         path.resize(target.starts_with('/') ? 0 : path.rfind('/') + 1);
         path.append(target);
     }
-    return std::make_error_code(std::errc::too_many_symbolic_link_levels);
+    return tl::unexpected(std::make_error_code(std::errc::too_many_symbolic_link_levels));
 }
 
-bool PosixFiles::keepCopy(const Text& path, const Text& copy)
+FileResult<> PosixFiles::keepCopy(const Text& path, const UserFile& copy)
 {
-    std::string original = path.string();
-    std::error_code failure = followLinks(original);
-    if (!failure)
-        failure = linkAs(original, copy.string());
-    // File systems without hard links, or a folder on another one.
-    if (failure && failure != std::errc::file_exists)
-        failure = copyAs(original, copy.string());
-    return tell(failure, copy);
+    const std::string name = copy.path.string();
+    const auto keep = [&](const std::string& original) {
+        FileResult<> kept = linkAs(original, name);
+        // File systems without hard links, or a folder on another one.
+        return kept || kept.error() == std::errc::file_exists ? kept : copyAs(original, name);
+    };
+    return reported(linkTarget(path.string()).and_then(keep), copy);
 }
 
-std::error_code PosixFiles::linkAs(const std::string& path, const std::string& copy)
+FileResult<> PosixFiles::linkAs(const std::string& path, const std::string& copy)
 {
     const OpenFile folder(*calls_, openFolderOf(*calls_, copy));
     if (!folder.isOpen() || calls_->link(path.c_str(), AT_FDCWD, copy.c_str()) != 0)
-        return lastError();
-    const std::error_code failure = synchronizeFolder(*calls_, folder);
-    if (failure)
+        return lastFailure();
+    FileResult<> linked = synchronizeFolder(*calls_, folder);
+    if (!linked)
         calls_->unlink(AT_FDCWD, copy.c_str());
-    return failure;
+    return linked;
 }
 
-std::error_code PosixFiles::copyAs(const std::string& path, const std::string& copy)
+FileResult<> PosixFiles::copyAs(const std::string& path, const std::string& copy)
 {
-    std::string content;
-    mode_t mode = 0;
-    if (const std::error_code failure = readFile(path, content, mode))
-        return failure;
-    return AtomicFileWriter(*calls_, copy).create(content, mode);
+    return readFile(path).and_then([&](const Contents& contents) {
+        return AtomicFileWriter(*calls_, copy).create(contents.bytes, contents.mode);
+    });
 }
 
-bool PosixFiles::moveFile(const Text& path, const Text& newPath)
+FileResult<> PosixFiles::moveFile(const Text& path, const Text& newPath)
 {
     const std::string from = path.string();
     const std::string to = newPath.string();
     if (calls_->renameUnlessTaken(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str()) != 0)
-        return false;
+        return lastFailure();
     synchronizeFolderOf(to);
     synchronizeFolderOf(from);
-    return true;
+    return {};
 }
 
-bool PosixFiles::removeFile(const Text& path)
+FileResult<> PosixFiles::removeFile(const Text& path)
 {
     if (calls_->unlink(AT_FDCWD, path.string().c_str()) != 0)
-        return false;
+        return lastFailure();
     synchronizeFolderOf(path.string());
-    return true;
+    return {};
 }
 
 /// A power cut may undo the change all the same when this fails; nothing could be done about it.
@@ -168,12 +160,13 @@ void PosixFiles::synchronizeFolderOf(const std::string& path)
         static_cast<void>(synchronizeFolder(*calls_, folder));
 }
 
-bool PosixFiles::makeFolder(const Text& path)
+FileResult<> PosixFiles::makeFolderOf(const UserFile& file)
 {
-    return tell(makeFolders(path.string()), path);
+    const std::string path = file.path.string();
+    return reported(makeFolders(path.substr(0, path.rfind('/'))), file);
 }
 
-std::error_code PosixFiles::makeFolders(const std::string& path)
+FileResult<> PosixFiles::makeFolders(const std::string& path)
 {
     constexpr mode_t ownerAlone = 0700;
     if (calls_->makeFolder(path.c_str(), ownerAlone) == 0)
@@ -181,32 +174,38 @@ std::error_code PosixFiles::makeFolders(const std::string& path)
     if (errno == EEXIST) {
         struct stat status { };
         if (calls_->statusOfName(AT_FDCWD, path.c_str(), status) != 0)
-            return lastError();
-        return S_ISDIR(status.st_mode) ? std::error_code() : std::make_error_code(std::errc::not_a_directory);
+            return lastFailure();
+        if (!S_ISDIR(status.st_mode))
+            return tl::unexpected(std::make_error_code(std::errc::not_a_directory));
+        return {};
     }
     const std::size_t slash = path.rfind('/');
     if (errno != ENOENT || slash == 0 || slash == std::string::npos)
-        return lastError();
-    if (const std::error_code failure = makeFolders(path.substr(0, slash)))
-        return failure;
-    return calls_->makeFolder(path.c_str(), ownerAlone) == 0 ? std::error_code() : lastError();
+        return lastFailure();
+    return makeFolders(path.substr(0, slash)).and_then([&]() -> FileResult<> {
+        if (calls_->makeFolder(path.c_str(), ownerAlone) != 0)
+            return lastFailure();
+        return {};
+    });
 }
 
-std::vector<std::string> PosixFiles::namesInFolder(const Text& path) const
+FileResult<std::vector<std::string>> PosixFiles::namesInFolder(const Text& path) const
 {
     std::vector<std::string> names;
     std::error_code failure;
     std::filesystem::directory_iterator entry(path.string(), failure);
     for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure))
         names.push_back(entry->path().filename().string());
+    if (failure)
+        return tl::unexpected(failure);
     return names;
 }
 
-bool PosixFiles::tell(std::error_code failure, const Text& path) const
+FileResult<> PosixFiles::reported(FileResult<> result, const UserFile& file) const
 {
-    if (failure && writeFailureObserver_)
-        writeFailureObserver_(path, Text(failure.message()));
-    return !failure;
+    if (!result && saveFailureObserver_)
+        saveFailureObserver_(file, result.error());
+    return result;
 }
 
 } // namespace sonavel

@@ -5,6 +5,7 @@
 
 #include <sys/stat.h>
 #include <sys/types.h>
+#include <tl/expected.hpp>
 
 #include <cstddef>
 #include <system_error>
@@ -41,6 +42,10 @@ public:
 
 /// What `errno` says, as a value with words.
 [[nodiscard]] std::error_code lastError();
+[[nodiscard]] inline tl::unexpected<std::error_code> lastFailure()
+{
+    return tl::unexpected(lastError());
+}
 
 /// Keeps a file descriptor and closes it at the latest at its own end.
 class OpenFile : private NonCopyable {

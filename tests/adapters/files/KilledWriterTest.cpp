@@ -77,7 +77,7 @@ TEST(KilledWriter, TheOldListOrTheNewOneIsThereWholeAndNothingPilesUp)
         const Text list = listOnDisk(home.path());
         ASSERT_TRUE(std::find(lists.begin(), lists.end(), list) != lists.end())
             << "round " << round << ": " << list.view().size() << " bytes";
-        ASSERT_EQ(PosixFiles(home.path()).namesInFolder(home.path("Library/Preferences")),
+        ASSERT_EQ(PosixFiles(home.path()).namesInFolder(home.path("Library/Preferences")).value(),
             std::vector<std::string>{"radiolist.rdb"})
             << "what the kill left goes with the next start";
     }

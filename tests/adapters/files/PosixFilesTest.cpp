@@ -19,14 +19,16 @@ class PosixFilesTest : public testing::Test {
 protected:
     PosixFilesTest()
     {
-        files.setWriteFailureObserver([this](const Text& path, const Text& why) {
-            told.push_back(fs::path(path.string()).filename().string() + ": " + why.string());
+        files.setSaveFailureObserver([this](const UserFile& file, const std::error_code& why) {
+            told.push_back(fs::path(file.path.string()).filename().string() + ": " + why.message());
         });
     }
 
-    bool write(std::string_view name, std::string_view content)
+    [[nodiscard]] UserFile fileNamed(std::string_view name) const { return {UserFile::Kind::Other, folder.path(name)}; }
+
+    bool write(std::string_view name, std::string_view content, FileAccess access = FileAccess::OwnerOnly)
     {
-        return files.writeAtomically(folder.path(name), content);
+        return files.writeAtomically(fileNamed(name), content, access).has_value();
     }
 
     [[nodiscard]] unsigned modeOf(std::string_view name) const
@@ -114,7 +116,7 @@ TEST_F(PosixFilesTest, ACopyOfWhichAnyOneCallFailsIsThereWholeOrNotAtAll)
             SCOPED_TRACE(call);
             told.clear();
             calls.fail(call);
-            const bool isKept = files.keepCopy(folder.path("file"), folder.path("copy"));
+            const bool isKept = files.keepCopy(folder.path("file"), fileNamed("copy")).has_value();
             EXPECT_EQ(folder.names(), isKept ? (Names{"copy", "file"}) : Names{"file"});
             EXPECT_EQ(folder.read("copy"), isKept ? "content" : "");
             EXPECT_EQ(told.size(), isKept ? 0 : 1);
@@ -130,12 +132,12 @@ TEST_F(PosixFilesTest, ACopyOutlivesTheReplacementOfItsOriginalAndTakesNoOthersN
         calls.areLinksRefused = areLinksRefused;
         folder.put("file", "first");
         fs::permissions(folder.path("file"), fs::perms(0640));
-        ASSERT_TRUE(files.keepCopy(folder.path("file"), folder.path("copy")));
+        ASSERT_TRUE(files.keepCopy(folder.path("file"), fileNamed("copy")));
         ASSERT_TRUE(write("file", "second"));
         EXPECT_EQ(folder.read("copy"), "first");
         EXPECT_EQ(modeOf("copy"), 0640);
 
-        EXPECT_FALSE(files.keepCopy(folder.path("file"), folder.path("copy")));
+        EXPECT_FALSE(files.keepCopy(folder.path("file"), fileNamed("copy")));
         EXPECT_EQ(folder.read("copy"), "first");
         EXPECT_EQ(told.size(), 1U) << "nothing is saved in its place then";
         told.clear();
@@ -165,10 +167,10 @@ TEST_F(PosixFilesTest, AFileForOthersIsAsReadableAsTheUserLetsNewFilesBe)
     for (const auto& [mask, mode] : {std::pair(0022U, 0644U), std::pair(0077U, 0600U), std::pair(0U, 0666U)}) {
         ::umask(mask);
         const std::string name = "new " + std::to_string(mask);
-        EXPECT_TRUE(files.writeAtomically(folder.path(name), "content", FileAccess::AsUsual));
+        EXPECT_TRUE(write(name, "content", FileAccess::AsUsual));
         EXPECT_EQ(modeOf(name), mode);
         fs::permissions(folder.path(name), fs::perms(0640));
-        EXPECT_TRUE(files.writeAtomically(folder.path(name), "more", FileAccess::AsUsual));
+        EXPECT_TRUE(write(name, "more", FileAccess::AsUsual));
         EXPECT_EQ(modeOf(name), 0640) << "an old file keeps its mode";
     }
     ::umask(before);
@@ -301,9 +303,13 @@ TEST_F(PosixFilesTest, WhatIsNoReadableFileIsReadAsNothingAndNeverWaitedFor)
     fs::create_symlink("loop", folder.path("loop"));
     folder.put("vast", "");
     fs::resize_file(folder.path("vast"), PosixFiles::maxFileSize + 1); // sparse
-    for (const std::string& path : {folder.path("pipe"), folder.path("loop"), folder.path("vast"),
-             folder.path("missing"), folder.path(), std::string("/dev/zero")})
-        EXPECT_EQ(files.contentsOfFile(path), std::nullopt) << path;
+    const std::pair<std::string, std::errc> cases[] = {{folder.path("pipe"), std::errc::not_supported},
+        {folder.path("loop"), std::errc::too_many_symbolic_link_levels},
+        {folder.path("vast"), std::errc::file_too_large},
+        {folder.path("missing"), std::errc::no_such_file_or_directory}, {folder.path(), std::errc::is_a_directory},
+        {"/dev/zero", std::errc::not_supported}};
+    for (const auto& [path, why] : cases)
+        EXPECT_EQ(files.contentsOfFile(path).error(), why) << path;
     EXPECT_TRUE(files.fileExists(folder.path("pipe")));
     EXPECT_TRUE(files.fileExists(folder.path("loop")));
     EXPECT_FALSE(files.fileExists(folder.path("missing")));
@@ -322,19 +328,19 @@ TEST_F(PosixFilesTest, WhatIsNoReadableFileIsReadAsNothingAndNeverWaitedFor)
 
 TEST_F(PosixFilesTest, MissingFoldersAreMadeForTheOwnerAlone)
 {
-    EXPECT_TRUE(files.makeFolder(folder.path("Library/Preferences")));
-    EXPECT_TRUE(files.makeFolder(folder.path("Library/Preferences")));
+    EXPECT_TRUE(files.makeFolderOf(fileNamed("Library/Preferences/list")));
+    EXPECT_TRUE(files.makeFolderOf(fileNamed("Library/Preferences/list")));
     EXPECT_EQ(modeOf("Library"), 0700);
     EXPECT_EQ(modeOf("Library/Preferences"), 0700);
     EXPECT_TRUE(told.empty());
 
     folder.put("file", "");
-    EXPECT_FALSE(files.makeFolder(folder.path("file")));
-    EXPECT_FALSE(files.makeFolder(folder.path("file/below")));
+    EXPECT_FALSE(files.makeFolderOf(fileNamed("file/list")));
+    EXPECT_FALSE(files.makeFolderOf(fileNamed("file/below/list")));
     calls.fail(2);
-    EXPECT_FALSE(files.makeFolder(folder.path("missing/inner")));
-    EXPECT_EQ(told,
-        (std::vector<std::string>{"file: Not a directory", "below: Not a directory", "inner: Input/output error"}));
+    EXPECT_FALSE(files.makeFolderOf(fileNamed("missing/inner/list")));
+    EXPECT_EQ(
+        told, (std::vector<std::string>{"list: Not a directory", "list: Not a directory", "list: Input/output error"}));
 }
 
 TEST_F(PosixFilesTest, AMoveTakesNoOthersName)
@@ -347,7 +353,7 @@ TEST_F(PosixFilesTest, AMoveTakesNoOthersName)
     EXPECT_TRUE(files.removeFile(folder.path("two")));
     EXPECT_FALSE(files.removeFile(folder.path("two")));
     EXPECT_EQ(folder.names(), Names{"three"});
-    EXPECT_EQ(files.namesInFolder(folder.path()), std::vector<std::string>{"three"});
+    EXPECT_EQ(files.namesInFolder(folder.path()).value(), std::vector<std::string>{"three"});
     EXPECT_EQ(files.homeDirectory(), Text(folder.path()));
 }
 

@@ -1,0 +1,40 @@
+// The program's own files: their names, their places, and what they are to the user.
+#pragma once
+
+#include "base/Text.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace sonavel {
+
+/// A file that the program writes.
+struct UserFile {
+    enum class Kind : std::uint8_t {
+        StationList,
+        Preferences,
+        Backup, ///< of one of the above
+        Other, ///< where the user wants it
+    };
+
+    Kind kind = Kind::Other;
+    Text path;
+};
+
+/// The station database, and the plain file that came before it.
+[[nodiscard]] UserFile stationDatabaseFile(const Text& homeDirectory);
+[[nodiscard]] UserFile legacyListFile(const Text& homeDirectory);
+/// The property list of a preference domain.
+[[nodiscard]] UserFile preferencesFile(const Text& homeDirectory, std::string_view domain);
+constexpr std::string_view preferenceDomainName = "Mertzan-Software.Sonavel.plist";
+
+/// Why there is a backup, as its name says: "radiolist.damaged.rdb" is one of "radiolist.rdb".
+constexpr std::string_view damagedMark = "damaged";
+constexpr std::string_view beforeImportMark = "before-import";
+
+/// In the user's folder for the state of programs.
+constexpr std::string_view windowStateName = "sonavel/windows.ini";
+/// In the user's and the system's folders for configuration.
+constexpr std::string_view configurationName = "sonavel/sonavel.conf";
+
+} // namespace sonavel
