@@ -1,23 +1,23 @@
 // Fuzzes the reading of station lists that other programs and people wrote.
 
 #include "Require.h"
-#include "base/ForeignText.h"
+#include "base/TextDecoding.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
 #include "model/StreamAddress.h"
 #include "tools/ListCheck.h"
-#include "tools/ListReading.h"
-#include "tools/ListWriting.h"
+#include "tools/ListFormats.h"
 
 #include <cstdint>
 
 namespace sonavel {
 namespace {
 
-void checkFindings(const std::vector<Finding>& findings)
+void checkDiagnostics(const std::vector<Diagnostic>& diagnostics)
 {
-    for (const Finding& finding : findings)
-        require(isValidUtf8(finding.what) && withoutControls(finding.what) == finding.what, "findings may be shown");
+    for (const Diagnostic& diagnostic : diagnostics)
+        require(isValidUtf8(diagnostic.what) && withoutControls(diagnostic.what) == diagnostic.what,
+            "diagnostics may be shown");
 }
 
 std::vector<std::string> described(const StationRecords& stations)
@@ -30,15 +30,15 @@ std::vector<std::string> described(const StationRecords& stations)
 
 void checkWritten(const StationRecords& stations)
 {
-    const auto text = writtenList(stations, ListFormat::Csv);
+    const auto text = serializedList(stations, ListFormat::Csv);
     require(text && described(recordsFromListText(*text)) == described(stations), "a list text comes back");
-    const auto database = writtenList(stations, ListFormat::Rdb);
-    const auto decrypted = database ? readList(*database, ListFormat::Rdb) : std::nullopt;
+    const auto database = serializedList(stations, ListFormat::Rdb);
+    const auto decrypted = parseList(database.value_or(""), ListFormat::Rdb);
     require(decrypted && described(decrypted->stations) == described(stations), "a database comes back");
-    const auto json = writtenList(stations, ListFormat::Json);
+    const auto json = serializedList(stations, ListFormat::Json);
     require(json.has_value(), "what was read has a JSON form");
-    const auto again = readList(*json, ListFormat::Json);
-    require(again && again->stations.size() == stations.size() - stationsLostInWriting(stations, ListFormat::Json),
+    const auto again = parseList(*json, ListFormat::Json);
+    require(again && again->stations.size() == stations.size() - stationsLostBySerializing(stations, ListFormat::Json),
         "JSON loses what it says");
 }
 
@@ -52,12 +52,12 @@ void checkPlaylist(const StationRecords& stations)
 
 void checkFormat(std::string_view bytes, ListFormat format)
 {
-    const auto list = readList(std::string(bytes), format);
+    const auto list = parseList(std::string(bytes), format);
     require(list || format == ListFormat::Rdb || format == ListFormat::Json, "a text is always read");
     if (!list)
         return;
-    checkFindings(list->findings);
-    checkFindings(checkedStations(list->stations));
+    checkDiagnostics(list->diagnostics);
+    checkDiagnostics(checkedStations(list->stations));
     for (const auto& station : list->stations)
         require(isStationName(station->radio().view()), "a list keeps the names");
     checkWritten(list->stations);

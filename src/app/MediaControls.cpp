@@ -14,7 +14,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::int64_t longestWait = 2; // seconds
+constexpr std::int64_t maxWait = 2; // seconds
 
 } // namespace
 
@@ -139,7 +139,7 @@ void MediaControls::quit()
 
 MediaControls::Command MediaControls::newCommand() const
 {
-    return {clock_.now().advancedBySeconds(longestWait), alerts_.answers(), interruptions_};
+    return {clock_.now().advancedBySeconds(maxWait), alerts_.answers(), interruptions_};
 }
 
 /// After that, nobody who pressed a media key in vain expects its effect.

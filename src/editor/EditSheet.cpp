@@ -13,9 +13,9 @@ namespace sonavel {
 namespace {
 
 // In UTF-16 code units; one of the two is enough.
-constexpr std::size_t shortestName = 2;
-constexpr std::size_t shortestAddress = 10;
-constexpr std::int32_t longestAddress = 2048;
+constexpr std::size_t minNameLength = 2;
+constexpr std::size_t minAddressLength = 10;
+constexpr std::int32_t maxAddressLength = 2048;
 
 } // namespace
 
@@ -70,7 +70,7 @@ void EditSheet::addStation(StationRecords& stations) const
 {
     const Text name = controls_.textFieldRadioName.stringValue();
     const Text address = controls_.textFieldRadioLink.stringValue();
-    if (name.length() < shortestName && address.length() < shortestAddress)
+    if (name.length() < minNameLength && address.length() < minAddressLength)
         return;
     stations.push_back(
         std::make_shared<KVStationWebRadio>(stations.size() + 1, withoutSeparators(name), withoutSeparators(address)));
@@ -113,7 +113,7 @@ void EditSheet::controlTextDidChange()
 {
     filteredInputToField(
         controls_.textFieldRadioName, static_cast<std::int32_t>(preferences_.PREF_MAX_NAME_RADIO_LENGHT));
-    filteredInputToField(controls_.textFieldRadioLink, longestAddress);
+    filteredInputToField(controls_.textFieldRadioLink, maxAddressLength);
 }
 
 void EditSheet::filteredInputToField(TextField& field, std::int32_t limitByteANumber)

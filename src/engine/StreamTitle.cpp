@@ -1,6 +1,6 @@
 #include "engine/StreamTitle.h"
 
-#include "base/ForeignText.h"
+#include "base/TextDecoding.h"
 
 #include <algorithm>
 #include <string>
@@ -9,15 +9,15 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::size_t longestTitle = 500;
+constexpr std::size_t maxTitleLength = 500;
 
 } // namespace
 
 Text streamTitle(std::string_view bytes)
 {
-    std::string title = withoutControls(utf8FromForeign(bytes));
+    std::string title = withoutControls(decodeToUtf8(bytes));
     title.erase(0, std::min(title.find_first_not_of(' '), title.size()));
-    title.resize(utf8Prefix(title, longestTitle).size());
+    title.resize(utf8Prefix(title, maxTitleLength).size());
     title.erase(title.find_last_not_of(' ') + 1);
     return title;
 }

@@ -1,6 +1,6 @@
 #include "model/NameOrder.h"
 
-#include "model/NameKeys.h"
+#include "model/SortKeys.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -21,7 +21,7 @@ struct Entry {
 /// are of two numbers that lie beside each other.
 class KeySorter {
 public:
-    explicit KeySorter(const NameKeys& keys)
+    explicit KeySorter(const SortKeys& keys)
         : keys_(keys)
     {
     }
@@ -42,7 +42,7 @@ public:
 
 private:
     /// From here on whole rests are compared, as words would recurse too deeply for hostile names.
-    static constexpr std::size_t wordsEnd = 4 * NameKeys::wordSize;
+    static constexpr std::size_t wordsEnd = 4 * SortKeys::wordSize;
 
     void sortEqualOnes(std::span<Entry> entries, std::size_t offset) const
     {
@@ -51,8 +51,8 @@ private:
             const auto end =
                 std::find_if(entries.begin(), entries.end(), [word](const Entry& entry) { return entry.word != word; });
             const auto count = static_cast<std::size_t>(end - entries.begin());
-            if (count > 1 && !NameKeys::isLastWord(word))
-                sort(entries.first(count), offset + NameKeys::wordSize);
+            if (count > 1 && !SortKeys::isLastWord(word))
+                sort(entries.first(count), offset + SortKeys::wordSize);
             entries = entries.subspan(count);
         }
     }
@@ -65,10 +65,10 @@ private:
         });
     }
 
-    const NameKeys& keys_;
+    const SortKeys& keys_;
 };
 
-bool areInOrder(const std::vector<std::string_view>& names, const NameKeys& keys)
+bool areInOrder(const std::vector<std::string_view>& names, const SortKeys& keys)
 {
     for (std::size_t place = 1; place < names.size(); ++place) {
         if (keys.restAt(place, 0) < keys.restAt(place - 1, 0))
@@ -81,7 +81,7 @@ bool areInOrder(const std::vector<std::string_view>& names, const NameKeys& keys
 
 std::vector<std::size_t> orderOfNames(const std::vector<std::string_view>& names)
 {
-    const NameKeys keys(names);
+    const SortKeys keys(names);
     std::vector<std::size_t> places(names.size());
     std::iota(places.begin(), places.end(), std::size_t{0});
     // A list is mostly read in the order in which it was written, and looking costs far less than sorting.

@@ -79,7 +79,7 @@ bool isUsable(std::string_view address)
 Text usableStreamAddress(const Text& link)
 {
     const std::string_view address = withoutOuterBlanks(link.view());
-    if (address.size() > longestStreamAddress || !isUsable(address)
+    if (address.size() > maxAddressLength || !isUsable(address)
         || std::any_of(address.begin(), address.end(), isAsciiControl) || !isValidUtf8(address))
         return {};
     return link.slice(address);

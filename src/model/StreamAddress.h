@@ -8,7 +8,7 @@
 namespace sonavel {
 
 /// Longer addresses are not played, in bytes.
-inline constexpr std::size_t longestStreamAddress = 8192;
+inline constexpr std::size_t maxAddressLength = 8192;
 
 /// The address to play for a station's link: the link without blanks at its ends, when it is of the form
 /// "scheme://host…" with one of the schemes http, https, rtsp, rtmp and mms, in upper or lower case.

@@ -21,9 +21,9 @@ namespace {
 
 constexpr const char* listName = "20161001000000_lr.rdb";
 constexpr const char* versionName = "sonavel.ini";
-constexpr std::size_t largestPiece = 4096;
+constexpr std::size_t maxPieceSize = 4096;
 /// Listeners stay for hours; the other half of the connections is for answers.
-constexpr int mostListeners = HttpServer::mostConnections / 2;
+constexpr int maxListeners = HttpServer::maxConnections / 2;
 
 constexpr const char* page = "<!DOCTYPE html>\n<html lang=\"en\">\n<title>Sonavel data server</title>\n"
                              "<p>This server publishes station lists for Sonavel.</p>\n</html>\n";
@@ -63,9 +63,9 @@ std::string hostOf(const std::string& address)
 /// Whether the name, as a client sent it, can stand in an address and in a list without ending either.
 bool isHostAndPort(std::string_view name)
 {
-    constexpr std::size_t longestName = 255;
+    constexpr std::size_t maxNameLength = 255;
     constexpr std::string_view usual = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-._:[]";
-    return !name.empty() && name.size() <= longestName && name.find_first_not_of(usual) == std::string_view::npos;
+    return !name.empty() && name.size() <= maxNameLength && name.find_first_not_of(usual) == std::string_view::npos;
 }
 
 } // namespace
@@ -138,7 +138,7 @@ void DataServer::Implementation::stream(
     const DemoStation& station, const httplib::Request& request, httplib::Response& response)
 {
     const std::shared_ptr<void> seat(nullptr, [this](void*) { --listeners; });
-    if (++listeners > mostListeners) {
+    if (++listeners > maxListeners) {
         response.status = 503;
         response.set_content("There is no room for another listener.\n", "text/plain");
         return;
@@ -158,7 +158,7 @@ void DataServer::Implementation::stream(
             static_cast<double>(music->musicSent()) / IcyStream::bytesPerSecond - burstSeconds);
         if (!server.waitUntil(beginning + std::chrono::duration_cast<std::chrono::steady_clock::duration>(due)))
             return false;
-        const std::string piece = music->next(largestPiece);
+        const std::string piece = music->next(maxPieceSize);
         return sink.write(piece.data(), piece.size());
     });
 }

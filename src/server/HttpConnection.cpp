@@ -21,7 +21,7 @@ constexpr auto timeBetweenRequests = 2s;
 /// probe gives up, which it does after 5 s.
 constexpr auto timeOfARequest = 3s;
 constexpr auto timeWithoutTaking = 30s;
-constexpr auto timeOfAFarewell = 500ms;
+constexpr auto lingerTimeout = 500ms;
 constexpr std::size_t sizeOfARequest = 131'072;
 constexpr std::size_t sizeOfAFarewell = 1'048'576;
 
@@ -104,7 +104,7 @@ ssize_t HttpConnection::write(const char* bytes, std::size_t size)
 /// A close with bytes left unread resets the connection, and the client may lose the answer: takes some of them first.
 void HttpConnection::drain()
 {
-    const auto end = Clock::now() + timeOfAFarewell;
+    const auto end = Clock::now() + lingerTimeout;
     for (std::size_t taken = 0; taken < sizeOfAFarewell && waitFor(POLLIN, end - Clock::now());) {
         const ssize_t count = recv(socket_, received_.data(), received_.size(), 0);
         if (count <= 0)

@@ -14,9 +14,9 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::size_t mostRequestsOfAConnection = 20;
-constexpr std::size_t largestForm = 65'536;
-constexpr int mostWaitingToConnect = 128;
+constexpr std::size_t maxRequestsPerConnection = 20;
+constexpr std::size_t maxFormSize = 65'536;
+constexpr int maxBacklog = 128;
 
 /// Lets the library use threads that are made when they are needed.
 class TaskQueue final : public httplib::TaskQueue {
@@ -25,7 +25,7 @@ public:
     void shutdown() override { threads_.finish(); }
 
 private:
-    ConnectionThreads threads_{HttpServer::mostConnections};
+    ConnectionThreads threads_{HttpServer::maxConnections};
 };
 
 /// The library would let several servers share a port, and the user would not learn that it is taken.
@@ -69,8 +69,8 @@ std::string reasonFrom(int error)
 
 int HttpServer::listenAt(const std::string& address, int port, std::string& whyNot)
 {
-    set_payload_max_length(largestForm);
-    set_keep_alive_max_count(mostRequestsOfAConnection);
+    set_payload_max_length(maxFormSize);
+    set_keep_alive_max_count(maxRequestsPerConnection);
     set_socket_options(takePortAlone);
     errno = 0;
     const bool anyPort = port == 0;
@@ -80,7 +80,7 @@ int HttpServer::listenAt(const std::string& address, int port, std::string& whyN
             + reasonFrom(errno) + '.';
         return 0;
     }
-    ::listen(svr_sock_, mostWaitingToConnect); // The library's own bound lets a fifth client wait for a second.
+    ::listen(svr_sock_, maxBacklog); // The library's own bound lets a fifth client wait for a second.
     return bound;
 }
 
@@ -131,7 +131,7 @@ bool HttpServer::process_and_close_socket(socket_t socket)
 void HttpServer::converse(HttpConnection& connection)
 {
     const auto wantTheWhole = [](httplib::Request& request) { request.ranges.clear(); };
-    for (std::size_t left = mostRequestsOfAConnection; left > 0 && connection.awaitRequest(); --left) {
+    for (std::size_t left = maxRequestsPerConnection; left > 0 && connection.awaitRequest(); --left) {
         bool isClosed = false;
         if (!process_request(connection, left == 1, isClosed, wantTheWhole) || isClosed || connection.isCutShort())
             return;

@@ -17,11 +17,11 @@ namespace sonavel {
 class HttpConnection;
 
 /// Lifecycle: `listenAt`, the library's `Get` and `Post`, `start`, `end`. Each connection has a thread of its own
-/// as long as there are fewer than `mostConnections`; further ones wait. Requests for a part of a content are answered
+/// as long as there are fewer than `maxConnections`; further ones wait. Requests for a part of a content are answered
 /// with the whole.
 class HttpServer final : public httplib::Server {
 public:
-    static constexpr int mostConnections = 64;
+    static constexpr int maxConnections = 64;
 
     ~HttpServer() override { end(); }
 

@@ -10,12 +10,12 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::size_t largestFile = std::size_t{64} * 1024 * 1024;
-constexpr std::size_t longestName = 255;
+constexpr std::size_t maxFileSize = std::size_t{64} * 1024 * 1024;
+constexpr std::size_t maxNameLength = 255;
 
 bool isPlainName(std::string_view name)
 {
-    return !name.empty() && name.size() <= longestName && name.front() != '.'
+    return !name.empty() && name.size() <= maxNameLength && name.front() != '.'
         && std::none_of(name.begin(), name.end(),
             [](char character) { return isAsciiControl(character) || character == '/' || character == '\\'; });
 }
@@ -37,7 +37,7 @@ std::optional<std::string> PublishedFiles::contentOf(const std::string& name, co
     if (!isPlainName(name))
         return std::nullopt;
     if (!folder_.empty()) {
-        PublishedFile file = readPublishedFile(folder_ + '/' + name, largestFile);
+        PublishedFile file = readPublishedFile(folder_ + '/' + name, maxFileSize);
         if (file.state == PublishedFile::State::Read)
             return std::move(file.content);
         if (file.state == PublishedFile::State::Unusable)

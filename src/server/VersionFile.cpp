@@ -41,7 +41,7 @@ std::string VersionFile::readAnew()
 {
     if (path_.empty())
         return {};
-    const PublishedFile file = readPublishedFile(path_, largestFile);
+    const PublishedFile file = readPublishedFile(path_, maxFileSize);
     if (file.state == PublishedFile::State::Absent)
         return wasThere_ ? path_ + ": the file has gone" : std::string();
     if (file.state == PublishedFile::State::Unusable)

@@ -19,7 +19,7 @@ namespace sonavel {
 class VersionFile : private NonCopyable {
 public:
     static constexpr std::string_view fileName = "version.txt";
-    static constexpr std::size_t largestFile = 65'536;
+    static constexpr std::size_t maxFileSize = 65'536;
 
     using Report = std::function<void(const std::string& sentence)>;
 

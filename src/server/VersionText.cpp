@@ -1,9 +1,9 @@
 #include "server/VersionText.h"
 
 #include "base/Ascii.h"
-#include "base/ForeignText.h"
 #include "base/Moment.h"
 #include "base/Numbers.h"
+#include "base/TextDecoding.h"
 #include "online/RequestAddress.h"
 
 #include <algorithm>
@@ -17,9 +17,9 @@ namespace sonavel {
 
 namespace {
 
-constexpr std::size_t mostNumbers = 3;
+constexpr std::size_t maxNumbers = 3;
 /// Of a strange line in a complaint.
-constexpr std::size_t longestQuotation = 40;
+constexpr std::size_t maxQuotationLength = 40;
 
 /// Whether it is a number that players can compare, which count in 64 bits.
 bool isNumber(std::string_view text)
@@ -31,7 +31,7 @@ bool isNumber(std::string_view text)
 
 bool isVersion(std::string_view text)
 {
-    for (std::size_t count = 1; count <= mostNumbers; ++count) {
+    for (std::size_t count = 1; count <= maxNumbers; ++count) {
         const std::size_t end = text.find('.');
         if (!isNumber(text.substr(0, end)))
             return false;
@@ -78,8 +78,8 @@ constexpr std::array keys = {
 
 std::string quoted(std::string_view words)
 {
-    const Text shown = Text(withoutControls(utf8FromForeign(words)));
-    return '"' + shown.prefix(longestQuotation).string() + '"';
+    const Text shown = Text(withoutControls(decodeToUtf8(words)));
+    return '"' + shown.prefix(maxQuotationLength).string() + '"';
 }
 
 std::string namesOfKeys()
@@ -105,7 +105,7 @@ std::string_view obstacleIn(std::string_view value)
 }
 
 /// Half a sentence about what is wrong; caught before it leaves this file.
-struct Mistake {
+struct ParseError {
     std::string why;
 };
 
@@ -124,7 +124,7 @@ public:
             return;
         const std::size_t sign = line.find('=');
         if (sign == std::string_view::npos)
-            throw Mistake{quoted(line) + " has no \"=\" between a key and a value"};
+            throw ParseError{quoted(line) + " has no \"=\" between a key and a value"};
         setValue(keyNamed(withoutOuterBlanks(line.substr(0, sign))), withoutOuterBlanks(line.substr(sign + 1)));
     }
 
@@ -132,7 +132,7 @@ public:
     {
         for (const std::string_view name : {"version", "build"}) {
             if (!given_.contains(name))
-                throw Mistake{"the file ends without a " + quoted(name)};
+                throw ParseError{"the file ends without a " + quoted(name)};
         }
         return published_;
     }
@@ -143,24 +143,24 @@ private:
         const auto* const key =
             std::find_if(keys.begin(), keys.end(), [&](const Key& each) { return each.name == name; });
         if (key == keys.end())
-            throw Mistake{quoted(name) + " is none of the keys " + namesOfKeys()};
+            throw ParseError{quoted(name) + " is none of the keys " + namesOfKeys()};
         return *key;
     }
 
     void setValue(const Key& key, std::string_view value)
     {
         if (value.empty())
-            throw Mistake{quoted(key.name) + " has no value"};
+            throw ParseError{quoted(key.name) + " has no value"};
         if (const std::string_view obstacle = obstacleIn(value); !obstacle.empty())
-            throw Mistake{quoted(key.name) + " holds " + std::string(obstacle) + ", which the answer cannot carry"};
+            throw ParseError{quoted(key.name) + " holds " + std::string(obstacle) + ", which the answer cannot carry"};
         if (!key.accepts(value))
-            throw Mistake{quoted(key.name) + ' ' + key.mistake};
+            throw ParseError{quoted(key.name) + ' ' + key.mistake};
         if (key.place == nullptr) {
             published_.notes.emplace_back(value);
             return;
         }
         if (!given_.insert(key.name).second)
-            throw Mistake{quoted(key.name) + " is given a second time"};
+            throw ParseError{quoted(key.name) + " is given a second time"};
         published_.*key.place = value;
     }
 
@@ -183,7 +183,7 @@ std::variant<PublishedVersion, VersionTextMistake> publishedVersionFromText(
             rest.remove_prefix(std::min(content.size() + 1, rest.size()));
         }
         return reader.finished();
-    } catch (const Mistake& mistake) {
+    } catch (const ParseError& mistake) {
         return VersionTextMistake{std::max<std::size_t>(line, 1), mistake.why};
     }
 }

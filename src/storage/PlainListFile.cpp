@@ -1,6 +1,6 @@
 #include "storage/PlainListFile.h"
 
-#include "base/ForeignText.h"
+#include "base/TextDecoding.h"
 
 namespace sonavel {
 

@@ -1,7 +1,7 @@
 // What the command line of sonavel-list asks for.
 #pragma once
 
-#include "tools/ListFormat.h"
+#include "tools/ListFormats.h"
 
 #include <optional>
 #include <string>
@@ -25,7 +25,7 @@ struct ListArguments {
 
 /// Exit statuses.
 inline constexpr int listIsFine = 0;
-inline constexpr int listHasFindings = 1;
+inline constexpr int listHasDiagnostics = 1;
 inline constexpr int usageError = 2;
 inline constexpr int unreadable = 3;
 

@@ -1,7 +1,7 @@
 #include "tools/ListCheck.h"
 
-#include "base/ForeignText.h"
 #include "base/Numbers.h"
+#include "base/TextDecoding.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StreamAddress.h"
 #include "prefs/PreferenceFields.h"
@@ -13,42 +13,42 @@ namespace sonavel {
 
 namespace {
 
-Finding findingOnLimit(std::size_t numberOfStations, std::size_t limit)
+Diagnostic diagnosticOnLimit(std::size_t numberOfStations, std::size_t limit)
 {
     const auto digits = [](std::size_t number) { return decimalText(static_cast<std::int64_t>(number)).string(); };
     return {{}, "it has " + digits(numberOfStations) + " stations: an import stops at " + digits(limit)};
 }
 
-void checkAddress(const KVStationWebRadio& station, std::vector<Finding>& findings)
+void checkAddress(const KVStationWebRadio& station, std::vector<Diagnostic>& diagnostics)
 {
     if (station.link().isEmpty())
-        findings.push_back({station.idRadio(), "the address is empty"});
+        diagnostics.push_back({station.idRadio(), "the address is empty"});
     else if (usableStreamAddress(station.link()).isAbsent())
-        findings.push_back({station.idRadio(), "the player cannot play " + inQuotes(station.link().view())});
+        diagnostics.push_back({station.idRadio(), "the player cannot play " + inQuotes(station.link().view())});
 }
 
 } // namespace
 
-std::vector<Finding> checkedStations(const StationRecords& stations)
+std::vector<Diagnostic> checkedStations(const StationRecords& stations)
 {
-    std::vector<Finding> findings;
+    std::vector<Diagnostic> diagnostics;
     const auto limit = static_cast<std::size_t>(PreferenceFields().PREF_MAX_NUMBER_RADIO);
     if (stations.size() > limit)
-        findings.push_back(findingOnLimit(stations.size(), limit));
+        diagnostics.push_back(diagnosticOnLimit(stations.size(), limit));
     std::unordered_map<std::string_view, std::uint64_t> firstPlaces;
     firstPlaces.reserve(stations.size());
     for (const auto& station : stations) {
         const std::string_view name = station->radio().view();
         const auto [first, isNew] = firstPlaces.emplace(name, station->idRadio());
         if (!isNew)
-            findings.push_back({station->idRadio(),
+            diagnostics.push_back({station->idRadio(),
                 "the name " + inQuotes(name) + " is that of number "
                     + decimalText(static_cast<std::int64_t>(first->second + 1)).string() + ", too"});
         if (withoutControls(name) != name)
-            findings.push_back({station->idRadio(), "the name " + inQuotes(name) + " has control characters"});
-        checkAddress(*station, findings);
+            diagnostics.push_back({station->idRadio(), "the name " + inQuotes(name) + " has control characters"});
+        checkAddress(*station, diagnostics);
     }
-    return findings;
+    return diagnostics;
 }
 
 } // namespace sonavel

@@ -3,8 +3,7 @@
 #include "adapters/files/PosixFiles.h"
 #include "tools/ListArguments.h"
 #include "tools/ListCheck.h"
-#include "tools/ListReading.h"
-#include "tools/ListWriting.h"
+#include "tools/ListFormats.h"
 #include "tools/StationTable.h"
 
 #include <fcntl.h>
@@ -57,7 +56,7 @@ std::error_code readInput(const std::string& path, std::string& content)
 }
 
 /// Complains where there is none.
-std::optional<ReadList> inputList(const ListArguments& arguments)
+std::optional<ParsedList> inputList(const ListArguments& arguments)
 {
     std::string content;
     if (const std::error_code failure = readInput(arguments.input, content)) {
@@ -65,11 +64,11 @@ std::optional<ReadList> inputList(const ListArguments& arguments)
         return std::nullopt;
     }
     const ListFormat format = arguments.inputFormat.value_or(formatOfContent(content));
-    auto list = readList(std::move(content), format);
-    if (!list)
-        complain(
-            inputName(arguments), format == ListFormat::Json ? "it is not a JSON object" : "it cannot be decrypted");
-    return list;
+    auto list = parseList(std::move(content), format);
+    if (list)
+        return std::move(*list);
+    complain(inputName(arguments), list.error());
+    return std::nullopt;
 }
 
 bool print(std::string_view bytes)
@@ -93,21 +92,21 @@ bool write(const std::string& path, std::string_view bytes)
 }
 
 /// How many places of a list the reading left out or changed.
-long placesLost(const ReadList& list)
+long placesLost(const ParsedList& list)
 {
-    return std::count_if(list.findings.begin(), list.findings.end(),
-        [](const Finding& finding) { return finding.cost == Finding::Cost::Content; });
+    return std::count_if(list.diagnostics.begin(), list.diagnostics.end(),
+        [](const Diagnostic& diagnostic) { return diagnostic.severity == Diagnostic::Severity::Loss; });
 }
 
 /// Tells of what the reading left out or changed; answers the status that this means.
-int statusAfterReading(const ListArguments& arguments, const ReadList& list)
+int statusAfterReading(const ListArguments& arguments, const ParsedList& list)
 {
     const long lost = placesLost(list);
     if (lost == 0)
         return listIsFine;
     complain(inputName(arguments),
         "left out or changed in " + std::to_string(lost) + " places, which \"sonavel-list check\" lists");
-    return listHasFindings;
+    return listHasDiagnostics;
 }
 
 int show(const ListArguments& arguments)
@@ -128,7 +127,7 @@ int convert(const ListArguments& arguments)
         complain(inputName(arguments), "there is no station in it");
         return unreadable;
     }
-    const auto bytes = writtenList(list->stations, arguments.outputFormat);
+    const auto bytes = serializedList(list->stations, arguments.outputFormat);
     if (!bytes) {
         complain(outputName(arguments), "the list is too large for this format");
         return unreadable;
@@ -136,10 +135,10 @@ int convert(const ListArguments& arguments)
     if (!write(arguments.output, *bytes))
         return unreadable;
     int status = statusAfterReading(arguments, *list);
-    if (const std::size_t lost = stationsLostInWriting(list->stations, arguments.outputFormat); lost > 0) {
+    if (const std::size_t lost = stationsLostBySerializing(list->stations, arguments.outputFormat); lost > 0) {
         complain(
             arguments.output, std::to_string(lost) + " stations are left out, as a later one has the same address");
-        status = listHasFindings;
+        status = listHasDiagnostics;
     }
     return status;
 }
@@ -149,20 +148,21 @@ int check(const ListArguments& arguments)
     auto list = inputList(arguments);
     if (!list)
         return unreadable;
-    auto& findings = list->findings;
+    auto& diagnostics = list->diagnostics;
     const auto checked = checkedStations(list->stations);
-    findings.insert(findings.end(), checked.begin(), checked.end());
-    std::stable_sort(findings.begin(), findings.end(),
-        [](const Finding& left, const Finding& right) { return left.place < right.place; });
+    diagnostics.insert(diagnostics.end(), checked.begin(), checked.end());
+    std::stable_sort(diagnostics.begin(), diagnostics.end(),
+        [](const Diagnostic& left, const Diagnostic& right) { return left.place < right.place; });
     std::string report;
-    for (const Finding& finding : findings) {
-        report += finding.place ? std::string(list->placeName).append(" ").append(std::to_string(*finding.place + 1))
-                                : "list";
-        report.append(": ").append(finding.what) += '\n';
+    for (const Diagnostic& diagnostic : diagnostics) {
+        report += diagnostic.place
+            ? std::string(list->placeName).append(" ").append(std::to_string(*diagnostic.place + 1))
+            : "list";
+        report.append(": ").append(diagnostic.what) += '\n';
     }
     if (!print(report))
         return unreadable;
-    return findings.empty() ? listIsFine : listHasFindings;
+    return diagnostics.empty() ? listIsFine : listHasDiagnostics;
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "tools/StationTable.h"
 
-#include "base/ForeignText.h"
+#include "base/TextDecoding.h"
 #include "model/KVStationWebRadio.h"
 
 #include <algorithm>

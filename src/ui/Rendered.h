@@ -19,13 +19,13 @@ public:
 
     /// Attaches the toolkit: takes over what its layout says; from then on every change is rendered. `render` may be
     /// empty where nobody looks, or not yet: a control that is connected already keeps its state, which is rendered.
-    void connect(State asLaidOut, Render render = {})
+    void connect(State initialState, Render render = {})
     {
         render_ = std::move(render);
         if (std::exchange(connected_, true))
             renderAgain();
         else
-            state_ = std::move(asLaidOut);
+            state_ = std::move(initialState);
     }
 
     /// Detaches it again, as when its window goes away.

@@ -94,7 +94,7 @@ TEST(Protocol, ALineThatNeverEndsIsDroppedAndTheNextOneIsRead)
 
 TEST(Protocol, TheLongestAddressAndNameFitALine)
 {
-    const std::string address = "http://host/" + std::string(longestStreamAddress - 12, '%');
+    const std::string address = "http://host/" + std::string(maxAddressLength - 12, '%');
     LineReader reader;
     const LoadCommand command{1, address, streamTitle(std::string(10'000, '%'))};
     reader.append(lineFromCommand(command));

@@ -26,7 +26,7 @@ TEST(StreamAddress, NothingElseReachesThePlayer)
         EXPECT_TRUE(usableStreamAddress(link).isAbsent()) << link;
     EXPECT_TRUE(usableStreamAddress(Text()).isAbsent());
     EXPECT_TRUE(usableStreamAddress(Text(std::string("http://h/\0x", 11))).isAbsent());
-    const std::string longest = "http://h/" + std::string(longestStreamAddress - 9, 'x');
+    const std::string longest = "http://h/" + std::string(maxAddressLength - 9, 'x');
     EXPECT_EQ(usableStreamAddress(longest), Text(longest));
     EXPECT_TRUE(usableStreamAddress(longest + "x").isAbsent());
 }

@@ -140,7 +140,7 @@ TEST(HttpServer, HalfRequestsOnEveryConnectionHoldUpAPlayersProbeForLessThanItWa
 {
     const auto server = startedServer();
     std::deque<RawClient> halfway;
-    for (int client = 0; client < HttpServer::mostConnections; ++client)
+    for (int client = 0; client < HttpServer::maxConnections; ++client)
         EXPECT_TRUE(halfway.emplace_back(*server).send("GET / HT"));
     httplib::Client probe(test::hostOf(*server));
     probe.set_read_timeout(std::chrono::seconds(5));
@@ -157,7 +157,7 @@ TEST(HttpServer, ClientsWhoDoNothingDoNotHoldUpItsEnd)
     ASSERT_TRUE(listening.send(listen));
     ASSERT_FALSE(listening.read(1).empty());
     std::deque<RawClient> moreThanThreads;
-    for (int client = 0; client < HttpServer::mostConnections; ++client)
+    for (int client = 0; client < HttpServer::maxConnections; ++client)
         moreThanThreads.emplace_back(*server);
 
     const auto beginning = std::chrono::steady_clock::now();

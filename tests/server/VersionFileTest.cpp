@@ -69,7 +69,7 @@ TEST_F(VersionFileTest, WhatCannotBePublishedAtTheStartIsRefusedInOneSentence)
     };
     folder_.put(name, "version = 1.3.0\nbuild = many\n");
     expectRefusal(", line 2: \"build\" takes");
-    folder_.put(name, stating("1.3.0") + '#' + std::string(VersionFile::largestFile, 'x'));
+    folder_.put(name, stating("1.3.0") + '#' + std::string(VersionFile::maxFileSize, 'x'));
     expectRefusal("64 KiB");
     ASSERT_EQ(::mkdir(folder_.path(name).c_str(), 0700), 0);
     expectRefusal("plain file");

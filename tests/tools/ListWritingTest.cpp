@@ -1,6 +1,5 @@
-#include "tools/ListWriting.h"
-
 #include "model/StationListText.h"
+#include "tools/ListFormats.h"
 #include "tools/StationTable.h"
 
 #include <gtest/gtest.h>
@@ -11,11 +10,11 @@ namespace {
 TEST(ListWriting, AListIsWrittenAsThePlayerWouldWriteIt)
 {
     const StationRecords stations = recordsFromListText("Alpha;a\rBeta;b\r");
-    EXPECT_EQ(writtenList(stations, ListFormat::Csv), "radio;link\rAlpha;a\rBeta;b\r");
-    EXPECT_EQ(writtenList(stations, ListFormat::Rdb), "yCHhQV+4mfw55E8WfFF64Q==");
-    EXPECT_EQ(writtenList(stations, ListFormat::Json), "{\n  \"a\": \"Alpha\",\n  \"b\": \"Beta\"\n}\n");
-    EXPECT_EQ(stationsLostInWriting(recordsFromListText("A;a\rB;b\rC;a\rD;a\r"), ListFormat::Json), 2U);
-    EXPECT_EQ(stationsLostInWriting(recordsFromListText("A;a\rC;a\r"), ListFormat::Csv), 0U);
+    EXPECT_EQ(serializedList(stations, ListFormat::Csv), "radio;link\rAlpha;a\rBeta;b\r");
+    EXPECT_EQ(serializedList(stations, ListFormat::Rdb), "yCHhQV+4mfw55E8WfFF64Q==");
+    EXPECT_EQ(serializedList(stations, ListFormat::Json), "{\n  \"a\": \"Alpha\",\n  \"b\": \"Beta\"\n}\n");
+    EXPECT_EQ(stationsLostBySerializing(recordsFromListText("A;a\rB;b\rC;a\rD;a\r"), ListFormat::Json), 2U);
+    EXPECT_EQ(stationsLostBySerializing(recordsFromListText("A;a\rC;a\r"), ListFormat::Csv), 0U);
 }
 
 TEST(StationTable, NoNameBreaksALineOrReachesTheTerminalAsACommand)

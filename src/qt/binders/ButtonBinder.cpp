@@ -17,13 +17,13 @@ ButtonBinder::ButtonBinder(Button& button, QAbstractButton& widget)
     , button_(button)
     , widget_(widget)
 {
-    ButtonState asLaidOut;
-    asLaidOut.title = toText(widget.text());
+    ButtonState initialState;
+    initialState.title = toText(widget.text());
     if (const QVariant image = widget.property("imageName"); image.isValid())
-        asLaidOut.image = toText(image.toString());
-    asLaidOut.isEnabled = widget.isEnabled();
-    asLaidOut.isOn = widget.isChecked();
-    button_.connect(asLaidOut, [this](const ButtonState& state) { render(state); });
+        initialState.image = toText(image.toString());
+    initialState.isEnabled = widget.isEnabled();
+    initialState.isOn = widget.isChecked();
+    button_.connect(initialState, [this](const ButtonState& state) { render(state); });
     render(button_.state());
 
     // A screen reader toggles a check box without a click; a plain button is only ever clicked.

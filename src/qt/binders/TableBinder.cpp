@@ -41,9 +41,9 @@ TableBinder::TableBinder(TableView& table, StationTable& widget)
     , model_(table)
 {
     widget.setModel(&model_);
-    TableViewState asLaidOut;
-    asLaidOut.allowsMultipleSelection = widget.selectionMode() == QAbstractItemView::ExtendedSelection;
-    table_.connect(asLaidOut, [this](const TableViewState& state) { render(state); });
+    TableViewState initialState;
+    initialState.allowsMultipleSelection = widget.selectionMode() == QAbstractItemView::ExtendedSelection;
+    table_.connect(initialState, [this](const TableViewState& state) { render(state); });
     connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this](const QItemSelection& selected) { report(selected); });
     connect(&widget, &QAbstractItemView::doubleClicked, this, [this] { table_.doubleClickedByUser(); });

@@ -13,7 +13,7 @@ namespace sonavel {
 
 namespace {
 
-constexpr int shortestContents = 24; // characters
+constexpr int minContentsLength = 24; // characters
 constexpr int visibleItems = 16;
 
 /// Rows with room to aim at.
@@ -65,7 +65,7 @@ StationComboBox::StationComboBox(QWidget* parent)
     : QComboBox(parent)
 {
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(shortestContents);
+    setMinimumContentsLength(minContentsLength);
     auto* list = new QListView(this);
     list->setUniformItemSizes(true);
     list->setTextElideMode(Qt::ElideRight);

@@ -36,17 +36,17 @@ void StatusLine::hold(Message& message, const QString& text)
     else
         message.time->start();
     setText(failure_.text.isEmpty() ? usual_.text : failure_.text);
-    takeColor();
+    updateColor();
 }
 
 void StatusLine::changeEvent(QEvent* event)
 {
     ElidedLabel::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        takeColor();
+        updateColor();
 }
 
-void StatusLine::takeColor()
+void StatusLine::updateColor()
 {
     QPalette colors;
     if (!failure_.text.isEmpty())

@@ -28,7 +28,7 @@ private:
     };
 
     void hold(Message& message, const QString& text);
-    void takeColor();
+    void updateColor();
 
     Message usual_;
     Message failure_;

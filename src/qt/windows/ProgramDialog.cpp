@@ -36,10 +36,10 @@ void ProgramDialog::growWithTexts()
         setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
 }
 
-void ProgramDialog::takeShape()
+void ProgramDialog::updateShape()
 {
     arrangeButtons();
-    takeProportions();
+    updateProportions();
 }
 
 /// Each desktop has an order of its own in which its users look for buttons.
@@ -53,7 +53,7 @@ void ProgramDialog::arrangeButtons()
 }
 
 /// All distances follow the font.
-void ProgramDialog::takeProportions()
+void ProgramDialog::updateProportions()
 {
     const int line = fontMetrics().height();
     if (auto* rows = qobject_cast<QBoxLayout*>(layout()))

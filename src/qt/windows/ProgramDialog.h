@@ -22,7 +22,7 @@ public:
     {
         auto dialog = std::make_unique<ProgramDialog>(owner);
         Description().setupUi(dialog.get());
-        dialog->takeShape();
+        dialog->updateShape();
         return dialog;
     }
 
@@ -31,11 +31,11 @@ public:
 protected:
     bool event(QEvent* event) override;
     /// To be called once the description was set up, before the dialog is resized.
-    void takeShape();
+    void updateShape();
 
 private:
     void arrangeButtons();
-    void takeProportions();
+    void updateProportions();
     void growWithTexts();
 };
 

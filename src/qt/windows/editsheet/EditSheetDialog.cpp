@@ -11,7 +11,7 @@ EditSheetDialog::EditSheetDialog(QWidget& editor)
     description.setupUi(this);
     description.buttonAction->reserveRoomFor(
         {qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")}, PrimaryButton::Picture::None);
-    takeShape();
+    updateShape();
     resize(fontMetrics().height() * 30, sizeHint().height());
 }
 

@@ -18,9 +18,9 @@ constexpr qreal strengthOfTint = 0.18;
 
 FindField::FindField(QWidget* parent)
     : QLineEdit(parent)
-    , lens_(addAction(QIcon(), LeadingPosition))
+    , searchIcon_(addAction(QIcon(), LeadingPosition))
 {
-    lens_->setEnabled(false);
+    searchIcon_->setEnabled(false);
     setPlaceholderText(qtTrId("FIND_PLACEHOLDER"));
     setAccessibleName(qtTrId("FIND"));
     setClearButtonEnabled(true);
@@ -86,7 +86,7 @@ void FindField::takeColors()
         colors.setColor(QPalette::Base, mixed(usual.color(QPalette::Base), readableRed(), strengthOfTint));
     setPalette(colors);
     const QColor quiet = usual.color(QPalette::PlaceholderText);
-    lens_->setIcon(imageNamed("find.png", quiet, quiet));
+    searchIcon_->setIcon(imageNamed("find.png", quiet, quiet));
 }
 
 } // namespace sonavel

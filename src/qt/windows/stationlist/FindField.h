@@ -35,7 +35,7 @@ private:
     void takeDirection();
 
     Requests requests_;
-    QAction* lens_;
+    QAction* searchIcon_;
     Outcome outcome_ = Outcome::Found;
 };
 

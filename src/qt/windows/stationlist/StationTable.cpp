@@ -42,7 +42,7 @@ StationTable::StationTable(QWidget* parent)
     verticalHeader()->hide();
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
-    takeProportions();
+    updateProportions();
 }
 
 void StationTable::setModel(QAbstractItemModel* model)
@@ -52,7 +52,7 @@ void StationTable::setModel(QAbstractItemModel* model)
         horizontalHeader()->setSectionResizeMode(model->columnCount() - 1, QHeaderView::Stretch);
 }
 
-void StationTable::takeProportions()
+void StationTable::updateProportions()
 {
     const int line = fontMetrics().height();
     verticalHeader()->setDefaultSectionSize(line * 3 / 2);
@@ -139,7 +139,7 @@ void StationTable::changeEvent(QEvent* event)
 {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        takeProportions();
+        updateProportions();
 }
 
 void StationTable::paintEvent(QPaintEvent* event)

@@ -33,7 +33,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void takeProportions();
+    void updateProportions();
     void keepColumnsInView();
 
     StationCellDelegate* cells_;

@@ -1,7 +1,7 @@
-#include "tools/JsonList.h"
-
+#include "base/Ascii.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
+#include "playlists/Parsers.h"
 
 #include <nlohmann/json.hpp>
 
@@ -13,7 +13,7 @@ namespace {
 /// on.
 class MemberReader : public nlohmann::json_sax<nlohmann::json> {
 public:
-    ReadList list{"member", {}, {}};
+    ParsedList list{"member", {}, {}};
 
     bool null() override { return otherValue(); }
     bool boolean(bool /*value*/) override { return otherValue(); }
@@ -88,7 +88,10 @@ private:
             list.stations.push_back(std::make_shared<KVStationWebRadio>(members_ - 1, name, link));
     }
 
-    void find(std::string what) { list.findings.push_back({members_ - 1, std::move(what), Finding::Cost::Content}); }
+    void find(std::string what)
+    {
+        list.diagnostics.push_back({members_ - 1, std::move(what), Diagnostic::Severity::Loss});
+    }
 
     std::size_t depth_ = 0;
     std::uint64_t members_ = 0;
@@ -97,12 +100,20 @@ private:
 
 } // namespace
 
-std::optional<ReadList> readJsonList(std::string_view bytes)
+tl::expected<ParsedList, std::string> parseJson(std::string_view bytes)
 {
     MemberReader reader;
     if (!nlohmann::json::sax_parse(bytes, &reader))
-        return std::nullopt;
+        return tl::unexpected(std::string("it is not a JSON object"));
     return std::move(reader.list);
+}
+
+bool looksLikeJson(std::string_view bytes)
+{
+    if (!bytes.starts_with('{'))
+        return false;
+    const std::string_view members = withoutOuterBlanks(bytes.substr(1));
+    return members.starts_with('"') || members.starts_with('}');
 }
 
 } // namespace sonavel

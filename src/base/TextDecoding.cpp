@@ -1,4 +1,4 @@
-#include "base/ForeignText.h"
+#include "base/TextDecoding.h"
 
 #include "base/Text.h"
 
@@ -63,7 +63,7 @@ bool isControl(char32_t character)
 
 } // namespace
 
-std::string utf8FromForeign(std::string_view bytes)
+std::string decodeToUtf8(std::string_view bytes)
 {
     if (isValidUtf8(bytes))
         return std::string(bytes);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/KVStationWebRadio.h"
-#include "tools/ReadList.h"
+#include "playlists/ParsedList.h"
 
 #include <string>
 #include <vector>
@@ -15,11 +15,11 @@ using Lines = std::vector<std::string>;
 struct ReadListCase {
     std::string bytes;
     Lines stations;
-    std::string findings = {};
+    std::string diagnostics = {};
 };
 
 /// "name=address" for each station.
-inline Lines stationsOf(const ReadList& list)
+inline Lines stationsOf(const ParsedList& list)
 {
     Lines lines;
     for (const auto& station : list.stations)
@@ -27,14 +27,14 @@ inline Lines stationsOf(const ReadList& list)
     return lines;
 }
 
-/// The places of the findings, counted from 1, "*" for the list as a whole; with "!" where something of it is lost.
-inline std::string placesOf(const std::vector<Finding>& findings)
+/// The places of the diagnostics, counted from 1, "*" for the list as a whole; with "!" where something of it is lost.
+inline std::string placesOf(const std::vector<Diagnostic>& diagnostics)
 {
     std::string places;
-    for (const Finding& finding : findings) {
+    for (const Diagnostic& diagnostic : diagnostics) {
         places += places.empty() ? "" : " ";
-        places += finding.place ? std::to_string(*finding.place + 1) : "*";
-        places += finding.cost == Finding::Cost::Content ? "!" : "";
+        places += diagnostic.place ? std::to_string(*diagnostic.place + 1) : "*";
+        places += diagnostic.severity == Diagnostic::Severity::Loss ? "!" : "";
     }
     return places;
 }

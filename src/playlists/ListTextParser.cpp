@@ -1,8 +1,7 @@
-#include "tools/ListText.h"
-
-#include "base/ForeignText.h"
+#include "base/TextDecoding.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
+#include "playlists/Parsers.h"
 
 #include <algorithm>
 
@@ -10,8 +9,8 @@ namespace sonavel {
 
 namespace {
 
-constexpr auto costsContent = Finding::Cost::Content;
-constexpr auto costsNothing = Finding::Cost::Nothing;
+constexpr auto loss = Diagnostic::Severity::Loss;
+constexpr auto note = Diagnostic::Severity::Note;
 
 bool isHeading(const StationListLine& line)
 {
@@ -19,20 +18,20 @@ bool isHeading(const StationListLine& line)
     return line.number == 0 && heading.view().substr(0, heading.view().size() - 1) == line.text;
 }
 
-Finding findingOnSkipped(const StationListLine& line)
+Diagnostic diagnosticOnSkipped(const StationListLine& line)
 {
     const std::string_view name = line.text.substr(0, line.text.find(';'));
     if (line.text.empty())
-        return {line.number, "skipped, as it is empty", costsNothing};
+        return {line.number, "skipped, as it is empty", note};
     if (name.size() == line.text.size())
-        return {line.number, "skipped, as it has no \";\": " + inQuotes(line.text), costsContent};
+        return {line.number, "skipped, as it has no \";\": " + inQuotes(line.text), loss};
     if (name.empty())
-        return {line.number, "skipped, as the name is empty: " + inQuotes(line.text), costsContent};
-    return {line.number, "skipped, as no list keeps the name " + inQuotes(name), costsContent};
+        return {line.number, "skipped, as the name is empty: " + inQuotes(line.text), loss};
+    return {line.number, "skipped, as no list keeps the name " + inQuotes(name), loss};
 }
 
 /// Makes every line end a carriage return, where that is possible without guessing.
-void mendLineEnds(std::string& text, std::vector<Finding>& findings)
+void mendLineEnds(std::string& text, std::vector<Diagnostic>& diagnostics)
 {
     const auto returns = std::count(text.begin(), text.end(), '\r');
     const auto feeds = std::count(text.begin(), text.end(), '\n');
@@ -40,7 +39,7 @@ void mendLineEnds(std::string& text, std::vector<Finding>& findings)
         return;
     if (returns == 0) {
         std::replace(text.begin(), text.end(), '\n', '\r');
-        findings.push_back({{}, "its lines end with line feeds: to the player it is one single line", costsNothing});
+        diagnostics.push_back({{}, "its lines end with line feeds: to the player it is one single line", note});
         return;
     }
     std::string mended;
@@ -51,31 +50,29 @@ void mendLineEnds(std::string& text, std::vector<Finding>& findings)
     if (text.size() - mended.size() != static_cast<std::size_t>(feeds))
         return; // a line feed in the midst of a line, as the names and addresses of stations may hold
     text = std::move(mended);
-    findings.push_back(
-        {{}, "its lines end with carriage return and line feed: to the player each name begins with a line feed",
-            costsNothing});
+    diagnostics.push_back({{},
+        "its lines end with carriage return and line feed: to the player each name begins with a line feed", note});
 }
 
 /// Gives every line in UTF-8.
-std::string decodedLines(std::string_view text, std::vector<Finding>& findings)
+std::string decodedLines(std::string_view text, std::vector<Diagnostic>& diagnostics)
 {
     std::string decoded;
     for (StationListReader reader(text); const auto line = reader.next();) {
         if (line->number > 0)
             decoded += '\r';
-        decoded += utf8FromForeign(line->text);
+        decoded += decodeToUtf8(line->text);
         if (!isValidUtf8(line->text))
-            findings.push_back(
-                {line->number, "not UTF-8, read as Windows-1252: " + inQuotes(line->text), costsContent});
+            diagnostics.push_back({line->number, "not UTF-8, read as Windows-1252: " + inQuotes(line->text), loss});
     }
     return decoded;
 }
 
 } // namespace
 
-ReadList readListText(const Text& text)
+ParsedList parseListText(const Text& text)
 {
-    ReadList list;
+    ParsedList list;
     StationListReader reader(text.view());
     for (auto line = reader.next(); line;) {
         auto following = reader.next();
@@ -83,30 +80,30 @@ ReadList readListText(const Text& text)
             list.stations.push_back(
                 std::make_shared<KVStationWebRadio>(line->number, text.slice(line->name), text.slice(line->link)));
             if (line->name.size() + 1 + line->link.size() < line->text.size())
-                list.findings.push_back(
-                    {line->number, "what follows the second field is ignored: " + inQuotes(line->text), costsContent});
+                list.diagnostics.push_back(
+                    {line->number, "what follows the second field is ignored: " + inQuotes(line->text), loss});
         } else if (!isHeading(*line) && (following || !line->text.empty())) {
-            list.findings.push_back(findingOnSkipped(*line));
+            list.diagnostics.push_back(diagnosticOnSkipped(*line));
         }
         line = following;
     }
     return list;
 }
 
-ReadList readForeignListText(std::string bytes)
+ParsedList parseListTextFile(std::string bytes)
 {
-    std::vector<Finding> findings;
+    std::vector<Diagnostic> diagnostics;
     if (const auto text = withoutByteOrderMark(bytes); text.size() < bytes.size()) {
         bytes.erase(0, bytes.size() - text.size());
-        findings.push_back({{}, "it begins with a byte order mark", costsNothing});
+        diagnostics.push_back({{}, "it begins with a byte order mark", note});
     }
-    mendLineEnds(bytes, findings);
+    mendLineEnds(bytes, diagnostics);
     if (!isValidUtf8(bytes)) {
-        findings.push_back({{}, "it is not valid UTF-8: the player does not read it at all", costsNothing});
-        bytes = decodedLines(bytes, findings);
+        diagnostics.push_back({{}, "it is not valid UTF-8: the player does not read it at all", note});
+        bytes = decodedLines(bytes, diagnostics);
     }
-    ReadList list = readListText(std::move(bytes));
-    list.findings.insert(list.findings.begin(), findings.begin(), findings.end());
+    ParsedList list = parseListText(std::move(bytes));
+    list.diagnostics.insert(list.diagnostics.begin(), diagnostics.begin(), diagnostics.end());
     return list;
 }
 

@@ -9,10 +9,10 @@ namespace sonavel {
 
 /// Takes a text apart into lines that end with CR, LF or both. What follows the last end is a line only if there is
 /// something.
-class ForeignLines {
+class TextLines {
 public:
     /// `text` has to outlive the lines.
-    explicit ForeignLines(std::string_view text)
+    explicit TextLines(std::string_view text)
         : rest_(text)
     {
     }

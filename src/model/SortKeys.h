@@ -11,11 +11,11 @@ namespace sonavel {
 
 /// The keys of many names. Two keys compare byte by byte, the shorter before its continuation, as their names do, and
 /// are equal for equivalent names. No key has a zero byte, so words filled up with zeros compare alike.
-class NameKeys {
+class SortKeys {
 public:
     static constexpr std::size_t wordSize = 8;
 
-    explicit NameKeys(const std::vector<std::string_view>& names);
+    explicit SortKeys(const std::vector<std::string_view>& names);
 
     /// Eight bytes of a key as a number that compares as they do; zeros stand for what lies behind its end.
     [[nodiscard]] std::uint64_t wordAt(std::size_t place, std::size_t offset) const;

@@ -8,7 +8,7 @@ namespace sonavel {
 
 /// The bytes as UTF-8: as they are where they are valid UTF-8, otherwise read as Windows-1252, of which Latin-1 is a
 /// part, without the bytes that have no meaning there.
-[[nodiscard]] std::string utf8FromForeign(std::string_view bytes);
+[[nodiscard]] std::string decodeToUtf8(std::string_view bytes);
 
 /// The text with a blank in the place of each control character, and of each that ends a line or overrides the
 /// direction of what follows: something to show in one line, on a terminal too. The text has to be valid UTF-8.

@@ -1,10 +1,10 @@
-#include "tools/ListLines.h"
+#include "playlists/TextLines.h"
 
 #include <algorithm>
 
 namespace sonavel {
 
-std::optional<std::string_view> ForeignLines::next()
+std::optional<std::string_view> TextLines::next()
 {
     if (rest_.empty())
         return std::nullopt;

@@ -1,5 +1,5 @@
 // Bytes from elsewhere as text.
-#include "base/ForeignText.h"
+#include "base/TextDecoding.h"
 
 #include <gtest/gtest.h>
 
@@ -8,15 +8,15 @@
 namespace sonavel {
 namespace {
 
-TEST(ForeignText, BytesThatAreNotUtf8AreReadAsWindowsCharacters)
+TEST(TextDecoding, BytesThatAreNotUtf8AreReadAsWindowsCharacters)
 {
     const std::pair<const char*, const char*> cases[] = {{"\xE4", "ä"}, {"\xA0\xFF", "\xC2\xA0ÿ"},
         {"\x83\x98\x9F", "ƒ˜Ÿ"}, {"\x80\x96\x99", "€–™"}, {"A\x81\x8D\x8F\x90\x9DZ", "AZ"}, {"ä\xE4", "Ã¤ä"}};
     for (const auto& [bytes, text] : cases)
-        EXPECT_EQ(utf8FromForeign(bytes), text);
+        EXPECT_EQ(decodeToUtf8(bytes), text);
 }
 
-TEST(ForeignText, AControlIsABlankAndWhatStandsBesideItStaysWhole)
+TEST(TextDecoding, AControlIsABlankAndWhatStandsBesideItStaysWhole)
 {
     // The first and the last character of each size, with what would be taken for a control if it were cut elsewhere.
     for (const std::string character : {"\x20", "\x7E", "\xC2\xA0", "\xDF\xBF", "\xE0\xA0\x80", "\xEF\xBF\xBF",

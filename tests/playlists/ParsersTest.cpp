@@ -1,6 +1,6 @@
-#include "tools/PlaylistText.h"
+#include "playlists/Parsers.h"
 
-#include "tools/ReadListText.h"
+#include "support/ParsedListText.h"
 
 #include <gtest/gtest.h>
 
@@ -40,9 +40,9 @@ TEST(PlaylistText, AnM3uOfAnyMakeGivesItsStations)
             "2!"},
     };
     for (const Case& row : cases) {
-        const ReadList list = readM3u(row.bytes);
+        const ParsedList list = parseM3u(row.bytes);
         EXPECT_EQ(stationsOf(list), row.stations) << row.bytes;
-        EXPECT_EQ(placesOf(list.findings), row.findings) << row.bytes;
+        EXPECT_EQ(placesOf(list.diagnostics), row.diagnostics) << row.bytes;
     }
 }
 
@@ -68,9 +68,9 @@ TEST(PlaylistText, APlsGivesItsStationsInTheOrderOfTheirNumbers)
             {"b.example=http://b.example/", "a.example=http://a.example/"}},
     };
     for (const Case& row : cases) {
-        const ReadList list = readPls(row.bytes);
+        const ParsedList list = parsePls(row.bytes);
         EXPECT_EQ(stationsOf(list), row.stations) << row.bytes;
-        EXPECT_EQ(placesOf(list.findings), row.findings) << row.bytes;
+        EXPECT_EQ(placesOf(list.diagnostics), row.diagnostics) << row.bytes;
     }
 }
 

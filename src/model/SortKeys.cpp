@@ -1,4 +1,4 @@
-#include "model/NameKeys.h"
+#include "model/SortKeys.h"
 
 #include "base/Numbers.h"
 
@@ -52,7 +52,7 @@ char* writeKey(std::string_view name, char* end)
 
 } // namespace
 
-NameKeys::NameKeys(const std::vector<std::string_view>& names)
+SortKeys::SortKeys(const std::vector<std::string_view>& names)
 {
     const std::size_t length = std::accumulate(names.begin(), names.end(), std::size_t{0},
         [](std::size_t sum, std::string_view name) { return sum + name.size(); });
@@ -65,7 +65,7 @@ NameKeys::NameKeys(const std::vector<std::string_view>& names)
     }
 }
 
-std::uint64_t NameKeys::wordAt(std::size_t place, std::size_t offset) const
+std::uint64_t SortKeys::wordAt(std::size_t place, std::size_t offset) const
 {
     const std::string_view rest = restAt(place, offset);
     std::uint64_t word = 0;
@@ -75,7 +75,7 @@ std::uint64_t NameKeys::wordAt(std::size_t place, std::size_t offset) const
     return word;
 }
 
-std::string_view NameKeys::restAt(std::size_t place, std::size_t offset) const
+std::string_view SortKeys::restAt(std::size_t place, std::size_t offset) const
 {
     const std::size_t start = place == 0 ? 0 : ends_[place - 1];
     const std::string_view key = std::string_view(bytes_.get() + start, ends_[place] - start);
