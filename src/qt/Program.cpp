@@ -67,7 +67,8 @@ MainWindow::Emphasis emphasisOf(StreamReport::State state)
 
 /// In the order of their dependence.
 struct Program::Parts {
-    Parts(const LaunchOptions& options, LaunchResources provided, std::unique_ptr<SingleInstance> claim)
+    Parts(const LaunchOptions& options, LaunchResources provided, std::unique_ptr<SingleInstance> claim,
+        const WindowStateStore& windowState)
         : instance(std::move(claim))
         , resources(std::move(provided))
         , filePanels(alerts, resources.temporaryHome ? resources.temporaryHome->path() : QString())
@@ -80,8 +81,7 @@ struct Program::Parts {
         , controller(ports(), {toText(options.dataServer), toText(options.probe)}, controls)
         , windows(
               controls, controller.actions,
-              [this](const Text& path) { controller.stationImport.importRadioListFromFileAtPath(path); },
-              options.isDemo ? options.home : WindowStateStore::usersStateFolder())
+              [this](const Text& path) { controller.stationImport.importRadioListFromFileAtPath(path); }, windowState)
     {
     }
 
@@ -139,11 +139,11 @@ struct Program::Parts {
 };
 
 tl::expected<std::unique_ptr<Program>, QString> Program::create(
-    LaunchOptions options, std::unique_ptr<SingleInstance> instance)
+    LaunchOptions options, std::unique_ptr<SingleInstance> instance, const WindowStateStore& windowState)
 {
     return provideResources(options).map([&](LaunchResources resources) {
         return std::unique_ptr<Program>(
-            new Program(std::make_unique<Parts>(options, std::move(resources), std::move(instance))));
+            new Program(std::make_unique<Parts>(options, std::move(resources), std::move(instance), windowState)));
     });
 }
 
@@ -228,7 +228,7 @@ void Program::endAsTheSessionDoes()
 
 void Program::leaveWindows()
 {
-    parts_->windows.keepPlaces();
+    parts_->windows.savePlaces();
     if (parts_->resources.temporaryHome)
         parts_->resources.temporaryHome->remove();
 }

@@ -10,6 +10,7 @@
 namespace sonavel {
 
 class SingleInstance;
+class WindowStateStore;
 
 /// How it is started: make it after the application object, then `start`, then run the application's loop. It is never
 /// taken apart: the program ends through its process.
@@ -17,9 +18,9 @@ class Program {
 public:
     /// Stores nothing and sends no request, but may start a data server of its own. The error, in one line, says why
     /// that or a temporary home directory cannot be had. `instance` is the claim on the home directory; null when that
-    /// is a temporary one.
+    /// is a temporary one. Borrows the store.
     [[nodiscard]] static tl::expected<std::unique_ptr<Program>, QString> create(
-        LaunchOptions options, std::unique_ptr<SingleInstance> instance);
+        LaunchOptions options, std::unique_ptr<SingleInstance> instance, const WindowStateStore& windowState);
     ~Program();
 
     /// Both phases of the start-up, with the building of the main window between them. The main window is on the screen

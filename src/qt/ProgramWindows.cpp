@@ -8,6 +8,7 @@
 #include "qt/kit/TextConversion.h"
 #include "qt/windows/ProgramDialog.h"
 #include "qt/windows/ProgramMenus.h"
+#include "qt/windows/WindowStateStore.h"
 #include "qt/windows/editsheet/EditSheetDialog.h"
 #include "qt/windows/main/MainWindow.h"
 #include "qt/windows/stationlist/StationListWindow.h"
@@ -24,15 +25,16 @@ constexpr int noticeWidth = 22; // times the height of a line: room for the titl
 
 } // namespace
 
-ProgramWindows::ProgramWindows(Controls& controls, Actions& actions, ImportFile importFile, const QString& stateFolder)
+ProgramWindows::ProgramWindows(
+    Controls& controls, Actions& actions, ImportFile importFile, const WindowStateStore& windowState)
     : controls_(controls)
     , actions_(actions)
     , importFile_(std::move(importFile))
-    , memory_(stateFolder)
+    , windowState_(windowState)
     , menus_(std::make_unique<ProgramMenus>([this] { actions_.validateItems(); }))
     , mainWindow_(std::make_unique<MainWindow>(menus_.get()))
 {
-    memory_.restore(*mainWindow_);
+    windowState_.restore(*mainWindow_);
 }
 
 ProgramWindows::~ProgramWindows() = default;
@@ -58,7 +60,7 @@ void ProgramWindows::buildStationListWindow()
     stationListWindow_ = std::make_unique<StationListWindow>(controls_.stationList.tableViewListRadio);
     StationListWindow& window = *stationListWindow_;
     menus_->addTo(window);
-    memory_.restore(window);
+    windowState_.restore(window);
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     connectStationListWindow(controls_.stationList, window);
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
@@ -104,12 +106,12 @@ void ProgramWindows::showNotice(const QString& text)
         mainWindow_->showNotice(text);
 }
 
-void ProgramWindows::keepPlaces() const
+void ProgramWindows::savePlaces() const
 {
     if (isMainWindowConnected_)
-        memory_.keep(*mainWindow_);
+        windowState_.save(*mainWindow_);
     if (stationListWindow_)
-        memory_.keep(*stationListWindow_);
+        windowState_.save(*stationListWindow_);
 }
 
 } // namespace sonavel

@@ -3,7 +3,8 @@
 
 #include "base/NonCopyable.h"
 #include "base/Text.h"
-#include "qt/windows/WindowStateStore.h"
+
+#include <QString>
 
 #include <functional>
 #include <memory>
@@ -16,6 +17,7 @@ class MainWindow;
 class ProgramDialog;
 class ProgramMenus;
 class StationListWindow;
+class WindowStateStore;
 struct Controls;
 
 /// The main window is built first, so that it is on the screen as soon as can be; what the program says to the others
@@ -26,7 +28,7 @@ public:
 
     /// Builds the main window, which shows what its description says until it is connected. `importFile` imports a list
     /// that was dropped on the station list window.
-    ProgramWindows(Controls& controls, Actions& actions, ImportFile importFile, const QString& stateFolder);
+    ProgramWindows(Controls& controls, Actions& actions, ImportFile importFile, const WindowStateStore& windowState);
     ~ProgramWindows();
 
     /// Between the two phases of the start-up.
@@ -40,8 +42,8 @@ public:
     /// Tells of a failure in the station list window, if that is shown, else in the main window.
     void showNotice(const QString& text);
 
-    /// Remembers where the windows are.
-    void keepPlaces() const;
+    /// Saves where the windows are.
+    void savePlaces() const;
 
 private:
     void buildStationListWindow();
@@ -52,7 +54,7 @@ private:
     Controls& controls_;
     Actions& actions_;
     const ImportFile importFile_;
-    WindowStateStore memory_;
+    const WindowStateStore& windowState_;
     std::unique_ptr<ProgramMenus> menus_;
     std::unique_ptr<MainWindow> mainWindow_;
     std::unique_ptr<StationListWindow> stationListWindow_;

@@ -54,7 +54,8 @@ bool isPlain(const sonavel::ApplicationStyle& style)
 
 /// The program's own colours are made for one style; a desktop that has its own keeps them. Answers with what
 /// follows the desktop from then on, if anything does.
-std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::LaunchOptions& options)
+std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(
+    const sonavel::LaunchOptions& options, const sonavel::WindowStateStore& windowState)
 {
     auto* style = new sonavel::ApplicationStyle(options.appearance ? QStringLiteral("fusion") : QString());
     QApplication::setStyle(style);
@@ -62,9 +63,8 @@ std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(const sonavel::LaunchOpti
         QApplication::setPalette(sonavel::paletteFor(*options.appearance));
     if (options.appearance || !isPlain(*style))
         return nullptr;
-    auto appearance = std::make_unique<sonavel::DesktopAppearance>(
-        options.isDemo ? QString() : sonavel::WindowStateStore::usersStateFolder());
-    appearance->applyRemembered();
+    auto appearance = std::make_unique<sonavel::DesktopAppearance>(windowState);
+    appearance->applySaved();
     return appearance;
 }
 
@@ -100,9 +100,11 @@ int main(int argumentCount, char** arguments)
     setUpNames();
     if (options->isMirrored)
         QApplication::setLayoutDirection(Qt::RightToLeft);
-    const auto desktop = setUpLooks(*options);
+    const sonavel::WindowStateStore windowState(
+        options->isDemo ? options->home : sonavel::WindowStateStore::usersStateFolder());
+    const auto desktop = setUpLooks(*options, windowState);
 
-    const auto program = sonavel::Program::create(*options, std::move(instance));
+    const auto program = sonavel::Program::create(*options, std::move(instance), windowState);
     if (!program)
         return print({1, QStringLiteral("sonavel: ") + program.error()});
     fonts.join();

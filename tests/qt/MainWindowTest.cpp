@@ -150,28 +150,28 @@ TEST(MainWindow, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)
 TEST(WindowStateStore, AWindowComesBackWhereItWasAndRubbishIsForgotten)
 {
     const QTemporaryDir state;
-    const WindowStateStore memory(state.path() + "/missing/folder");
+    const WindowStateStore store(state.path() + "/missing/folder");
     QWidget window;
     window.setObjectName("winAny");
-    memory.restore(window);
-    memory.keep(window);
+    store.restore(window);
+    store.save(window);
     QWidget again;
     again.setObjectName("winAny");
     const QRect asNew = again.geometry();
-    memory.restore(again);
+    store.restore(again);
     EXPECT_EQ(again.geometry(), asNew) << "a window that was never shown has no place";
 
     window.show();
     window.setGeometry(40, 50, 330, 170);
-    memory.keep(window);
-    memory.restore(again);
+    store.save(window);
+    store.restore(again);
     EXPECT_EQ(again.geometry(), window.geometry());
 
     QFile file(state.path() + "/missing/folder/sonavel/windows.ini");
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     file.write("[winAny]\ngeometry=@ByteArray(rubbish)\n");
     file.close();
-    memory.restore(again);
+    store.restore(again);
     EXPECT_EQ(again.geometry(), window.geometry());
 }
 

@@ -4,6 +4,7 @@
 #include "qt/desktop/DesktopAppearance.h"
 #include "qt/kit/PrimaryButton.h"
 #include "qt/kit/StationComboBox.h"
+#include "qt/windows/WindowStateStore.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCheckBox>
@@ -162,6 +163,7 @@ TEST(Palettes, TheRememberedAppearanceIsShownAtTheStartAndFollowsTheDesktopFromT
 {
     const QPalette usual = QApplication::palette();
     const test::TemporaryFolder folder;
+    const WindowStateStore store(QString::fromStdString(folder.path()));
     std::filesystem::create_directory(folder.path("sonavel"));
     const auto expectShown = [](Appearance appearance) {
         EXPECT_EQ(QGuiApplication::palette().color(QPalette::Base), paletteFor(appearance).color(QPalette::Base));
@@ -169,8 +171,8 @@ TEST(Palettes, TheRememberedAppearanceIsShownAtTheStartAndFollowsTheDesktopFromT
     };
     for (const QString& name : appearanceNames()) {
         folder.put("sonavel/windows.ini", "[desktop]\nappearance=" + name.toStdString() + '\n');
-        DesktopAppearance desktop(QString::fromStdString(folder.path()));
-        desktop.applyRemembered();
+        DesktopAppearance desktop(store);
+        desktop.applySaved();
         expectShown(appearanceNamed(name).value());
         const auto set = [&](const char* group, const char* key, uint value) {
             QMetaObject::invokeMethod(&desktop, "settingChanged", Q_ARG(QString, QString::fromLatin1(group)),
@@ -184,7 +186,7 @@ TEST(Palettes, TheRememberedAppearanceIsShownAtTheStartAndFollowsTheDesktopFromT
         expectShown(isDark ? Appearance::Dark : Appearance::Light);
         set("org.freedesktop.appearance", "color-scheme", isDark ? 2 : 1);
         expectShown(isDark ? Appearance::Light : Appearance::Dark);
-        DesktopAppearance(QString::fromStdString(folder.path())).applyRemembered();
+        DesktopAppearance(store).applySaved();
         expectShown(isDark ? Appearance::Light : Appearance::Dark);
     }
     QApplication::setPalette(usual);

@@ -3,6 +3,7 @@
 
 #include "UserInput.h"
 #include "qt/kit/TextConversion.h"
+#include "qt/windows/WindowStateStore.h"
 #include "qt/windows/main/MainWindow.h"
 #include "qt/windows/stationlist/StationListWindow.h"
 #include "support/ControllerTest.h"
@@ -19,6 +20,7 @@ namespace {
 class ProgramWindowsTest : public ControllerTest {
 protected:
     const QTemporaryDir state;
+    const WindowStateStore windowState{state.path()};
 };
 
 class Raises : public QObject {
@@ -35,7 +37,7 @@ public:
 TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnotherProgram)
 {
     for (const bool isLeft : {false, true}) {
-        ProgramWindows windows(controls, actions, {}, state.path());
+        ProgramWindows windows(controls, actions, {}, windowState);
         windows.connectMainWindow();
         controls.main.winSonavel.makeKeyAndOrderFront();
         ASSERT_TRUE(handleEventsUntil([&] { return windows.mainWindow().isActiveWindow(); }));
@@ -57,7 +59,7 @@ TEST_F(ProgramWindowsTest, AListThatIsDroppedOnTheListWindowIsImported)
 {
     Text imported;
     ProgramWindows windows(
-        controls, actions, [&](const Text& path) { imported = path; }, state.path());
+        controls, actions, [&](const Text& path) { imported = path; }, windowState);
     windows.connectMainWindow();
     windows.buildOtherWindows();
     QFile dropped(state.filePath(QStringLiteral("list.csv")));

@@ -473,12 +473,12 @@ TEST_F(StationListWindowTest, WhatIsLookedForBeginsBesideTheLensInBothDirections
 TEST_F(StationListWindowTest, TheColumnsComeBackAsTheyWere)
 {
     const QTemporaryDir state;
-    const WindowStateStore memory(state.path());
+    const WindowStateStore store(state.path());
     tableWidget().horizontalHeader()->resizeSection(0, 277);
-    memory.keep(window);
+    store.save(window);
     Controls others;
     StationListWindow again(others.stationList.tableViewListRadio);
-    memory.restore(again);
+    store.restore(again);
     connectStationListWindow(others.stationList, again);
     others.stationList.tableViewListRadio.reloadData();
     EXPECT_EQ(child<StationTable>(again, "tableViewListRadio").horizontalHeader()->sectionSize(0), 277);

@@ -1,13 +1,13 @@
 #include "qt/desktop/DesktopAppearance.h"
 
+#include "qt/windows/WindowStateStore.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
-#include <QFile>
 #include <QGuiApplication>
-#include <QSettings>
 
 namespace sonavel {
 
@@ -22,8 +22,6 @@ const QString contrastKey = QStringLiteral("contrast");
 constexpr uint prefersDark = 1;
 constexpr uint prefersHighContrast = 1;
 
-const QString rememberedKey = QStringLiteral("desktop/appearance");
-
 Appearance appearanceOf(bool isDark, bool isHighContrast)
 {
     if (isHighContrast)
@@ -33,17 +31,14 @@ Appearance appearanceOf(bool isDark, bool isHighContrast)
 
 } // namespace
 
-DesktopAppearance::DesktopAppearance(const QString& stateFolder)
-    : file_(stateFolder.isEmpty() ? QString() : stateFolder + QStringLiteral("/sonavel/windows.ini"))
+DesktopAppearance::DesktopAppearance(const WindowStateStore& windowState)
+    : windowState_(windowState)
 {
 }
 
-void DesktopAppearance::applyRemembered()
+void DesktopAppearance::applySaved()
 {
-    const auto remembered = QFile::exists(file_)
-        ? appearanceNamed(QSettings(file_, QSettings::IniFormat).value(rememberedKey).toString())
-        : std::nullopt;
-    const Appearance appearance = remembered.value_or(Appearance::Light);
+    const Appearance appearance = windowState_.appearance().value_or(Appearance::Light);
     isDark_ = appearance == Appearance::Dark || appearance == Appearance::HighContrastDark;
     isHighContrast_ = appearance == Appearance::HighContrastLight || appearance == Appearance::HighContrastDark;
     QGuiApplication::setPalette(paletteFor(appearance));
@@ -96,13 +91,7 @@ void DesktopAppearance::takeOver(const QString& key, const QVariant& value)
     if (wanted == shown)
         return;
     QGuiApplication::setPalette(paletteFor(wanted));
-    remember(wanted);
-}
-
-void DesktopAppearance::remember(Appearance appearance) const
-{
-    if (!file_.isEmpty())
-        QSettings(file_, QSettings::IniFormat).setValue(rememberedKey, nameOf(appearance));
+    windowState_.saveAppearance(wanted);
 }
 
 } // namespace sonavel

@@ -10,18 +10,20 @@ class QDBusVariant;
 
 namespace sonavel {
 
-/// Follows the desktop's colour scheme and contrast with the program's own palettes. What the desktop said is
-/// remembered for the next start, so that asking it delays no window. A desktop that does not answer leaves everything
+class WindowStateStore;
+
+/// Follows the desktop's colour scheme and contrast with the program's own palettes. What the desktop answers is
+/// saved for the next start, so that asking it delays no window. A desktop that does not answer leaves everything
 /// as it is.
 class DesktopAppearance : public QObject {
     Q_OBJECT
 
 public:
-    /// `stateFolder` is where it is remembered; empty for nowhere.
-    explicit DesktopAppearance(const QString& stateFolder);
+    /// Borrows the store.
+    explicit DesktopAppearance(const WindowStateStore& windowState);
 
-    /// Gives the application the palette of the remembered appearance; light when there is none.
-    void applyRemembered();
+    /// Gives the application the palette of the saved appearance; light when there is none.
+    void applySaved();
     /// Asks the desktop now, and listens to changes from then on.
     void follow();
 
@@ -32,9 +34,8 @@ private:
     void ask(const QString& key);
     void receive(const QString& key, QDBusPendingCallWatcher& answer);
     void takeOver(const QString& key, const QVariant& value);
-    void remember(Appearance appearance) const;
 
-    QString file_;
+    const WindowStateStore& windowState_;
     bool isDark_ = false;
     bool isHighContrast_ = false;
 };

@@ -1,5 +1,7 @@
 #include "qt/windows/WindowStateStore.h"
 
+#include "platform/UserFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
@@ -9,6 +11,8 @@
 namespace sonavel {
 
 namespace {
+
+const QString appearanceKey = QStringLiteral("desktop/appearance");
 
 QString geometryKey(const QWidget& window)
 {
@@ -29,7 +33,7 @@ QTableView* tableIn(const QWidget& window)
 } // namespace
 
 WindowStateStore::WindowStateStore(const QString& stateFolder)
-    : file_(stateFolder + QStringLiteral("/sonavel/windows.ini"))
+    : file_(stateFolder.isEmpty() ? QString() : stateFolder + u'/' + QLatin1String(windowStateName.data()))
 {
 }
 
@@ -41,25 +45,38 @@ QString WindowStateStore::usersStateFolder()
 
 void WindowStateStore::restore(QWidget& window) const
 {
-    if (!QFile::exists(file_))
-        return;
-    const QSettings settings(file_, QSettings::IniFormat);
-    window.restoreGeometry(settings.value(geometryKey(window)).toByteArray());
+    window.restoreGeometry(value(geometryKey(window)).toByteArray());
     if (QTableView* table = tableIn(window)) {
-        const int width = settings.value(columnKey(window, *table)).toInt();
+        const int width = value(columnKey(window, *table)).toInt();
         if (width > 0)
             table->horizontalHeader()->setDefaultSectionSize(qMin(width, window.width()));
     }
 }
 
-void WindowStateStore::keep(const QWidget& window) const
+void WindowStateStore::save(const QWidget& window) const
 {
-    if (window.windowHandle() == nullptr)
+    if (file_.isEmpty() || window.windowHandle() == nullptr)
         return;
     QSettings settings(file_, QSettings::IniFormat);
     settings.setValue(geometryKey(window), window.saveGeometry());
     if (const QTableView* table = tableIn(window))
         settings.setValue(columnKey(window, *table), table->columnWidth(0));
+}
+
+std::optional<Appearance> WindowStateStore::appearance() const
+{
+    return appearanceNamed(value(appearanceKey).toString());
+}
+
+void WindowStateStore::saveAppearance(Appearance appearance) const
+{
+    if (!file_.isEmpty())
+        QSettings(file_, QSettings::IniFormat).setValue(appearanceKey, nameOf(appearance));
+}
+
+QVariant WindowStateStore::value(const QString& key) const
+{
+    return QFile::exists(file_) ? QSettings(file_, QSettings::IniFormat).value(key) : QVariant();
 }
 
 } // namespace sonavel
