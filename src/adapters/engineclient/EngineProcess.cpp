@@ -173,10 +173,7 @@ void EngineProcess::receive(const EngineEvent& event)
     current_->loadTimer.reset();
     if (const auto* failed = std::get_if<FailedEvent>(&event))
         return breakDown(failed->failure);
-    if (const auto* title = std::get_if<TitleEvent>(&event))
-        current_->stream.setTitle(title->title);
-    const auto* state = std::get_if<StateEvent>(&event);
-    const bool ranDry = state != nullptr && current_->stream.changeState(state->state, now());
+    const bool ranDry = current_->stream.receive(event, now());
     show();
     if (ranDry)
         post(playbackStalledNotification);

@@ -24,6 +24,15 @@ void PlayedStream::opened(Time now)
     policy.opened(now);
 }
 
+bool PlayedStream::receive(const EngineEvent& event, Time now)
+{
+    if (const auto* state = std::get_if<StateEvent>(&event))
+        return changeState(state->state, now);
+    if (const auto* title = std::get_if<TitleEvent>(&event))
+        title_ = title->title.isEmpty() ? Text() : title->title;
+    return false;
+}
+
 bool PlayedStream::changeState(StreamState state, Time now)
 {
     const bool sounds = state == StreamState::Playing;

@@ -27,10 +27,8 @@ public:
 
     /// The engine has been asked to open it.
     void opened(Time now);
-    /// Whether the stream has run dry with this.
-    [[nodiscard]] bool changeState(StreamState state, Time now);
-    /// Absent for an empty one.
-    void setTitle(const Text& title) { title_ = title.isEmpty() ? Text() : title; }
+    /// Takes an event other than a failure. Whether the stream has run dry with it.
+    [[nodiscard]] bool receive(const EngineEvent& event, Time now);
     void broke(PlaybackFailure failure, Time now);
 
     /// Why it does not sound, as far as it has come.
@@ -38,6 +36,8 @@ public:
     [[nodiscard]] StreamReport report(Time now) const;
 
 private:
+    [[nodiscard]] bool changeState(StreamState state, Time now);
+
     bool isPaused_ = false;
     StreamState state_ = StreamState::Connecting;
     Text title_;
