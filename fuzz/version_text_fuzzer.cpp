@@ -19,7 +19,7 @@ PublishedVersion usual()
 void checkMistake(const VersionTextMistake& mistake)
 {
     require(mistake.line > 0, "lines are counted from 1");
-    require(!mistake.why.empty() && mistake.why.size() < 500, "a mistake is told shortly");
+    require(!mistake.why.empty() && mistake.why.size() < 500, "an error is reported shortly");
     require(mistake.why.find_first_of("\r\n\x1B") == std::string::npos, "a mistake is one line, and harmless to show");
 }
 

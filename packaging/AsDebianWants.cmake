@@ -6,7 +6,7 @@ set(documents "${share}/doc/${CPACK_PACKAGE_NAME}")
 string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
 file(WRITE "${documents}/changelog" "${CPACK_PACKAGE_NAME} (${CPACK_PACKAGE_VERSION}) unstable; urgency=medium
 
-  * Version ${CPACK_PACKAGE_VERSION}; NEWS.md.gz tells what is new.
+  * Version ${CPACK_PACKAGE_VERSION}; NEWS.md.gz describes what is new.
 
  -- ${CPACK_DEBIAN_PACKAGE_MAINTAINER}  ${now}
 ")

@@ -1,4 +1,4 @@
-// What the application loop tells of its beginning and its end.
+// The callbacks for the beginning and the end of the application loop.
 #pragma once
 
 #include <memory>

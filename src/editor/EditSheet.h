@@ -16,7 +16,7 @@ class TextField;
 struct EditSheetControls;
 struct PreferenceFields;
 
-/// Whether it adds or changes is told by the title of its confirm button alone. Both fields are empty whenever it is
+/// Whether it adds or changes depends on the title of its confirm button alone. Both fields are empty whenever it is
 /// closed.
 ///
 /// Main thread. Borrows everything it is given.

@@ -1,4 +1,4 @@
-// The toolbar of the station list window: five commands, told apart by their tags.
+// The toolbar of the station list window: five commands, distinguished by their tags.
 #pragma once
 
 #include "base/NonCopyable.h"

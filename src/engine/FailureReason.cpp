@@ -12,7 +12,7 @@ struct Sign {
     PlaybackFailure failure;
 };
 
-/// The more telling ones first.
+/// The more specific ones first.
 constexpr std::array signs{
     Sign{"Failed to resolve hostname", PlaybackFailure::NoSuchHost},
     Sign{"Connection refused", PlaybackFailure::Refused},

@@ -8,7 +8,7 @@
 
 namespace sonavel {
 
-/// Nothing when the line tells no reason.
+/// Nothing when the line has no reason.
 [[nodiscard]] std::optional<PlaybackFailure> failureFromLogLine(std::string_view line);
 
 } // namespace sonavel

@@ -11,7 +11,7 @@
 //     volume 0.7                             title ID TEXT
 //     muted yes|no
 //
-// ID is the player's number of a load; what the engine tells carries the number of the load that it speaks of.
+// ID is the player's number of a load; an event carries the number of the load that it is about.
 #pragma once
 
 #include "base/Text.h"

@@ -1,4 +1,4 @@
-// One look for a newer version, and the window that tells of it.
+// One look for a newer version, and the window that announces it.
 #pragma once
 
 #include "base/Moment.h"

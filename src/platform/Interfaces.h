@@ -25,7 +25,7 @@ class Interfaces : private NonCopyable {
 public:
     virtual ~Interfaces() = default;
 
-    /// Builds the window that tells of a newer version, hidden, and connects the controls, which have to outlive it.
+    /// Builds the window that announces a newer version, hidden, and connects the controls, which have to outlive it.
     /// With the last pointer to it the window goes off the screen and disconnects them. Also before the main window
     /// exists.
     [[nodiscard]] virtual std::shared_ptr<void> loadAppUpdater(const UpdaterControls& owner) = 0;

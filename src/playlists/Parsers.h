@@ -26,7 +26,7 @@ namespace sonavel {
 /// the order of the members, repeated addresses too.
 ///
 /// Members whose value is no text are left out. ";" and carriage returns are taken out of names and addresses, and a
-/// name that a list does not keep is replaced by what its address tells, or its station left out; these are diagnosed.
+/// name that a list does not keep is replaced by one from its address, or its station left out; these are diagnosed.
 [[nodiscard]] tl::expected<ParsedList, std::string> parseJson(std::string_view bytes);
 
 /// Parses an M3U playlist: an address in each line, and "#EXTINF:…,Title" in a line before it for its name. Attributes

@@ -21,7 +21,7 @@ namespace sonavel {
 namespace {
 
 constexpr int iconSize = 64; // pixels of the layout
-constexpr int noticeWidth = 22; // times the height of a line: room for the title too
+constexpr int noticeWidth = 22; // times the height of a line: wide enough for the title too
 
 } // namespace
 

@@ -1,4 +1,4 @@
-// The version that the data server tells of unless its maker states one.
+// The version that the data server publishes unless its maker states one.
 #pragma once
 
 #include "server/PublishedVersion.h"

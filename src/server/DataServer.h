@@ -22,12 +22,12 @@ struct DataServerSettings {
     enum class Offer {
         /// The version below.
         ThisVersion,
-        /// One that is newer, with notes, so that its user sees how that is told.
+        /// One that is newer, with notes, so that its user sees how that is reported.
         NewerVersion,
     };
 
     Content content = Content::Starter;
-    /// What the built-in version answer tells of.
+    /// What the built-in version answer describes.
     Offer offer = Offer::ThisVersion;
     /// The folder whose files are published; empty for the built-in answers alone.
     std::string folder;

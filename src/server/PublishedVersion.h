@@ -1,4 +1,4 @@
-// The newest version of the program, as the data server tells players of it.
+// The newest version of the program, as the data server publishes it.
 #pragma once
 
 #include <string>

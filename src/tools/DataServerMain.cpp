@@ -1,4 +1,4 @@
-// sonavel-data-server: serves station lists, versions and demo streams until it is told to end.
+// sonavel-data-server: serves station lists, versions and demo streams until a signal ends it.
 
 #include "server/DataServer.h"
 

@@ -16,7 +16,7 @@ struct ListArguments {
 
     Command command = Command::Show;
     std::string input;
-    /// The formats told, by option or extension; nothing where the content has to tell.
+    /// The formats given by option or extension; nothing where the content decides.
     std::optional<ListFormat> inputFormat;
     /// For `Convert` alone.
     std::string output;

@@ -30,7 +30,7 @@ std::size_t widthOf(const std::string& text)
     for (const char *place = text.data(), *end = place + text.size(); place < end;) {
         const std::size_t size = std::mbrtowc(&character, place, static_cast<std::size_t>(end - place), &state);
         if (size == 0 || size > text.size())
-            return text.size(); // without the locale no width can be told
+            return text.size(); // without the locale the width is unknown
         width += widthOf(character);
         place += size;
     }

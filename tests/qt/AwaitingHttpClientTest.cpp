@@ -14,7 +14,7 @@
 namespace sonavel {
 namespace {
 
-/// Answers when it is told to.
+/// Answers on demand.
 class HeldHttpClient : public HttpClient {
 public:
     HttpResult sendSynchronousRequest(const HttpRequest& request) override

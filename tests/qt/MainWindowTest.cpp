@@ -1,4 +1,4 @@
-// The main window keeps its shape and tells what it shows.
+// The main window keeps its shape and describes what it shows.
 #include "qt/windows/main/MainWindow.h"
 
 #include "UserInput.h"

@@ -1,4 +1,4 @@
-// Whether every text has room in its control, in every language.
+// Whether every text fits into its control, in every language.
 #include "platform/StreamPlayer.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/ElidedLabel.h"
@@ -33,7 +33,7 @@ namespace {
 
 class RoomForTextsTest : public testing::TestWithParam<const char*> {
 protected:
-    /// Lines that may be longer than their room elide what does not fit, and tell it otherwise.
+    /// Lines that may be longer than their space elide what does not fit, and give it otherwise.
     static bool mayElide(const QWidget& widget)
     {
         return dynamic_cast<const ElidedLabel*>(&widget) || dynamic_cast<const StatusLine*>(&widget)

@@ -1,4 +1,4 @@
-// Files in memory, whose operations fail as told.
+// Files in memory, whose operations fail on demand.
 #pragma once
 
 #include "platform/Files.h"

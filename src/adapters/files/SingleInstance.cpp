@@ -23,7 +23,7 @@ namespace {
 
 constexpr std::chrono::seconds maxWait{5};
 
-/// The name of a socket has little room, and below the folder there are "/sonavel/", twenty digits and the ending.
+/// The name of a socket is short, and below the folder there are "/sonavel/", twenty digits and the ending.
 constexpr std::size_t maxFolderLength = sizeof(sockaddr_un::sun_path) - 40;
 constexpr std::chrono::milliseconds pause{20};
 

@@ -12,7 +12,7 @@
 
 namespace sonavel {
 
-/// Each operation is the system call of the same purpose: it answers −1 (where not told otherwise) with the reason in
+/// Each operation is the system call of the same purpose: it answers −1 (unless stated otherwise) with the reason in
 /// `errno`, and never EINTR. A name is looked up in the open folder `folder`; AT_FDCWD does for an absolute path.
 class SystemCalls : private NonCopyable {
 public:

@@ -80,7 +80,7 @@ void TableBinder::renderSelection(const TableViewState& state)
 }
 
 /// Qt moves its current row before the selection for the mouse and after it for most keys; the row that is new to the
-/// selection tells in either case.
+/// selection is the same in either case.
 void TableBinder::report(const QItemSelection& selected)
 {
     if (isRendering_)

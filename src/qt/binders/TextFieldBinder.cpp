@@ -88,8 +88,8 @@ void TextFieldBinder::replaceDifference(const QString& text)
     const QString shown = widget_.text();
     const auto [oneDiffers, otherDiffers] = std::mismatch(shown.begin(), shown.end(), text.begin(), text.end());
     const auto before = oneDiffers - shown.begin();
-    const auto room = std::min(shown.end() - oneDiffers, text.end() - otherDiffers);
-    const auto sameFromEnd = std::mismatch(shown.rbegin(), shown.rbegin() + room, text.rbegin()).first - shown.rbegin();
+    const auto rest = std::min(shown.end() - oneDiffers, text.end() - otherDiffers);
+    const auto sameFromEnd = std::mismatch(shown.rbegin(), shown.rbegin() + rest, text.rbegin()).first - shown.rbegin();
     const auto shownLength = static_cast<int>(shown.size() - before - sameFromEnd);
     const auto newLength = static_cast<int>(text.size() - before - sameFromEnd);
 

@@ -89,7 +89,7 @@ QPalette ApplicationStyle::outlined(const QPalette& palette) const
     return *outlined_.object(key);
 }
 
-/// Every menu bar asks for the picture of the button that shows what has no room, as good as never to be seen. The
+/// Every menu bar asks for the picture of the button for entries that do not fit, which is hardly ever seen. The
 /// toolkit reads its own from a file, with a plug-in for every format that there is.
 QIcon ApplicationStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
 {

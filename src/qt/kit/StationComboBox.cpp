@@ -16,7 +16,7 @@ namespace {
 constexpr int minContentsLength = 24; // characters
 constexpr int visibleItems = 16;
 
-/// Rows with room to aim at.
+/// Rows that are high enough to aim at.
 class AiryItemDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -102,7 +102,7 @@ void StationComboBox::openListAndPass(QKeyEvent& event)
     event.accept();
 }
 
-/// A name that does not fit is told whole by the tool tip.
+/// A name that does not fit is whole in the tool tip.
 bool StationComboBox::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)

@@ -20,7 +20,7 @@ public:
     explicit AwaitingHttpClient(
         HttpClient& client, std::chrono::milliseconds patience = std::chrono::milliseconds(333));
 
-    /// `ended` is called when a request that was told of has its answer, or has failed.
+    /// `ended` is called when a request that was reported has its answer, or has failed.
     void setSlowRequestObserver(SlowRequestObserver observer, std::function<void()> ended = {})
     {
         slowRequestObserver_ = std::move(observer);

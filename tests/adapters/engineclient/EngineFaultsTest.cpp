@@ -174,7 +174,7 @@ TEST_F(EngineFaults, TheEngineRunsNoScripts)
 
 TEST_F(EngineFaults, AnEngineWhosePlayerCrashedEnds)
 {
-    // A player that starts an engine, tells its number and crashes.
+    // A player that starts an engine, reports its process number and crashes.
     std::array<int, 2> report{};
     ASSERT_EQ(::pipe(report.data()), 0);
     const int player = ::fork();

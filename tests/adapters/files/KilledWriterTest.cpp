@@ -33,7 +33,7 @@ Text listOnDisk(const std::string& home)
     return StationDatabase(files, {}).fileRadioDBreadCypted(true);
 }
 
-/// Writes both lists by turns; tells through the pipe once the first is written.
+/// Writes both lists by turns; reports through the pipe once the first is written.
 [[noreturn]] void writeUntilKilled(const std::string& home, int pipe)
 {
     PosixFiles files(home);

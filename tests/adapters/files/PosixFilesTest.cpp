@@ -20,7 +20,7 @@ protected:
     PosixFilesTest()
     {
         files.setSaveFailureObserver([this](const UserFile& file, const std::error_code& why) {
-            told.push_back(fs::path(file.path.string()).filename().string() + ": " + why.message());
+            reported.push_back(fs::path(file.path.string()).filename().string() + ": " + why.message());
         });
     }
 
@@ -55,7 +55,7 @@ protected:
     std::unique_ptr<FailingSystemCalls> ownedCalls = std::make_unique<FailingSystemCalls>();
     FailingSystemCalls& calls = *ownedCalls;
     PosixFiles files{folder.path() + "/", std::move(ownedCalls)};
-    std::vector<std::string> told;
+    std::vector<std::string> reported;
 };
 
 TEST_F(PosixFilesTest, AWriteOfWhichAnyOneCallFailsLeavesTheOldOrTheNewContentAndNothingElse)
@@ -72,7 +72,7 @@ TEST_F(PosixFilesTest, AWriteOfWhichAnyOneCallFailsLeavesTheOldOrTheNewContentAn
         for (int call = 1;; ++call) {
             SCOPED_TRACE(std::string(name) + ", call " + std::to_string(call));
             ASSERT_TRUE(write(name, "the old content"));
-            told.clear();
+            reported.clear();
             calls.fail(call);
             const bool isWritten = write(name, "new");
             const bool hasFailed = calls.hasFailed();
@@ -80,7 +80,7 @@ TEST_F(PosixFilesTest, AWriteOfWhichAnyOneCallFailsLeavesTheOldOrTheNewContentAn
             calls.fail(0);
 
             EXPECT_EQ(folder.read(name), isWritten || isPastRename ? "new" : "the old content");
-            EXPECT_EQ(told.size(), isWritten ? 0 : 1);
+            EXPECT_EQ(reported.size(), isWritten ? 0 : 1);
             EXPECT_EQ(folder.names(), names);
             EXPECT_EQ(std::distance(fs::directory_iterator(folder.path("elsewhere")), {}), 1);
             failures += isWritten ? 0 : 1;
@@ -114,12 +114,12 @@ TEST_F(PosixFilesTest, ACopyOfWhichAnyOneCallFailsIsThereWholeOrNotAtAll)
         calls.areLinksRefused = areLinksRefused;
         for (int call = 1; call == 1 || calls.hasFailed(); ++call) {
             SCOPED_TRACE(call);
-            told.clear();
+            reported.clear();
             calls.fail(call);
             const bool isKept = files.keepCopy(folder.path("file"), fileNamed("copy")).has_value();
             EXPECT_EQ(folder.names(), isKept ? (Names{"copy", "file"}) : Names{"file"});
             EXPECT_EQ(folder.read("copy"), isKept ? "content" : "");
-            EXPECT_EQ(told.size(), isKept ? 0 : 1);
+            EXPECT_EQ(reported.size(), isKept ? 0 : 1);
             fs::remove(folder.path("copy"));
         }
     }
@@ -139,8 +139,8 @@ TEST_F(PosixFilesTest, ACopyOutlivesTheReplacementOfItsOriginalAndTakesNoOthersN
 
         EXPECT_FALSE(files.keepCopy(folder.path("file"), fileNamed("copy")));
         EXPECT_EQ(folder.read("copy"), "first");
-        EXPECT_EQ(told.size(), 1U) << "nothing is saved in its place then";
-        told.clear();
+        EXPECT_EQ(reported.size(), 1U) << "nothing is saved in its place then";
+        reported.clear();
         EXPECT_EQ(folder.names(), (Names{"copy", "file"}));
         fs::remove(folder.path("copy"));
     }
@@ -207,7 +207,7 @@ TEST_F(PosixFilesTest, AWriteThatCannotBeSaysWhyAndChangesNothing)
     const Names names = folder.names();
     for (const char* name : {"folder", "loop", "nowhere", "pipe", "blocked", "missing/file", "blocked/file"})
         EXPECT_FALSE(write(name, "new")) << name;
-    EXPECT_EQ(told,
+    EXPECT_EQ(reported,
         (std::vector<std::string>{"folder: Is a directory", "loop: Too many levels of symbolic links",
             "nowhere: No such file or directory", "pipe: Operation not supported", "blocked: Is a directory",
             "file: No such file or directory", "file: Not a directory"}));
@@ -226,7 +226,7 @@ TEST_F(PosixFilesTest, AFullDiskIsAFailedWriteAndNotTheEndOfTheProgram)
     const bool isWritten = write("file", std::string(200'000, 'x'));
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
     EXPECT_FALSE(isWritten);
-    EXPECT_EQ(told, std::vector<std::string>{"file: File too large"});
+    EXPECT_EQ(reported, std::vector<std::string>{"file: File too large"});
     EXPECT_EQ(folder.read("file"), "old");
     EXPECT_EQ(folder.names(), Names{"file"});
 }
@@ -332,15 +332,15 @@ TEST_F(PosixFilesTest, MissingFoldersAreMadeForTheOwnerAlone)
     EXPECT_TRUE(files.makeFolderOf(fileNamed("Library/Preferences/list")));
     EXPECT_EQ(modeOf("Library"), 0700);
     EXPECT_EQ(modeOf("Library/Preferences"), 0700);
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(reported.empty());
 
     folder.put("file", "");
     EXPECT_FALSE(files.makeFolderOf(fileNamed("file/list")));
     EXPECT_FALSE(files.makeFolderOf(fileNamed("file/below/list")));
     calls.fail(2);
     EXPECT_FALSE(files.makeFolderOf(fileNamed("missing/inner/list")));
-    EXPECT_EQ(
-        told, (std::vector<std::string>{"list: Not a directory", "list: Not a directory", "list: Input/output error"}));
+    EXPECT_EQ(reported,
+        (std::vector<std::string>{"list: Not a directory", "list: Not a directory", "list: Input/output error"}));
 }
 
 TEST_F(PosixFilesTest, AMoveTakesNoOthersName)

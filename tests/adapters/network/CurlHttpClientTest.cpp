@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A name server of the test's own: "silent.invalid" gets no answer until told, other names in "invalid" do not exist.
+/// A name server of the test's own: "silent.invalid" gets no answer until the test wants one, other names in "invalid" do not exist.
 struct NameServer {
     std::mutex mutex;
     std::condition_variable changed;

@@ -7,7 +7,7 @@ class QLabel;
 
 namespace sonavel {
 
-/// A small frameless window with the program's picture and name, and a line that tells what is being waited for.
+/// A small frameless window with the program's picture and name, and a line with what is being waited for.
 class SplashScreen : public QWidget {
 public:
     SplashScreen();

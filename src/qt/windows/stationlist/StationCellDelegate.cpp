@@ -78,7 +78,7 @@ bool StationCellDelegate::helpEvent(
     return true;
 }
 
-/// The frame of the focus tells which cell of the selected row F2 opens; on any other row it tells nothing.
+/// The focus frame shows which cell of the selected row F2 opens; on any other row it has no meaning.
 void StationCellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);

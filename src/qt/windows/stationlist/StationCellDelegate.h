@@ -1,4 +1,4 @@
-// How a cell of the station list is edited in place, and told whole where it does not fit.
+// How a cell of the station list is edited in place, and shown whole in a tool tip where it does not fit.
 #pragma once
 
 #include <QLineEdit>

@@ -31,7 +31,7 @@ public:
 
 private:
     TableView& table_;
-    int rows_ = 0; ///< as of the last reload that was told to the views
+    int rows_ = 0; ///< as of the last reload that the views were notified of
 };
 
 } // namespace sonavel
