@@ -2,6 +2,8 @@
 
 #include "base/Ascii.h"
 
+#include <openssl/evp.h>
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -9,6 +11,10 @@
 namespace sonavel {
 
 namespace {
+
+/// The length of a line is counted in 16 bits.
+constexpr std::uint64_t maxLineLength = 65'532;
+constexpr std::size_t groupsAtOnce = std::size_t{1} << 20U;
 
 constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
@@ -30,32 +36,9 @@ constexpr std::array<std::uint32_t, 256> secondValues = decodingTable(12);
 constexpr std::array<std::uint32_t, 256> thirdValues = decodingTable(6);
 constexpr std::array<std::uint32_t, 256> fourthValues = decodingTable(0);
 
-/// The two characters of every 12-bit value, so that three bytes take two look-ups.
-constexpr std::array<std::array<char, 2>, 4096> encodingTable()
-{
-    std::array<std::array<char, 2>, 4096> table{};
-    for (std::size_t value = 0; value < table.size(); ++value)
-        table[value] = {alphabet[value >> 6U], alphabet[value & 63U]};
-    return table;
-}
-
-constexpr std::array<std::array<char, 2>, 4096> characterPairs = encodingTable();
-
 std::uint32_t byteAt(const char* bytes, std::size_t index)
 {
     return static_cast<unsigned char>(bytes[index]);
-}
-
-/// Writes one group of four characters for the one to three bytes given; returns the end of what it wrote.
-char* encodeGroup(const char* bytes, std::size_t count, char* out)
-{
-    std::uint32_t group = byteAt(bytes, 0) << 16U;
-    group |= count > 1 ? byteAt(bytes, 1) << 8U : 0;
-    group |= count > 2 ? byteAt(bytes, 2) : 0;
-    out = std::copy_n(characterPairs[group >> 12U].data(), 2, out);
-    out = std::copy_n(characterPairs[group & 4095U].data(), 2, out);
-    std::fill_n(out - (3 - count), 3 - count, '=');
-    return out;
 }
 
 char* writeGroupBytes(std::uint32_t group, std::size_t count, char* out)
@@ -114,19 +97,17 @@ Group takeGroup(std::string_view& text)
 
 std::string base64Encoded(std::string_view bytes, std::uint64_t lineLength)
 {
-    const std::size_t groups = (bytes.size() + 2) / 3;
-    std::string text(lineLength == 0 ? groups * 4 : groups * 5, '\0');
+    const bool hasLines = lineLength != 0 && lineLength <= maxLineLength;
+    const std::size_t bytesAtOnce = 3 * (hasLines ? (lineLength + 3) / 4 : groupsAtOnce);
+    std::string text(((bytes.size() + 2) / 3) * (hasLines ? 5 : 4) + 1, '\0'); // and the zero behind each piece
     char* out = text.data();
-    std::uint16_t lineCount = 0;
     while (!bytes.empty()) {
-        const std::size_t count = std::min<std::size_t>(bytes.size(), 3);
-        out = encodeGroup(bytes.data(), count, out);
-        bytes.remove_prefix(count);
-        lineCount = static_cast<std::uint16_t>(lineCount + 4);
-        if (lineLength != 0 && lineCount >= lineLength) {
+        const std::string_view piece = bytes.substr(0, bytesAtOnce);
+        out += EVP_EncodeBlock(reinterpret_cast<unsigned char*>(out),
+            reinterpret_cast<const unsigned char*>(piece.data()), static_cast<int>(piece.size()));
+        bytes.remove_prefix(piece.size());
+        if (hasLines && piece.size() + 3 > bytesAtOnce)
             *out++ = '\n';
-            lineCount = 0;
-        }
     }
     text.resize(static_cast<std::size_t>(out - text.data()));
     return text;
