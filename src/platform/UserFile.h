@@ -19,13 +19,19 @@ struct UserFile {
 
     Kind kind = Kind::Other;
     Text path;
+
+    /// A file in the user's folder for preferences.
+    [[nodiscard]] static UserFile inPreferences(Kind kind, const Text& homeDirectory, std::string_view name)
+    {
+        return {kind, homeDirectory.string().append("/Library/Preferences/").append(name)};
+    }
 };
 
-/// The station database, and the plain file that came before it.
-[[nodiscard]] UserFile stationDatabaseFile(const Text& homeDirectory);
-[[nodiscard]] UserFile legacyListFile(const Text& homeDirectory);
-/// The property list of a preference domain.
-[[nodiscard]] UserFile preferencesFile(const Text& homeDirectory, std::string_view domain);
+/// In the folder for preferences.
+constexpr std::string_view stationDatabaseName = "radiolist.rdb";
+/// The plain file that came before the database.
+constexpr std::string_view legacyListName = "radiolist.csv";
+/// The property list of the preferences.
 constexpr std::string_view preferenceDomainName = "Mertzan-Software.Sonavel.plist";
 
 /// Why there is a backup, as its name says: "radiolist.damaged.rdb" is one of "radiolist.rdb".

@@ -3,7 +3,6 @@
 #include "adapters/network/CurlHttpClient.h"
 #include "qt/LaunchValues.h"
 #include "qt/Program.h"
-#include "qt/SessionRestart.h"
 #include "qt/desktop/DesktopAppearance.h"
 #include "qt/desktop/Session.h"
 #include "qt/kit/ApplicationStyle.h"
@@ -94,7 +93,8 @@ int main(int argumentCount, char** arguments)
     std::array toolkitArguments{arguments[0], sessionOption.data(), session.data()};
     int toolkitArgumentCount = session.isEmpty() ? 1 : 3;
     QApplication application(toolkitArgumentCount, toolkitArguments.data());
-    sonavel::restartWithSession(*options);
+    sonavel::restartWithSession(QStringList(QApplication::applicationFilePath()) + options->arguments,
+        options->isDemo ? sonavel::Restart::Never : sonavel::Restart::WithSession);
     // And what the first request needs, while the main window is built.
     const std::jthread network([] { sonavel::CurlHttpClient::loadLibrary(); });
     setUpNames();

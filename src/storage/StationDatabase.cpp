@@ -11,8 +11,8 @@ namespace sonavel {
 StationDatabase::StationDatabase(Files& files, const StationList& list)
     : files_(files)
     , list_(list)
-    , database_(stationDatabaseFile(files.homeDirectory()))
-    , legacyList_(legacyListFile(files.homeDirectory()))
+    , database_(UserFile::inPreferences(UserFile::Kind::StationList, files.homeDirectory(), stationDatabaseName))
+    , legacyList_(UserFile::inPreferences(UserFile::Kind::StationList, files.homeDirectory(), legacyListName))
 {
 }
 

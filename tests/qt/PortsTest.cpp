@@ -1,7 +1,5 @@
 // The ports of the core as Qt provides them.
 #include "UserInput.h"
-#include "qt/SessionRestart.h"
-#include "qt/LaunchOptions.h"
 #include "qt/desktop/Session.h"
 #include "qt/desktop/TerminationSignals.h"
 #include "qt/kit/TextConversion.h"
@@ -290,18 +288,16 @@ TEST(SessionManager, HearsAtEachSaveHowThePlayerIsToComeBackAndThatTheDemoIsNot)
 {
     auto* manager = qApp->findChild<QSessionManager*>();
     ASSERT_NE(manager, nullptr);
-    LaunchOptions options;
-    options.arguments = QStringList{"--language", "de", "-reverse"};
+    const QStringList command{"/usr/bin/sonavel", "--language", "de", "-reverse"};
     for (const bool isDemo : {true, false}) {
-        options.isDemo = isDemo;
-        restartWithSession(options);
+        restartWithSession(command, isDemo ? Restart::Never : Restart::WithSession);
         for (const auto signal : {&QGuiApplication::saveStateRequest, &QGuiApplication::commitDataRequest}) {
             manager->setRestartHint(QSessionManager::RestartAnyway);
             manager->setRestartCommand(QStringList());
             emit(qApp->*signal)(*manager);
             EXPECT_EQ(
                 manager->restartHint(), isDemo ? QSessionManager::RestartNever : QSessionManager::RestartIfRunning);
-            EXPECT_EQ(manager->restartCommand().mid(0, 4), QStringList(qApp->applicationFilePath()) + options.arguments);
+            EXPECT_EQ(manager->restartCommand().mid(0, 4), command);
             EXPECT_EQ(manager->restartCommand().value(4), "-session");
         }
     }

@@ -48,8 +48,10 @@ TEST(SaveFailures, NameWhatIsNotSavedAndWhy)
 {
     const auto why = std::make_error_code(std::errc::no_space_on_device);
     const std::pair<UserFile, const char*> cases[] = {
-        {stationDatabaseFile("/home/u"), "The station list could not be saved: No space left on device"},
-        {preferencesFile("/home/u", "Any.plist"), "The preferences could not be saved: No space left on device"},
+        {UserFile{UserFile::Kind::StationList, "/home/u/list"},
+            "The station list could not be saved: No space left on device"},
+        {UserFile{UserFile::Kind::Preferences, "/home/u/list"},
+            "The preferences could not be saved: No space left on device"},
         {{UserFile::Kind::Other, "/home/u/radiolist.rdb"}, "A file could not be saved: No space left on device"},
     };
     for (const auto& [file, line] : cases)

@@ -29,7 +29,10 @@ private:
     };
 
     StoredDomain& domainNamed(const Text& name);
-    [[nodiscard]] UserFile fileOf(std::string_view name) const { return preferencesFile(files_.homeDirectory(), name); }
+    [[nodiscard]] UserFile fileOf(std::string_view name) const
+    {
+        return UserFile::inPreferences(UserFile::Kind::Preferences, files_.homeDirectory(), name);
+    }
     [[nodiscard]] StoredDomain load(const Text& path) const;
     void write(const UserFile& file, StoredDomain& domain);
 

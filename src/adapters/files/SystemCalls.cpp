@@ -36,11 +36,6 @@ ssize_t SystemCalls::write(int file, const void* bytes, std::size_t size)
     return untilNotInterrupted([&] { return ::write(file, bytes, size); });
 }
 
-int SystemCalls::changeMode(int file, mode_t mode)
-{
-    return ::fchmod(file, mode);
-}
-
 int SystemCalls::synchronize(int file)
 {
     return untilNotInterrupted([&] { return ::fsync(file); });
@@ -53,19 +48,9 @@ int SystemCalls::close(int file)
     return result < 0 && errno == EINTR ? 0 : result;
 }
 
-int SystemCalls::status(int file, struct stat& status)
-{
-    return ::fstat(file, &status);
-}
-
 int SystemCalls::statusOfName(int folder, const char* name, struct stat& status)
 {
     return ::fstatat(folder, name, &status, 0);
-}
-
-ssize_t SystemCalls::readLink(const char* path, char* buffer, std::size_t size)
-{
-    return ::readlink(path, buffer, size);
 }
 
 int SystemCalls::rename(int folder, const char* name, int newFolder, const char* newName)
@@ -90,16 +75,6 @@ int SystemCalls::renameUnlessTaken(int folder, const char* name, int newFolder, 
 int SystemCalls::link(const char* path, int newFolder, const char* newName)
 {
     return ::linkat(AT_FDCWD, path, newFolder, newName, 0);
-}
-
-int SystemCalls::unlink(int folder, const char* name)
-{
-    return ::unlinkat(folder, name, 0);
-}
-
-int SystemCalls::makeFolder(const char* path, mode_t mode)
-{
-    return ::mkdir(path, mode);
 }
 
 std::error_code lastError()

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <tl/expected.hpp>
+#include <unistd.h>
 
 #include <cstddef>
 #include <system_error>
@@ -22,22 +23,25 @@ public:
     virtual int open(int folder, const char* name, int flags, mode_t mode);
     virtual ssize_t read(int file, void* buffer, std::size_t size);
     virtual ssize_t write(int file, const void* bytes, std::size_t size);
-    virtual int changeMode(int file, mode_t mode);
+    virtual int changeMode(int file, mode_t mode) { return ::fchmod(file, mode); }
     /// Waits until content and metadata are on disk.
     virtual int synchronize(int file);
     /// The descriptor is gone, whatever the answer.
     virtual int close(int file);
-    virtual int status(int file, struct stat& status);
+    virtual int status(int file, struct stat& status) { return ::fstat(file, &status); }
     /// Follows links.
     virtual int statusOfName(int folder, const char* name, struct stat& status);
     /// Writes no terminating zero; answers the number of bytes.
-    virtual ssize_t readLink(const char* path, char* buffer, std::size_t size);
+    virtual ssize_t readLink(const char* path, char* buffer, std::size_t size)
+    {
+        return ::readlink(path, buffer, size);
+    }
     virtual int rename(int folder, const char* name, int newFolder, const char* newName);
     /// Fails with EEXIST when `newName` is taken.
     virtual int renameUnlessTaken(int folder, const char* name, int newFolder, const char* newName);
     virtual int link(const char* path, int newFolder, const char* newName);
-    virtual int unlink(int folder, const char* name);
-    virtual int makeFolder(const char* path, mode_t mode);
+    virtual int unlink(int folder, const char* name) { return ::unlinkat(folder, name, 0); }
+    virtual int makeFolder(const char* path, mode_t mode) { return ::mkdir(path, mode); }
 };
 
 /// What `errno` says, as a value with words.
