@@ -17,10 +17,10 @@ namespace sonavel {
 /// Who may read a file that is made: its owner alone, or whoever the user lets read new files (the umask).
 enum class FileAccess { OwnerOnly, AsUsual };
 
-/// What an operation gives, or why it failed, as the system says it.
+/// The result of an operation, or the system's error.
 template <class Value = void> using FileResult = tl::expected<Value, std::error_code>;
 
-/// Whether reading failed as there is no such file.
+/// Whether reading failed because there is no such file.
 [[nodiscard]] inline bool isAbsent(const std::error_code& failure)
 {
     return failure == std::errc::no_such_file_or_directory || failure == std::errc::not_a_directory;
@@ -41,9 +41,8 @@ public:
     [[nodiscard]] virtual FileResult<std::string> contentsOfFile(const Text& path) const = 0;
 
     /// Replaces the file, which keeps its mode, or makes it with `access`, in one step: a reader, or a later run after
-    /// a crash or power cut, finds either the old content whole or the new. After a failure the old content stands (or
-    /// the new, whole, when only the last step failed, which makes it outlast a power cut), and no temporary file is
-    /// left.
+    /// a crash or power cut, finds either the complete old content or the new. After a failure the old content remains
+    /// (or the new one, when only syncing the folder failed), and no temporary file is left.
     virtual FileResult<> writeAtomically(
         const UserFile& file, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) = 0;
 

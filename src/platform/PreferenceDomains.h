@@ -24,7 +24,7 @@ public:
     /// Replaces the whole domain; absent values are left out. It is on disk after `synchronize`.
     virtual void setPersistentDomainForName(const PreferenceDomain& domain, const Text& name) = 0;
 
-    /// Writes what was set. On failure the former content stands; what could not be read before is kept aside before it
+    /// Writes what was set. On failure the former content remains. A file that could not be read is backed up before it
     /// is replaced.
     virtual void synchronize() = 0;
 };

@@ -1,4 +1,4 @@
-// What the player provides for itself where its options name nothing.
+// Temporary home directory and data server, where the options name none.
 #pragma once
 
 #include "qt/LaunchOptions.h"
@@ -15,7 +15,7 @@ struct LaunchResources {
     std::unique_ptr<DataServer> dataServer; ///< null when other servers are asked
 };
 
-/// Makes what is missing and fills in the options. The error is a reason in one line.
+/// Creates what is missing and fills in the options. The error is a reason in one line.
 [[nodiscard]] tl::expected<LaunchResources, QString> provideResources(LaunchOptions& options);
 
 } // namespace sonavel

@@ -42,7 +42,7 @@ namespace sonavel {
 
 namespace {
 
-/// Beside the player in the build, in the folder for such programs when installed.
+/// In the player's folder in the build tree, in the libexec folder when installed.
 std::string enginePath()
 {
     const QString folder = QCoreApplication::applicationDirPath() + u'/';
@@ -105,7 +105,7 @@ struct Program::Parts {
         };
     }
 
-    std::unique_ptr<SingleInstance> instance; ///< null where nobody else can have the home directory
+    std::unique_ptr<SingleInstance> instance; ///< null with a temporary home directory
     LaunchResources resources;
 
     QtProcess process;
@@ -181,7 +181,7 @@ void Program::start(std::function<void()> whenVisible)
     parts_->appDelegate.applicationDidFinishLaunching();
 }
 
-/// Nothing of it is needed before there is a window.
+/// Not needed before the first window is visible.
 void Program::joinDesktop()
 {
     parts_->mediaPlayerBus = std::make_unique<MediaPlayerBus>(parts_->controller.mediaControls);
@@ -198,7 +198,7 @@ void Program::showNowPlaying()
     parts_->windows.mainWindow().showNowPlaying(nowPlayingText(report), emphasisOf(report.state));
 }
 
-/// Only before there is a window; the main window stays painted by itself.
+/// Only before the main window is there, which repaints itself.
 void Program::showWaiting(const QString& host)
 {
     if (parts_->windows.isMainWindowConnected())

@@ -1,4 +1,4 @@
-// The player, put together: the core, its ports, and the windows.
+// The application: the core, its ports and the windows.
 #pragma once
 
 #include "base/Text.h"
@@ -12,19 +12,19 @@ namespace sonavel {
 class SingleInstance;
 class WindowStateStore;
 
-/// How it is started: make it after the application object, then `start`, then run the application's loop. It is never
-/// taken apart: the program ends through its process.
+/// Create it after the application object, call `start`, then run the application's loop. It is never destroyed: the
+/// program exits through its process.
 class Program {
 public:
     /// Stores nothing and sends no request, but may start a data server of its own. The error, in one line, says why
-    /// that or a temporary home directory cannot be had. `instance` is the claim on the home directory; null when that
+    /// that or a temporary home directory failed. `instance` is the claim on the home directory; null when that
     /// is a temporary one. Borrows the store.
     [[nodiscard]] static tl::expected<std::unique_ptr<Program>, QString> create(
         LaunchOptions options, std::unique_ptr<SingleInstance> instance, const WindowStateStore& windowState);
     ~Program();
 
     /// Both phases of the start-up, with the building of the main window between them. The main window is on the screen
-    /// when the loop has turned; the engine is started after that, and `whenVisible` is called. Does not return without
+    /// after the loop's first turn; then the engine is started, and `whenVisible` is called. Does not return without
     /// a network.
     void start(std::function<void()> whenVisible);
 

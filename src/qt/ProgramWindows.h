@@ -20,26 +20,26 @@ class StationListWindow;
 class WindowStateStore;
 struct Controls;
 
-/// The main window is built first, so that it is on the screen as soon as can be; what the program says to the others
-/// meanwhile is rendered once they are there.
+/// The main window is built first, to be on the screen as soon as possible; changes of the other windows' controls are
+/// rendered once these are built.
 class ProgramWindows : private NonCopyable {
 public:
     using ImportFile = std::function<void(const Text& path)>;
 
-    /// Builds the main window, which shows what its description says until it is connected. `importFile` imports a list
+    /// Builds the main window, which shows its initial layout until it is connected. `importFile` imports a list
     /// that was dropped on the station list window.
     ProgramWindows(Controls& controls, Actions& actions, ImportFile importFile, const WindowStateStore& windowState);
     ~ProgramWindows();
 
     /// Between the two phases of the start-up.
     void connectMainWindow();
-    /// Once the main window is painted: takes longer than it, and leaves the keyboard there.
+    /// After the main window's first painting, which this would delay. Leaves the keyboard focus there.
     void buildOtherWindows();
 
     [[nodiscard]] bool isMainWindowConnected() const { return isMainWindowConnected_; }
     [[nodiscard]] MainWindow& mainWindow() const { return *mainWindow_; }
 
-    /// Tells of a failure in the station list window, if that is shown, else in the main window.
+    /// Shows a failure in the station list window if that is visible, else in the main window.
     void showNotice(const QString& text);
 
     /// Saves where the windows are.

@@ -1,4 +1,4 @@
-// A file of the user that could not be written, in words.
+// Messages for files that could not be saved.
 #pragma once
 
 #include "platform/UserFile.h"

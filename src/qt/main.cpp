@@ -45,14 +45,14 @@ void setUpNames()
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
-/// Whether the desktop brings neither a style nor colours of its own.
+/// Whether the desktop has neither a style nor colours of its own.
 bool isPlain(const sonavel::ApplicationStyle& style)
 {
     return style.baseStyle()->name() == QStringLiteral("fusion") && QApplication::palette() == style.standardPalette();
 }
 
-/// The program's own colours are made for one style; a desktop that has its own keeps them. Answers with what
-/// follows the desktop from then on, if anything does.
+/// The program's palettes are made for one style; a desktop with a style or colours of its own keeps them. Returns the
+/// object that follows the desktop's appearance, or null.
 std::unique_ptr<sonavel::DesktopAppearance> setUpLooks(
     const sonavel::LaunchOptions& options, const sonavel::WindowStateStore& windowState)
 {
@@ -86,7 +86,7 @@ int main(int argumentCount, char** arguments)
         instance = std::move(*claim);
     }
 
-    // Reading the settings of the fonts takes a fifth of a start; it is done while Qt finds the display.
+    // Reading the font configuration takes a fifth of a start, so it runs while Qt connects to the display.
     std::jthread fonts([] { FcInit(); });
     // The other options are the program's own, not Qt's.
     QByteArray sessionOption("-session");
@@ -95,7 +95,7 @@ int main(int argumentCount, char** arguments)
     QApplication application(toolkitArgumentCount, toolkitArguments.data());
     sonavel::restartWithSession(QStringList(QApplication::applicationFilePath()) + options->arguments,
         options->isDemo ? sonavel::Restart::Never : sonavel::Restart::WithSession);
-    // And what the first request needs, while the main window is built.
+    // Loaded while the main window is built.
     const std::jthread network([] { sonavel::CurlHttpClient::loadLibrary(); });
     setUpNames();
     if (options->isMirrored)
@@ -109,7 +109,7 @@ int main(int argumentCount, char** arguments)
         return print({1, QStringLiteral("sonavel: ") + program.error()});
     fonts.join();
     (*program)->start([&desktop] {
-        // A window manager takes the picture at any time; the window is there sooner without it.
+        // Set late, as the window is visible sooner without it.
         QApplication::setWindowIcon(sonavel::programIcon());
         if (desktop)
             desktop->follow();

@@ -1,7 +1,7 @@
 // The operations that encrypt station data and write it in Base64.
 //
-// None keeps any state or changes its input; they may run on any thread. Bytes that are handed over with `std::move`
-// are transformed where they lie.
+// None keeps any state or changes its input; they may run on any thread. Bytes that are passed with `std::move`
+// are transformed in place.
 #pragma once
 
 #include "base/Text.h"
@@ -27,7 +27,7 @@ namespace sonavel {
 /// Reads back what the encryption of a text gave. Absent when the bytes cannot be decrypted or are not valid UTF-8.
 [[nodiscard]] Text AES256DecryptWithKey(const Text& base64, const Text& key);
 
-/// The bytes that a Base64 text stands for, see `base64Decoded`; empty for an absent text.
+/// The bytes of a Base64 text, see `base64Decoded`; empty for an absent text.
 [[nodiscard]] Bytes initWithBase64EncodedString(const Text& base64);
 [[nodiscard]] Bytes dataWithBase64EncodedString(const Text& base64);
 

@@ -18,7 +18,7 @@ constexpr std::size_t groupsAtOnce = std::size_t{1} << 20U;
 
 constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-/// What stands in the decoding tables for a character that is no value: a bit above the 24 of a group.
+/// Marks characters outside the alphabet in the decoding tables: a bit above the 24 of a group.
 constexpr std::uint32_t noValue = 1U << 24U;
 
 /// The value of each character, shifted to its place in a group of four.
@@ -72,7 +72,7 @@ struct Group {
     GroupEnd end = GroupEnd::EndOfText;
 };
 
-/// Collects the next group of four values among other characters; moves `text` past what it looked at.
+/// Collects the next group of four values among other characters; moves `text` past what it has read.
 Group takeGroup(std::string_view& text)
 {
     Group group;

@@ -12,7 +12,7 @@ namespace sonavel {
 /// in 16 bits, so that no line feed is written for a line length above 65,532.
 [[nodiscard]] std::string base64Encoded(std::string_view bytes, std::uint64_t lineLength = 0);
 
-/// The bytes that a Base64 text stands for. The first "=" ends it, characters outside the alphabet are skipped, and
+/// The bytes of a Base64 text. The first "=" ends it, characters outside the alphabet are skipped, and
 /// values that no group or "=" completes are dropped. Empty when the text has any character outside ASCII.
 [[nodiscard]] std::string base64Decoded(std::string_view text);
 

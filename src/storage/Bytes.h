@@ -5,8 +5,8 @@
 
 namespace sonavel {
 
-/// Bytes of any value, kept apart from texts by a type of their own. They lie in a string so that decrypted bytes can
-/// become a text without being copied.
+/// Bytes of any value, as a type distinct from texts. Stored in a string so that decrypted bytes become a text without
+/// a copy.
 struct Bytes {
     std::string content;
 

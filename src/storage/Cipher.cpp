@@ -18,7 +18,7 @@ struct ContextDeleter {
 
 enum class Direction { Decrypt = 0, Encrypt = 1 };
 
-/// Runs the cipher over the first `length` bytes of the buffer and cuts the buffer to what came out.
+/// Runs the cipher over the first `length` bytes of the buffer and shrinks the buffer to the result.
 std::optional<Bytes> transformed(Bytes bytes, std::size_t length, const CipherKey& key, Direction direction)
 {
     if (length > static_cast<std::size_t>(std::numeric_limits<int>::max()) - blockSize)

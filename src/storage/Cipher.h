@@ -16,7 +16,7 @@ using CipherKey = std::array<unsigned char, 32>;
 /// The first 32 bytes of the text, filled up with zero bytes.
 [[nodiscard]] CipherKey cipherKeyFromText(std::string_view keyText);
 
-/// Transforms the buffer in place, so hand it over with `std::move` where it is no longer needed; 16 bytes of spare
+/// Transforms the buffer in place, so pass it with `std::move` when it is no longer needed; 16 bytes of spare
 /// capacity save `encrypted` a copy. Buffers of 2 GiB and above are refused with an absent result.
 [[nodiscard]] std::optional<Bytes> encrypted(Bytes plain, const CipherKey& key);
 

@@ -39,7 +39,7 @@ void StationDatabase::fileRadioDBupdate()
 
 void StationDatabase::quarantineLegacyFile()
 {
-    // Where it cannot be renamed it stays as it is, which loses nothing.
+    // On failure it stays, and nothing is lost.
     (void)quarantine(files_, legacyList_.path, damagedMark);
 }
 

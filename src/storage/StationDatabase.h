@@ -1,4 +1,4 @@
-// The encrypted file in which the station list survives between runs, and the plain file that came before it.
+// The encrypted file that stores the station list, and the plain file of earlier versions.
 #pragma once
 
 #include "base/NonCopyable.h"
@@ -9,7 +9,7 @@ namespace sonavel {
 class StationList;
 
 /// Reads and writes the station database "Library/Preferences/radiolist.rdb" under the home directory. The legacy plain
-/// file "radiolist.csv" beside it is read in its place once and goes when the database holds what it held.
+/// file "radiolist.csv" beside it is read once in its place and removed when the database holds its content.
 ///
 /// How the list is loaded:
 /// 1. With a legacy file (`fileRadioDBVerify(true)`), read it (`fileRadioDBreadCypted(false)`).
@@ -17,8 +17,8 @@ class StationList;
 ///    - Else, once the list is made of it and sorted: `removeLegacyFileAfterWrite`, then `fileRadioDBupdate`.
 /// 2. Without one, read the database (`fileRadioDBreadCypted(true)`); absent means no stations.
 ///
-/// Nothing of the user's is lost on the way: the first write that would replace a database which this object has not
-/// read keeps it as a backup, and does not take place when it cannot. The copy is "radiolist.damaged.rdb" when the
+/// No data of the user's is lost: the first write that would replace a database which this object has not read keeps
+/// it as a backup, and fails when that fails. The backup is "radiolist.damaged.rdb" when the
 /// database cannot be read, otherwise "radiolist.before-import.rdb".
 ///
 /// Main thread. Borrows the files and the list.
@@ -31,18 +31,18 @@ public:
 
     /// The list text from the database, decrypted, or else from the legacy file, without a byte order mark at its head.
     /// Absent when the file is missing, unreadable or not valid UTF-8, or cannot be decrypted. Before it reads the
-    /// database it removes what a write that was killed left beside it.
+    /// database it removes the temporary file of an interrupted write.
     [[nodiscard]] Text fileRadioDBreadCypted(bool crypted);
 
-    /// Writes the list to the database. Does nothing while the list is absent. When it fails the database keeps its
-    /// former content; the next call tries again.
+    /// Writes the list to the database. Does nothing while the list is absent. On failure the database keeps its
+    /// content, and the next call tries again.
     void fileRadioDBupdate();
 
-    /// Stores the list and keeps the database as the backup "radiolist.before-import.rdb". Answers the copy's
-    /// path; absent when the list could not be kept.
+    /// Stores the list and keeps the database as the backup "radiolist.before-import.rdb". Returns the backup's
+    /// path; absent on failure.
     [[nodiscard]] Text keepListBeforeImport();
 
-    /// Renames the legacy file to the backup "radiolist.damaged.csv"; where that fails it stays.
+    /// Renames the legacy file to the backup "radiolist.damaged.csv"; on failure it stays.
     void quarantineLegacyFile();
 
     /// From now on a successful write removes the legacy file; until one does, it stays.

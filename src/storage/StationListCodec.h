@@ -12,7 +12,7 @@ namespace sonavel {
 [[nodiscard]] Text encodeStationList(std::string listText);
 
 /// The list text that was encoded. Absent when the content cannot be decrypted or is no valid UTF-8 then. Content
-/// outside ASCII needs no check beforehand: it does not decode.
+/// outside ASCII need not be checked beforehand: it does not decode.
 [[nodiscard]] Text decodeStationList(std::string content);
 
 } // namespace sonavel

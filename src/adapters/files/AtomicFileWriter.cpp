@@ -103,9 +103,9 @@ FileResult<std::optional<mode_t>> AtomicFileWriter::modeOfOldFile(const OpenFile
     return old.st_mode & 0777U;
 }
 
-/// Makes the file with the first mode and, once it is complete, gives it the last one. Leaves no temporary file when it
-/// fails. What already has the temporary name is a crash's left-over or was planted there: it is removed, and neither
-/// opened nor followed.
+/// Creates the file with the first mode and changes it to the last one when it is complete. Leaves no temporary file on
+/// failure. An existing file of the temporary name, from a crash or an attacker, is removed and never opened or
+/// followed.
 FileResult<> AtomicFileWriter::writeTemporary(
     const OpenFile& folder, std::string_view bytes, mode_t firstMode, std::optional<mode_t> lastMode)
 {
@@ -117,7 +117,7 @@ FileResult<> AtomicFileWriter::writeTemporary(
         return lastFailure();
 
     FileResult<> written = writeAll(calls_, temporary.descriptor(), bytes);
-    // Some file systems have no modes; the content must not be lost over that, and 0600 errs on the safe side.
+    // Ignored on failure: some file systems have no modes, and 0600 is the safe value.
     if (written && lastMode && *lastMode != firstMode)
         calls_.changeMode(temporary.descriptor(), *lastMode);
     if (written && calls_.synchronize(temporary.descriptor()) != 0)
@@ -137,7 +137,7 @@ int openFolderOf(SystemCalls& calls, std::string_view path)
 
 FileResult<> synchronizeFolder(SystemCalls& calls, const OpenFile& folder)
 {
-    // EINVAL: a file system that cannot be asked for this, and hence keeps folders as safe as it ever does.
+    // EINVAL: the file system does not support syncing folders.
     if (calls.synchronize(folder.descriptor()) != 0 && errno != EINVAL)
         return lastFailure();
     return {};

@@ -1,4 +1,4 @@
-// The atomic write: a new file beside the old one, complete and on disk before it takes the old one's name.
+// Atomic writes: a new file is complete and on disk before it is renamed over the old one.
 #pragma once
 
 #include "adapters/files/SystemCalls.h"
@@ -10,23 +10,22 @@
 
 namespace sonavel {
 
-/// Writes one file so that its name always stands for a whole content. Its temporary file lies beside it under one
-/// fixed name, ".NAME.saving": what a crash left behind is replaced by the next write, or removed, and never piles up.
-/// Two writers of the same file at once are not provided for.
+/// Writes one file so that readers always find a complete content. The temporary file has a fixed name in the same
+/// folder, ".NAME.saving", so that the next write or `removeUnfinished` removes what a crash left. Concurrent writers
+/// of one file are not supported.
 class AtomicFileWriter {
 public:
-    /// `path` is absolute, and itself no link.
+    /// `path` is absolute and not a symbolic link.
     AtomicFileWriter(SystemCalls& calls, std::string_view path);
 
-    /// Replaces the file, which keeps its mode, or makes it with `access`. On failure the old content stands and the
-    /// temporary file is gone; when only the last step failed, which makes the replacement outlast a power cut, the
-    /// new content stands, whole.
+    /// Replaces the file, which keeps its mode, or makes it with `access`. On failure the old content remains and the
+    /// temporary file is removed; when only syncing the folder failed, the new content is there, complete.
     [[nodiscard]] FileResult<> replace(std::string_view bytes, FileAccess access);
 
-    /// Makes the file with the given mode. Fails when its name is taken; nothing has changed then.
+    /// Creates the file with the given mode. Fails, and changes nothing, when it exists.
     [[nodiscard]] FileResult<> create(std::string_view bytes, mode_t mode);
 
-    /// Removes the temporary file, if there is one that a write of this user's can have left.
+    /// Removes the temporary file, if it is a regular file of this user.
     void removeUnfinished();
 
 private:
@@ -40,10 +39,10 @@ private:
     std::string temporaryName_;
 };
 
-/// Opens the folder in which the absolute path `path` lies.
+/// Opens the folder that contains `path`, which is absolute.
 [[nodiscard]] int openFolderOf(SystemCalls& calls, std::string_view path);
 
-/// Makes what was renamed, linked or removed in an open folder outlast a power cut.
+/// Syncs renames, links and removals in an open folder to disk.
 [[nodiscard]] FileResult<> synchronizeFolder(SystemCalls& calls, const OpenFile& folder);
 
 } // namespace sonavel

@@ -6,10 +6,9 @@
 
 namespace sonavel {
 
-/// The domain NAME is the file "Library/Preferences/NAME" under the home directory: read once, when it is first asked
-/// for or set, and written as XML. A file that is there and is no such domain counts as not stored; the first write
-/// that would replace it keeps it as a backup ("NAME.damaged.plist" for "NAME.plist"), and does not take place
-/// when it cannot.
+/// The domain NAME is the file "Library/Preferences/NAME" under the home directory: read once, at the first
+/// access, and written as XML. An existing file that is not such a domain counts as not stored; the first write keeps
+/// it as a backup ("NAME.damaged.plist" for "NAME.plist") and fails when that fails.
 class PlistPreferenceDomains : public PreferenceDomains {
 public:
     /// Borrows the files.
@@ -17,13 +16,13 @@ public:
 
     [[nodiscard]] std::optional<PreferenceDomain> persistentDomainForName(const Text& name) override;
     void setPersistentDomainForName(const PreferenceDomain& domain, const Text& name) override;
-    /// What could not be written stays to be written by the next call.
+    /// What could not be written is written by the next call.
     void synchronize() override;
 
 private:
     struct StoredDomain {
         std::optional<PreferenceDomain> content;
-        /// The file is there and could not be read, and there is no copy of it yet.
+        /// The file exists, could not be read, and has no backup yet.
         bool isFileDamaged = false;
         bool isWriteDue = false;
     };

@@ -34,7 +34,7 @@ PosixFiles::PosixFiles(const Text& homeDirectory, std::unique_ptr<SystemCalls> c
 bool PosixFiles::fileExists(const Text& path) const
 {
     struct stat status { };
-    // What the program may not look at might well be there.
+    // A file that may not be accessed may exist.
     return calls_->statusOfName(AT_FDCWD, path.string().c_str(), status) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
@@ -55,7 +55,7 @@ FileResult<PosixFiles::Contents> PosixFiles::readFile(const std::string& path) c
     if (static_cast<std::size_t>(status.st_size) > maxFileSize)
         return failure(std::errc::file_too_large);
 
-    // One byte more than expected, so that the end is met without growing.
+    // One byte more than expected, so that the end is found without growing.
     Contents contents{std::string(static_cast<std::size_t>(status.st_size) + 1, '\0'), status.st_mode & 0777U};
     std::string& bytes = contents.bytes;
     std::size_t filled = 0;
@@ -86,8 +86,8 @@ void PosixFiles::removeUnfinishedWrite(const Text& path)
         AtomicFileWriter(*calls_, *target).removeUnfinished();
 }
 
-/// What `path` leads to in the end, which need not exist: the rename of an atomic write would put a file in the place
-/// of the link.
+/// The final target of the symbolic links at `path`, which need not exist: the rename of an atomic write would replace
+/// the link.
 FileResult<std::string> PosixFiles::linkTarget(std::string path) const
 {
     for (int links = 0; links < maxLinks; ++links) {
@@ -152,7 +152,7 @@ FileResult<> PosixFiles::removeFile(const Text& path)
     return {};
 }
 
-/// A power cut may undo the change all the same when this fails; nothing could be done about it.
+/// Failures are ignored: at worst, a power cut undoes the change.
 void PosixFiles::synchronizeFolderOf(const std::string& path)
 {
     const OpenFile folder(*calls_, openFolderOf(*calls_, path));

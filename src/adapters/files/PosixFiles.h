@@ -1,4 +1,4 @@
-// The files of the user on disk.
+// The user's files on disk.
 #pragma once
 
 #include "adapters/files/SystemCalls.h"
@@ -9,13 +9,13 @@
 
 namespace sonavel {
 
-/// Makes the process ignore SIGXFSZ, so that a file size limit is a failed write and not the end of the program.
+/// Makes the process ignore SIGXFSZ, so that exceeding a file size limit is a failed write.
 class PosixFiles : public Files {
 public:
-    /// Called from inside an operation that saves and has failed.
+    /// Called by an operation that failed to save, before it returns.
     using SaveFailureObserver = std::function<void(const UserFile& file, const std::error_code& why)>;
 
-    /// Files larger than this are not read, in bytes.
+    /// In bytes; larger files are not read.
     static constexpr std::size_t maxFileSize = std::size_t{256} << 20U;
 
     explicit PosixFiles(
@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] Text homeDirectory() const override { return homeDirectory_; }
     [[nodiscard]] bool fileExists(const Text& path) const override;
-    /// Never waits for another program: what is not a regular file (a pipe, a device) cannot be read.
+    /// Never blocks on another program: only regular files are read, no pipes and devices.
     [[nodiscard]] FileResult<std::string> contentsOfFile(const Text& path) const override;
     FileResult<> writeAtomically(
         const UserFile& file, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) override;

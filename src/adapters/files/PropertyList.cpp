@@ -43,8 +43,7 @@ std::string xmlForm(plist_t node)
     return characters == nullptr ? std::string() : std::string(characters, size);
 }
 
-/// What stands between the tags of a single value. For whole numbers and dates the library gives no other access to
-/// their full range.
+/// The text between the tags of a single value, the library's only access to the full range of whole numbers and dates.
 std::string xmlContent(plist_t node, std::string_view openingTag)
 {
     const std::string xml = xmlForm(node);
@@ -71,7 +70,7 @@ Text flagText(plist_t node)
     return value != 0 ? "YES" : "NO";
 }
 
-/// "2016-10-01T00:00:00Z" in the international form, absent where that does not reach.
+/// "2016-10-01T00:00:00Z" in the international form, absent when it has none.
 Text dateText(plist_t node)
 {
     std::string form = xmlContent(node, "<date>");

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t maxFileSize = std::size_t{1} << 20U;
 
-/// The parser's work on nested containers is recursive.
+/// The parser is recursive.
 constexpr std::size_t maxXmlContainers = 1'000;
 
 std::size_t occurrences(std::string_view bytes, std::string_view what)
@@ -23,8 +23,8 @@ std::size_t occurrences(std::string_view bytes, std::string_view what)
     return count;
 }
 
-/// Goes the way of the parser through a binary property list: a table of objects, in which containers refer to others
-/// by number, from any number of places, so that a small file can stand for an endless or an enormous tree.
+/// Traverses a binary property list as the parser does: a table of objects, in which containers refer to others by
+/// number, any number of times, so that a small file can describe an infinite or huge tree.
 class BinaryTree {
 public:
     explicit BinaryTree(std::string_view bytes)
@@ -46,11 +46,11 @@ public:
 private:
     static constexpr std::size_t trailerSize = 32;
     static constexpr int maxDepth = 16;
-    /// What the parsed tree may take, in bytes: contents, and something for each node.
+    /// In bytes: contents, and an overhead for each node.
     static constexpr std::uint64_t maxTreeSize = std::uint64_t{4} << 20U;
     static constexpr std::uint64_t nodeSize = 64;
 
-    /// The number of `size` bytes, the highest first, at `position`; nothing beyond the end or 64 bits.
+    /// The big-endian number of `size` bytes at `position`; nothing beyond the end or 64 bits.
     [[nodiscard]] std::optional<std::uint64_t> number(std::uint64_t position, std::uint64_t size) const
     {
         if (size == 0 || size > 8 || position > bytes_.size() || size > bytes_.size() - position)
@@ -98,7 +98,7 @@ private:
         }
     }
 
-    /// A count stands in the marker's lower half or, when that is 15, in a number object behind the marker.
+    /// A count is the marker's lower half or, when that is 15, a number object after the marker.
     [[nodiscard]] std::optional<std::uint64_t> takeCount(std::uint64_t lowerHalf, std::uint64_t& contents) const
     {
         constexpr std::uint64_t elsewhere = 0xF;
@@ -113,7 +113,7 @@ private:
         return count;
     }
 
-    /// The parser asserts that a key has none.
+    /// The parser asserts that keys contain none.
     [[nodiscard]] bool hasZeroCharacter(std::uint64_t text, std::uint64_t count, std::uint64_t characterSize) const
     {
         for (std::uint64_t index = 0; index < count; ++index)

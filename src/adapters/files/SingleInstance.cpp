@@ -23,11 +23,11 @@ namespace {
 
 constexpr std::chrono::seconds maxWait{5};
 
-/// The name of a socket is short, and below the folder there are "/sonavel/", twenty digits and the ending.
+/// The path of a socket has a small limit, and "/sonavel/", twenty digits and the suffix are appended.
 constexpr std::size_t maxFolderLength = sizeof(sockaddr_un::sun_path) - 40;
 constexpr std::chrono::milliseconds pause{20};
 
-/// The same for every way to write the path of one folder.
+/// The same for all paths of one folder.
 std::string nameOf(const std::string& homeDirectory)
 {
     std::error_code none;
@@ -69,7 +69,7 @@ int openSocket()
     return ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
 }
 
-/// What a former process left under that name is of no use any more.
+/// Replaces the socket that a former process left.
 int listeningSocket(const std::string& path)
 {
     const int socket = openSocket();
@@ -118,7 +118,7 @@ tl::expected<std::unique_ptr<SingleInstance>, OtherInstance> SingleInstance::cla
         const auto lock = lockFile(path + ".lock");
         if (lock || lock.error() != std::errc::operation_would_block)
             return instance(lock.value_or(-1), listeningSocket(path + ".socket"));
-        // Between its lock and its socket the other one cannot be activated yet.
+        // Between its lock and its socket the other instance cannot be activated yet.
         if (activate(path + ".socket"))
             return tl::unexpected(OtherInstance::Activated);
         std::this_thread::sleep_for(pause);

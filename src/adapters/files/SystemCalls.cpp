@@ -43,7 +43,7 @@ int SystemCalls::synchronize(int file)
 
 int SystemCalls::close(int file)
 {
-    // An interrupted close has closed the descriptor all the same, and a second one could hit another file.
+    // An interrupted close has closed the descriptor; closing again could close another file.
     const int result = ::close(file);
     return result < 0 && errno == EINTR ? 0 : result;
 }
@@ -63,7 +63,7 @@ int SystemCalls::renameUnlessTaken(int folder, const char* name, int newFolder, 
     const int result = ::renameat2(folder, name, newFolder, newName, RENAME_NOREPLACE);
     if (result == 0 || (errno != EINVAL && errno != ENOSYS))
         return result;
-    // A file system that knows no such request: looking first is the best there is.
+    // The file system does not support the flag; checking first leaves a small race.
     struct stat taken { };
     if (::fstatat(newFolder, newName, &taken, AT_SYMLINK_NOFOLLOW) == 0) {
         errno = EEXIST;

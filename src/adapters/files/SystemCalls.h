@@ -1,4 +1,4 @@
-// The system calls under PosixFiles, in one place so that each can be made to fail.
+// The system calls that PosixFiles uses, behind an interface so that tests can make each fail.
 #pragma once
 
 #include "base/NonCopyable.h"
@@ -13,8 +13,8 @@
 
 namespace sonavel {
 
-/// Each operation is the system call of the same purpose: it answers −1 (unless stated otherwise) with the reason in
-/// `errno`, and never EINTR. A name is looked up in the open folder `folder`; AT_FDCWD does for an absolute path.
+/// Each operation is the system call of the same purpose: it returns −1 with the reason in `errno` on failure, and
+/// never fails with EINTR. A name is relative to the open folder `folder`, which is AT_FDCWD for an absolute path.
 class SystemCalls : private NonCopyable {
 public:
     virtual ~SystemCalls() = default;
@@ -26,32 +26,32 @@ public:
     virtual int changeMode(int file, mode_t mode) { return ::fchmod(file, mode); }
     /// Waits until content and metadata are on disk.
     virtual int synchronize(int file);
-    /// The descriptor is gone, whatever the answer.
+    /// The descriptor is closed, whatever the result.
     virtual int close(int file);
     virtual int status(int file, struct stat& status) { return ::fstat(file, &status); }
     /// Follows links.
     virtual int statusOfName(int folder, const char* name, struct stat& status);
-    /// Writes no terminating zero; answers the number of bytes.
+    /// Writes no terminating zero; returns the number of bytes.
     virtual ssize_t readLink(const char* path, char* buffer, std::size_t size)
     {
         return ::readlink(path, buffer, size);
     }
     virtual int rename(int folder, const char* name, int newFolder, const char* newName);
-    /// Fails with EEXIST when `newName` is taken.
+    /// Fails with EEXIST when `newName` exists.
     virtual int renameUnlessTaken(int folder, const char* name, int newFolder, const char* newName);
     virtual int link(const char* path, int newFolder, const char* newName);
     virtual int unlink(int folder, const char* name) { return ::unlinkat(folder, name, 0); }
     virtual int makeFolder(const char* path, mode_t mode) { return ::mkdir(path, mode); }
 };
 
-/// What `errno` says, as a value with words.
+/// `errno` as a value with a message.
 [[nodiscard]] std::error_code lastError();
 [[nodiscard]] inline tl::unexpected<std::error_code> lastFailure()
 {
     return tl::unexpected(lastError());
 }
 
-/// Keeps a file descriptor and closes it at the latest at its own end.
+/// Owns a file descriptor.
 class OpenFile : private NonCopyable {
 public:
     OpenFile(SystemCalls& calls, int file)
@@ -64,7 +64,7 @@ public:
     [[nodiscard]] bool isOpen() const { return file_ >= 0; }
     [[nodiscard]] int descriptor() const { return file_; }
 
-    /// −1 when the close failed, which for a written file means that the content may be lost.
+    /// −1 when closing failed, which for a written file means that the content may be lost.
     int close();
 
 private:

@@ -14,7 +14,7 @@ namespace {
 constexpr long maxRedirections = 5;
 constexpr const char* usableSchemes = "http,https";
 
-/// Only where there is one.
+/// Only when the library is loaded.
 const CurlLibrary& curl()
 {
     return *CurlLibrary::shared();
@@ -25,7 +25,7 @@ struct HeadersRelease {
 };
 using Headers = std::unique_ptr<curl_slist, HeadersRelease>;
 
-/// What has arrived so far. A body or heads beyond their limit end the request.
+/// What has arrived so far. A body or headers beyond their limit abort the request.
 struct Answer {
     const CurlHttpClient::Limits& limits;
     std::string body;
@@ -59,7 +59,7 @@ struct Answer {
     }
 };
 
-/// The hosts that the environment exempts from its proxies, and this machine, whose own servers no proxy reaches.
+/// The hosts that the environment exempts from its proxies, and this machine, whose servers no proxy reaches.
 std::string hostsWithoutProxy()
 {
     const char* exempt = std::getenv("no_proxy");
@@ -72,7 +72,7 @@ std::string hostsWithoutProxy()
     return hosts.append(others);
 }
 
-/// One transfer. Once an option cannot be set, as in a version of the library that does not know it, nothing is sent.
+/// One transfer. After an option could not be set, as in a version of the library without it, nothing is sent.
 class Transfer : private NonCopyable {
 public:
     Transfer()
@@ -102,7 +102,7 @@ void setSafety(Transfer& transfer)
     transfer.set(CURLOPT_MAXREDIRS, maxRedirections);
     transfer.set(CURLOPT_NOPROXY, hostsWithoutProxy().c_str());
     transfer.set(CURLOPT_NOSIGNAL, 1L);
-    // Else the end of the request waits for a name server that does not answer, however long that takes.
+    // Otherwise cleaning up waits for a name server that does not respond.
     transfer.set(CURLOPT_QUICK_EXIT, 1L);
 }
 
@@ -182,7 +182,7 @@ HttpResult CurlHttpClient::sendSynchronousRequest(const HttpRequest& request)
     transfer.set(CURLOPT_USERAGENT, userAgent_.c_str());
     if (const CURLcode status = transfer.perform(); status != CURLE_OK)
         return failure(curl().easyStrerror(status));
-    // A connection that ends within the head is an empty body to libcurl.
+    // To libcurl, a connection that ends within the headers is an empty body.
     if (!answer.isHeadWhole)
         return failure("the answer ended within its head");
     return std::move(answer.body);

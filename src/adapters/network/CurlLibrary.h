@@ -5,8 +5,8 @@
 
 namespace sonavel {
 
-/// The functions of libcurl that are used. Linked in the usual way, the library and the thirty that it needs would be
-/// there before the first line of the program, which delays every start by an eighth.
+/// The functions of libcurl that are used. Linking libcurl would load it and its thirty dependencies before main(),
+/// which delays every start by an eighth.
 struct CurlLibrary {
     decltype(&curl_easy_init) easyInit;
     decltype(&curl_easy_cleanup) easyCleanup;
@@ -16,8 +16,8 @@ struct CurlLibrary {
     decltype(&curl_slist_append) slistAppend;
     decltype(&curl_slist_free_all) slistFreeAll;
 
-    /// Loads it at the first call, which takes some milliseconds; others that call meanwhile wait. Null when it cannot
-    /// be had. May be called on any thread.
+    /// Loads it at the first call, which takes some milliseconds; concurrent calls wait. Null when it cannot be loaded.
+    /// May be called on any thread.
     [[nodiscard]] static const CurlLibrary* shared();
 };
 

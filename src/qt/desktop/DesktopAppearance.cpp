@@ -62,7 +62,7 @@ void DesktopAppearance::ask(const QString& key)
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, key, answer] { receive(key, *answer); });
 }
 
-/// A desktop that does not know the setting answers with an error.
+/// A desktop without the setting replies with an error.
 void DesktopAppearance::receive(const QString& key, QDBusPendingCallWatcher& answer)
 {
     const QDBusPendingReply<QDBusVariant> reply = answer;

@@ -1,4 +1,4 @@
-// Light or dark and how much contrast, as the user has set the desktop.
+// The desktop's colour scheme and contrast.
 #pragma once
 
 #include "qt/kit/Palettes.h"
@@ -12,9 +12,8 @@ namespace sonavel {
 
 class WindowStateStore;
 
-/// Follows the desktop's colour scheme and contrast with the program's own palettes. What the desktop answers is
-/// saved for the next start, so that asking it delays no window. A desktop that does not answer leaves everything
-/// as it is.
+/// Follows the desktop's colour scheme and contrast with the program's own palettes. The desktop's reply is saved for
+/// the next start, so that the query delays no window. Without a reply nothing changes.
 class DesktopAppearance : public QObject {
     Q_OBJECT
 
@@ -24,7 +23,7 @@ public:
 
     /// Gives the application the palette of the saved appearance; light when there is none.
     void applySaved();
-    /// Asks the desktop now, and listens to changes from then on.
+    /// Queries the desktop and subscribes to changes.
     void follow();
 
 private slots:

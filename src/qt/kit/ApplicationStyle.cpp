@@ -55,7 +55,7 @@ void ApplicationStyle::drawPrimitive(
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
-/// The toolkit mirrors the word beside a picture twice, which takes it to the edge of its button.
+/// Qt mirrors the text beside an icon twice, which moves it to the edge of its button.
 void ApplicationStyle::drawControl(
     ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
@@ -77,7 +77,7 @@ void ApplicationStyle::drawComplexControl(
     QProxyStyle::drawComplexControl(control, &copy, painter, widget);
 }
 
-/// The toolkit keeps what it drew by the palette, hence one and the same for each.
+/// Qt caches what it has drawn by the palette, hence one result for each palette.
 QPalette ApplicationStyle::outlined(const QPalette& palette) const
 {
     const qint64 key = palette.cacheKey();
@@ -89,8 +89,8 @@ QPalette ApplicationStyle::outlined(const QPalette& palette) const
     return *outlined_.object(key);
 }
 
-/// Every menu bar asks for the picture of the button for entries that do not fit, which is hardly ever seen. The
-/// toolkit reads its own from a file, with a plug-in for every format that there is.
+/// Every menu bar requests the icon of the button for entries that do not fit, which is hardly ever visible. Qt would
+/// read its own from a file and load every image plug-in for it.
 QIcon ApplicationStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
 {
     if (picture != SP_ToolBarHorizontalExtensionButton || widget == nullptr)

@@ -1,4 +1,4 @@
-// The desktop's style with the few habits that the program wants of its controls.
+// The desktop's style with a few changes to its controls.
 #pragma once
 
 #include <QCache>
@@ -7,9 +7,9 @@
 
 namespace sonavel {
 
-/// Pop-ups open as scrollable lists, which stays quick with very many items; a click into a slider's groove takes the
-/// knob there; the texts of tables and buttons have space beside them; the outlines of controls stand out from what is
-/// around them on light and dark palettes. `base` is the key of a style, or empty for the desktop's.
+/// Combo boxes open as scrollable lists, which are fast with very many items; a click on a slider's groove moves the
+/// handle there; the texts of tables and buttons have margins; the outlines of controls contrast with light and dark
+/// palettes. `base` is the key of a style, or empty for the desktop's.
 class ApplicationStyle : public QProxyStyle {
 public:
     explicit ApplicationStyle(const QString& base = {});

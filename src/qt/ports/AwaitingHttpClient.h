@@ -1,4 +1,4 @@
-// Synchronous requests that leave the windows alive.
+// Synchronous requests that keep the windows repainted.
 #pragma once
 
 #include "platform/HttpClient.h"
@@ -8,19 +8,19 @@
 
 namespace sonavel {
 
-/// Sends each request on a thread of its own and waits for it in a loop that paints and runs timers, but holds back
-/// clicks and keys until the answer is there.
+/// Sends each request on a thread of its own and waits in an event loop that paints and runs timers, but defers user
+/// input until the request has ended.
 class AwaitingHttpClient : public HttpClient {
 public:
-    /// Told of the request once it is slow, on the main thread.
+    /// Called with the request once it is slow, on the main thread.
     using SlowRequestObserver = std::function<void(const HttpRequest&)>;
 
-    /// `client` does the work; it must bear being called on another thread, one request at a time. A request is slow
-    /// when it takes longer than `patience`.
+    /// `client` is called on another thread, one request at a time. A request is slow when it takes longer than
+    /// `patience`.
     explicit AwaitingHttpClient(
         HttpClient& client, std::chrono::milliseconds patience = std::chrono::milliseconds(333));
 
-    /// `ended` is called when a request that was reported has its answer, or has failed.
+    /// `ended` is called when a request that was reported as slow has ended.
     void setSlowRequestObserver(SlowRequestObserver observer, std::function<void()> ended = {})
     {
         slowRequestObserver_ = std::move(observer);
