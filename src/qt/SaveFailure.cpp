@@ -22,7 +22,7 @@ const char* keyOf(UserFile::Kind kind)
 
 QString saveFailureText(const UserFile& file, const std::error_code& why)
 {
-    return qtTrId(keyOf(file.kind)).replace(QStringLiteral("%@"), onOneLine(QString::fromStdString(why.message())));
+    return filledIn(keyOf(file.kind), onOneLine(QString::fromStdString(why.message())));
 }
 
 } // namespace sonavel
