@@ -1,4 +1,4 @@
-// Fuzzes the file in which the maker states the newest version, all the way to the player.
+// Fuzzes the file in which the publisher states the newest version, all the way to the player.
 
 #include "Require.h"
 #include "base/Moment.h"
@@ -11,16 +11,16 @@
 namespace sonavel {
 namespace {
 
-PublishedVersion usual()
+PublishedVersion defaults()
 {
     return {"0.1.0", "1", "", "", {"not published"}, "2026-11-01 00:00:00 +0000", "2026-11-01 00:00:00 +0000"};
 }
 
-void checkMistake(const VersionTextMistake& mistake)
+void checkError(const ParseError& error)
 {
-    require(mistake.line > 0, "lines are counted from 1");
-    require(!mistake.why.empty() && mistake.why.size() < 500, "an error is reported shortly");
-    require(mistake.why.find_first_of("\r\n\x1B") == std::string::npos, "a mistake is one line, and harmless to show");
+    require(error.line > 0, "lines are counted from 1");
+    require(!error.why.empty() && error.why.size() < 500, "an error is reported shortly");
+    require(error.why.find_first_of("\r\n\x1B") == std::string::npos, "an error is one line, and harmless to show");
 }
 
 /// Whatever is accepted reaches the player as it was stated.
@@ -48,10 +48,10 @@ void checkWay(const PublishedVersion& published)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace sonavel;
-    const auto outcome = publishedVersionFromText({reinterpret_cast<const char*>(data), size}, usual());
-    if (const auto* mistake = std::get_if<VersionTextMistake>(&outcome))
-        checkMistake(*mistake);
+    const auto version = parseVersionText({reinterpret_cast<const char*>(data), size}, defaults());
+    if (version)
+        checkWay(*version);
     else
-        checkWay(std::get<PublishedVersion>(outcome));
+        checkError(version.error());
     return 0;
 }

@@ -27,10 +27,10 @@ tl::expected<LaunchResources, QString> provideResources(LaunchOptions& options)
         options.home = resources.temporaryHome->path();
     }
     if (options.dataServer.isEmpty() || options.probe.isEmpty()) {
-        std::string reason;
-        resources.dataServer = DataServer::create(serverSettings(options), reason);
-        if (!resources.dataServer)
-            return tl::unexpected(QString::fromStdString(reason));
+        auto server = DataServer::create(serverSettings(options));
+        if (!server)
+            return tl::unexpected(QString::fromStdString(server.error()));
+        resources.dataServer = *std::move(server);
         const QString address = toQString(resources.dataServer->baseAddress());
         for (QString* unset : {&options.dataServer, &options.probe}) {
             if (unset->isEmpty())

@@ -163,18 +163,18 @@ void DataServer::Implementation::stream(
     });
 }
 
-std::unique_ptr<DataServer> DataServer::create(const DataServerSettings& settings, std::string& whyNot)
+tl::expected<std::unique_ptr<DataServer>, std::string> DataServer::create(const DataServerSettings& settings)
 {
+    auto versionFile = VersionFile::create(settings.folder, builtInVersion(settings), settings.report);
+    if (!versionFile)
+        return tl::unexpected(std::move(versionFile.error()));
     auto implementation = std::make_unique<Implementation>(settings);
-    implementation->versionFile =
-        VersionFile::create(settings.folder, builtInVersion(settings), settings.report, whyNot);
-    if (implementation->versionFile == nullptr)
-        return nullptr;
+    implementation->versionFile = *std::move(versionFile);
     implementation->configure();
-    const int port = implementation->server.listenAt(settings.address, settings.port, whyNot);
-    if (port == 0)
-        return nullptr;
-    implementation->baseAddress = "http://" + hostOf(settings.address) + ':' + std::to_string(port) + '/';
+    const auto port = implementation->server.listenAt(settings.address, settings.port);
+    if (!port)
+        return tl::unexpected(port.error());
+    implementation->baseAddress = "http://" + hostOf(settings.address) + ':' + std::to_string(*port) + '/';
     implementation->publish(settings);
     implementation->server.start();
     return std::unique_ptr<DataServer>(new DataServer(std::move(implementation)));

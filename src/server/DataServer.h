@@ -5,6 +5,8 @@
 #include "base/Text.h"
 #include "platform/Bundle.h"
 
+#include <tl/expected.hpp>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -51,9 +53,10 @@ struct DataServerSettings {
 /// newest version: what the folder's file "version.txt" says, or else that of the program itself.
 class DataServer : private NonCopyable {
 public:
-    /// Null when it cannot listen there, or cannot publish the folder's "version.txt"; then `whyNot` is one sentence
-    /// for the user.
-    [[nodiscard]] static std::unique_ptr<DataServer> create(const DataServerSettings& settings, std::string& whyNot);
+    /// Fails when it cannot listen there, or cannot publish the folder's "version.txt"; the error is one sentence for
+    /// the user.
+    [[nodiscard]] static tl::expected<std::unique_ptr<DataServer>, std::string> create(
+        const DataServerSettings& settings);
 
     ~DataServer();
 

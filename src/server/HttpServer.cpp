@@ -67,7 +67,7 @@ std::string reasonFrom(int error)
 
 } // namespace
 
-int HttpServer::listenAt(const std::string& address, int port, std::string& whyNot)
+tl::expected<int, std::string> HttpServer::listenAt(const std::string& address, int port)
 {
     set_payload_max_length(maxFormSize);
     set_keep_alive_max_count(maxRequestsPerConnection);
@@ -75,11 +75,9 @@ int HttpServer::listenAt(const std::string& address, int port, std::string& whyN
     errno = 0;
     const bool anyPort = port == 0;
     const int bound = anyPort ? bind_to_any_port(address) : bind_to_port(address, port) ? port : -1;
-    if (bound <= 0) {
-        whyNot = "The server cannot listen at " + address + (anyPort ? "" : ", port " + std::to_string(port))
-            + reasonFrom(errno) + '.';
-        return 0;
-    }
+    if (bound <= 0)
+        return tl::unexpected("The server cannot listen at " + address
+            + (anyPort ? "" : ", port " + std::to_string(port)) + reasonFrom(errno) + '.');
     ::listen(svr_sock_, maxBacklog); // The library's own bound lets a fifth client wait for a second.
     return bound;
 }

@@ -4,6 +4,7 @@
 #include "server/ConnectionThreads.h"
 
 #include <httplib.h>
+#include <tl/expected.hpp>
 
 #include <chrono>
 #include <condition_variable>
@@ -25,9 +26,8 @@ public:
 
     ~HttpServer() override { end(); }
 
-    /// The port that it listens at, `port` or a free one for 0. When it cannot it gives 0, and `whyNot` is one sentence
-    /// for the user.
-    [[nodiscard]] int listenAt(const std::string& address, int port, std::string& whyNot);
+    /// The port that it listens at, `port` or a free one for 0. An error is one sentence for the user.
+    [[nodiscard]] tl::expected<int, std::string> listenAt(const std::string& address, int port);
 
     /// Serves from now on. Its threads take none of the program's signals.
     void start();

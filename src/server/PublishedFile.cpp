@@ -6,43 +6,41 @@
 
 #include <array>
 #include <cerrno>
-#include <optional>
-#include <utility>
 
 namespace sonavel {
 
 namespace {
 
-std::optional<std::string> readAll(int file, std::size_t largest)
+constexpr auto unusable = tl::unexpected(PublishedFileError::Unusable);
+
+tl::expected<std::string, PublishedFileError> readAll(int file, std::size_t maxSize)
 {
     struct stat status { };
     if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
+        return unusable;
     std::string content;
     std::array<char, 65'536> piece{};
-    while (content.size() <= largest) {
+    while (content.size() <= maxSize) {
         const ssize_t count = read(file, piece.data(), piece.size());
         if (count < 0)
-            return std::nullopt;
+            return unusable;
         if (count == 0)
             return content;
         content.append(piece.data(), static_cast<std::size_t>(count));
     }
-    return std::nullopt;
+    return unusable;
 }
 
 } // namespace
 
-PublishedFile readPublishedFile(const std::string& path, std::size_t largest)
+tl::expected<std::string, PublishedFileError> readPublishedFile(const std::string& path, std::size_t maxSize)
 {
     const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0)
-        return {errno == ENOENT ? PublishedFile::State::Absent : PublishedFile::State::Unusable, {}};
-    auto content = readAll(file, largest);
+        return tl::unexpected(errno == ENOENT ? PublishedFileError::Absent : PublishedFileError::Unusable);
+    auto content = readAll(file, maxSize);
     close(file);
-    if (!content)
-        return {PublishedFile::State::Unusable, {}};
-    return {PublishedFile::State::Read, *std::move(content)};
+    return content;
 }
 
 } // namespace sonavel

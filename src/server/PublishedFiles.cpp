@@ -1,7 +1,6 @@
 #include "server/PublishedFiles.h"
 
 #include "base/Ascii.h"
-#include "server/PublishedFile.h"
 
 #include <algorithm>
 #include <utility>
@@ -32,20 +31,19 @@ void PublishedFiles::addBuiltIn(const std::string& name, BuiltIn answer)
     builtIn_.insert_or_assign(name, std::move(answer));
 }
 
-std::optional<std::string> PublishedFiles::contentOf(const std::string& name, const std::string& baseAddress) const
+tl::expected<std::string, PublishedFileError> PublishedFiles::contentOf(
+    const std::string& name, const std::string& baseAddress) const
 {
     if (!isPlainName(name))
-        return std::nullopt;
+        return tl::unexpected(PublishedFileError::Unusable);
     if (!folder_.empty()) {
-        PublishedFile file = readPublishedFile(folder_ + '/' + name, maxFileSize);
-        if (file.state == PublishedFile::State::Read)
-            return std::move(file.content);
-        if (file.state == PublishedFile::State::Unusable)
-            return std::nullopt;
+        auto content = readPublishedFile(folder_ + '/' + name, maxFileSize);
+        if (content || content.error() != PublishedFileError::Absent)
+            return content;
     }
     const auto found = builtIn_.find(name);
     if (found == builtIn_.end())
-        return std::nullopt;
+        return tl::unexpected(PublishedFileError::Absent);
     return found->second(baseAddress);
 }
 

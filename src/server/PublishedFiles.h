@@ -1,11 +1,10 @@
 // What the data server publishes: the files of a folder, and built-in answers where it has none.
 #pragma once
 
-#include "base/Text.h"
+#include "server/PublishedFile.h"
 
 #include <functional>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,11 +22,11 @@ public:
     /// Answers for `name` where the folder has no such file. Before the first request.
     void addBuiltIn(const std::string& name, BuiltIn answer);
 
-    /// The content published under a name, for a client that reaches the server at `baseAddress`. Only a plain name of
-    /// a regular file in the folder itself is looked for: nothing with a "/", "\" or control character, hidden, of more
-    /// than 255 bytes, behind a link, or above 64 MiB. What is there but cannot be given out is not replaced by the
-    /// built-in answer.
-    [[nodiscard]] std::optional<std::string> contentOf(const std::string& name, const std::string& baseAddress) const;
+    /// The content published under a name, for a client that reaches the server at `baseAddress`. Only regular files
+    /// directly in the folder are published, of at most 64 MiB, with a name of at most 255 bytes that does not begin
+    /// with "." and contains no "/", "\" or control character. An unusable file is not replaced by the built-in answer.
+    [[nodiscard]] tl::expected<std::string, PublishedFileError> contentOf(
+        const std::string& name, const std::string& baseAddress) const;
 
 private:
     std::string folder_;

@@ -7,15 +7,13 @@
 
 namespace sonavel {
 
-std::unique_ptr<VersionFile> VersionFile::create(
-    const std::string& folder, PublishedVersion builtIn, Report report, std::string& whyNot)
+tl::expected<std::unique_ptr<VersionFile>, std::string> VersionFile::create(
+    const std::string& folder, PublishedVersion builtIn, Report report)
 {
     std::unique_ptr<VersionFile> file(new VersionFile(folder, std::move(builtIn), std::move(report)));
-    const std::string mistake = file->readAnew();
-    if (mistake.empty())
-        return file;
-    whyNot = mistake + '.';
-    return nullptr;
+    if (const auto loaded = file->reload(); !loaded)
+        return tl::unexpected(loaded.error() + '.');
+    return file;
 }
 
 VersionFile::VersionFile(const std::string& folder, PublishedVersion builtIn, Report report)
@@ -29,27 +27,31 @@ VersionFile::VersionFile(const std::string& folder, PublishedVersion builtIn, Re
 PublishedVersion VersionFile::current()
 {
     const std::lock_guard lock(mutex_);
-    std::string mistake = readAnew();
-    if (!mistake.empty() && mistake != reported_)
-        report_(mistake + "; the last good version stays published.");
-    reported_ = std::move(mistake);
+    const auto loaded = reload();
+    std::string error = loaded ? "" : loaded.error();
+    if (!loaded && error != reported_)
+        report_(error + "; the last good version stays published.");
+    reported_ = std::move(error);
     return lastGood_;
 }
 
-/// Half a sentence about what is wrong; empty when nothing is.
-std::string VersionFile::readAnew()
+/// An error is half a sentence that begins with the path.
+tl::expected<void, std::string> VersionFile::reload()
 {
     if (path_.empty())
         return {};
-    const PublishedFile file = readPublishedFile(path_, maxFileSize);
-    if (file.state == PublishedFile::State::Absent)
-        return wasThere_ ? path_ + ": the file has gone" : std::string();
-    if (file.state == PublishedFile::State::Unusable)
-        return path_ + ": it cannot be read as a plain file of at most 64 KiB";
-    auto outcome = publishedVersionFromText(file.content, builtIn_);
-    if (const auto* mistake = std::get_if<VersionTextMistake>(&outcome))
-        return path_ + ", line " + std::to_string(mistake->line) + ": " + mistake->why;
-    lastGood_ = std::get<PublishedVersion>(std::move(outcome));
+    const auto content = readPublishedFile(path_, maxFileSize);
+    if (content == tl::unexpected(PublishedFileError::Absent) && !wasThere_)
+        return {};
+    if (!content)
+        return tl::unexpected(path_
+            + (content.error() == PublishedFileError::Absent
+                    ? ": the file has gone"
+                    : ": it cannot be read as a plain file of at most 64 KiB"));
+    auto version = parseVersionText(*content, builtIn_);
+    if (!version)
+        return tl::unexpected(path_ + ", line " + std::to_string(version.error().line) + ": " + version.error().why);
+    lastGood_ = *std::move(version);
     wasThere_ = true;
     return {};
 }

@@ -4,6 +4,8 @@
 #include "base/NonCopyable.h"
 #include "server/PublishedVersion.h"
 
+#include <tl/expected.hpp>
+
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -23,11 +25,11 @@ public:
 
     using Report = std::function<void(const std::string& sentence)>;
 
-    /// Null when there is a file that cannot be published; then `whyNot` is one sentence with file, line and reason.
+    /// Fails when there is a file that cannot be published; the error is one sentence with file, line and reason.
     /// Without a file, as in an empty `folder`, `builtIn` is the version until there is one. `report` is called within
     /// `current`.
-    [[nodiscard]] static std::unique_ptr<VersionFile> create(
-        const std::string& folder, PublishedVersion builtIn, Report report, std::string& whyNot);
+    [[nodiscard]] static tl::expected<std::unique_ptr<VersionFile>, std::string> create(
+        const std::string& folder, PublishedVersion builtIn, Report report);
 
     /// The version to publish now.
     [[nodiscard]] PublishedVersion current();
@@ -35,7 +37,7 @@ public:
 private:
     VersionFile(const std::string& folder, PublishedVersion builtIn, Report report);
 
-    [[nodiscard]] std::string readAnew();
+    [[nodiscard]] tl::expected<void, std::string> reload();
 
     const std::string path_; ///< empty without a folder
     const PublishedVersion builtIn_;

@@ -18,7 +18,7 @@ namespace sonavel {
 namespace {
 
 constexpr std::size_t maxNumbers = 3;
-/// Of a strange line in a complaint.
+/// Of an invalid line in an error.
 constexpr std::size_t maxQuotationLength = 40;
 
 /// Whether it is a number that players can compare, which count in 64 bits.
@@ -61,7 +61,7 @@ struct Key {
     std::string_view name;
     std::string PublishedVersion::*place; ///< null for what is added to the notes
     bool (*accepts)(std::string_view value);
-    const char* mistake; ///< the end of a sentence that begins with the key
+    const char* error; ///< the end of a sentence that begins with the key
 };
 
 constexpr const char* noAddress = "takes a complete http or https address";
@@ -90,8 +90,8 @@ std::string namesOfKeys()
     return names;
 }
 
-/// What keeps any value from being a field of the answer; empty when nothing does.
-std::string_view obstacleIn(std::string_view value)
+/// What the response cannot carry in a value; empty when there is no such thing.
+std::string_view unsupportedPartOf(std::string_view value)
 {
     for (const char character : value) {
         if (character == ';')
@@ -104,64 +104,67 @@ std::string_view obstacleIn(std::string_view value)
     return {};
 }
 
-/// Half a sentence about what is wrong; caught before it leaves this file.
-struct ParseError {
-    std::string why;
-};
+/// An error is half a sentence in one line.
+template <class Value = void> using Outcome = tl::expected<Value, std::string>;
 
 class VersionTextReader {
 public:
-    explicit VersionTextReader(PublishedVersion usual)
-        : published_(std::move(usual))
+    explicit VersionTextReader(PublishedVersion defaults)
+        : published_(std::move(defaults))
     {
         published_.notes.clear();
     }
 
-    void readLine(std::string_view line)
+    [[nodiscard]] Outcome<> readLine(std::string_view line)
     {
         line = withoutOuterBlanks(line);
         if (line.empty() || line.front() == '#')
-            return;
+            return {};
         const std::size_t sign = line.find('=');
         if (sign == std::string_view::npos)
-            throw ParseError{quoted(line) + " has no \"=\" between a key and a value"};
-        setValue(keyNamed(withoutOuterBlanks(line.substr(0, sign))), withoutOuterBlanks(line.substr(sign + 1)));
+            return tl::unexpected(quoted(line) + " has no \"=\" between a key and a value");
+        const std::string_view value = withoutOuterBlanks(line.substr(sign + 1));
+        return keyNamed(withoutOuterBlanks(line.substr(0, sign))).and_then([&](const Key* key) {
+            return setValue(*key, value);
+        });
     }
 
-    [[nodiscard]] PublishedVersion finished() const
+    [[nodiscard]] Outcome<PublishedVersion> finished() const
     {
         for (const std::string_view name : {"version", "build"}) {
             if (!given_.contains(name))
-                throw ParseError{"the file ends without a " + quoted(name)};
+                return tl::unexpected("the file ends without a " + quoted(name));
         }
         return published_;
     }
 
 private:
-    static const Key& keyNamed(std::string_view name)
+    static Outcome<const Key*> keyNamed(std::string_view name)
     {
         const auto* const key =
             std::find_if(keys.begin(), keys.end(), [&](const Key& each) { return each.name == name; });
         if (key == keys.end())
-            throw ParseError{quoted(name) + " is none of the keys " + namesOfKeys()};
-        return *key;
+            return tl::unexpected(quoted(name) + " is none of the keys " + namesOfKeys());
+        return key;
     }
 
-    void setValue(const Key& key, std::string_view value)
+    Outcome<> setValue(const Key& key, std::string_view value)
     {
+        const auto error = [&key](const std::string& why) { return tl::unexpected(quoted(key.name) + ' ' + why); };
         if (value.empty())
-            throw ParseError{quoted(key.name) + " has no value"};
-        if (const std::string_view obstacle = obstacleIn(value); !obstacle.empty())
-            throw ParseError{quoted(key.name) + " holds " + std::string(obstacle) + ", which the answer cannot carry"};
+            return error("has no value");
+        if (const std::string_view part = unsupportedPartOf(value); !part.empty())
+            return error("holds " + std::string(part) + ", which the answer cannot carry");
         if (!key.accepts(value))
-            throw ParseError{quoted(key.name) + ' ' + key.mistake};
+            return error(key.error);
         if (key.place == nullptr) {
             published_.notes.emplace_back(value);
-            return;
+            return {};
         }
         if (!given_.insert(key.name).second)
-            throw ParseError{quoted(key.name) + " is given a second time"};
+            return error("is given a second time");
         published_.*key.place = value;
+        return {};
     }
 
     PublishedVersion published_;
@@ -170,22 +173,19 @@ private:
 
 } // namespace
 
-std::variant<PublishedVersion, VersionTextMistake> publishedVersionFromText(
-    std::string_view text, PublishedVersion usual)
+tl::expected<PublishedVersion, ParseError> parseVersionText(std::string_view text, PublishedVersion defaults)
 {
-    VersionTextReader reader(std::move(usual));
+    VersionTextReader reader(std::move(defaults));
     std::size_t line = 0;
-    try {
-        for (std::string_view rest = withoutByteOrderMark(text); !rest.empty();) {
-            ++line;
-            const std::string_view content = rest.substr(0, rest.find('\n'));
-            reader.readLine(content);
-            rest.remove_prefix(std::min(content.size() + 1, rest.size()));
-        }
-        return reader.finished();
-    } catch (const ParseError& mistake) {
-        return VersionTextMistake{std::max<std::size_t>(line, 1), mistake.why};
+    const auto onLine = [&line](std::string why) { return ParseError{std::max<std::size_t>(line, 1), std::move(why)}; };
+    for (std::string_view rest = withoutByteOrderMark(text); !rest.empty();) {
+        ++line;
+        const std::string_view content = rest.substr(0, rest.find('\n'));
+        if (auto read = reader.readLine(content); !read)
+            return tl::unexpected(onLine(std::move(read.error())));
+        rest.remove_prefix(std::min(content.size() + 1, rest.size()));
     }
+    return reader.finished().map_error(onLine);
 }
 
 } // namespace sonavel

@@ -127,13 +127,12 @@ int main(int argc, char** argv)
 {
     const DataServerSettings settings = settingsFrom(argc, argv);
     const sigset_t endSignals = holdBackEndSignals();
-    std::string whyNot;
-    const auto server = DataServer::create(settings, whyNot);
-    if (server == nullptr) {
-        tell(whyNot);
+    const auto server = DataServer::create(settings);
+    if (!server) {
+        tell(server.error());
         return EXIT_FAILURE;
     }
-    std::cout << "listening on " << server->baseAddress().view() << std::endl;
+    std::cout << "listening on " << (*server)->baseAddress().view() << std::endl;
     int signal = 0;
     sigwait(&endSignals, &signal);
     return EXIT_SUCCESS;

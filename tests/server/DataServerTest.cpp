@@ -27,9 +27,7 @@ class DataServerTest : public testing::Test {
 protected:
     void start(const DataServerSettings& settings)
     {
-        std::string whyNot;
-        server_ = DataServer::create(settings, whyNot);
-        ASSERT_NE(server_, nullptr) << whyNot;
+        server_ = DataServer::create(settings).value();
         client_ = std::make_unique<httplib::Client>(test::hostOf(*server_));
     }
 

@@ -28,11 +28,7 @@ std::unique_ptr<DataServer> startedServer()
 {
     DataServerSettings settings;
     settings.content = DataServerSettings::Content::Demo;
-    std::string whyNot;
-    auto server = DataServer::create(settings, whyNot);
-    if (server == nullptr)
-        throw std::runtime_error(whyNot);
-    return server;
+    return DataServer::create(settings).value();
 }
 
 std::string answerTo(const DataServer& server, std::string_view request)
@@ -192,8 +188,7 @@ TEST(HttpServer, ItsEndLeavesDescriptorsAloneThatItsFormerConnectionsHad)
 TEST(HttpServer, ItsEndEndsTheWaitForTheNextPieceOfAStream)
 {
     HttpServer server;
-    std::string whyNot;
-    ASSERT_GT(server.listenAt("127.0.0.1", 0, whyNot), 0) << whyNot;
+    ASSERT_TRUE(server.listenAt("127.0.0.1", 0));
     server.start();
     auto isTimeForThePiece = std::async(std::launch::async,
         [&] { return server.waitUntil(std::chrono::steady_clock::now() + std::chrono::minutes(1)); });
@@ -211,10 +206,10 @@ TEST(HttpServer, APortThatIsTakenIsToldInOneSentence)
     same.port = std::stoi(address.substr(address.rfind(':') + 1));
     for (const std::string host : {"127.0.0.1", "192.0.2.1", "no address"}) {
         same.address = host;
-        std::string whyNot;
-        EXPECT_EQ(DataServer::create(same, whyNot), nullptr) << host;
-        EXPECT_NE(whyNot.find(host), std::string::npos);
-        EXPECT_EQ(whyNot.back(), '.');
+        const auto refused = DataServer::create(same);
+        ASSERT_FALSE(refused) << host;
+        EXPECT_NE(refused.error().find(host), std::string::npos);
+        EXPECT_EQ(refused.error().back(), '.');
     }
 }
 

@@ -19,19 +19,19 @@ TEST(PublishedFiles, APublishedFileWinsOverTheBuiltInAnswer)
     EXPECT_EQ(files.contentOf("list.rdb", client), "built in at http://host/");
     folder.put("list.rdb", "published");
     EXPECT_EQ(files.contentOf("list.rdb", client), "published");
-    EXPECT_EQ(files.contentOf("other.rdb", client), std::nullopt);
-    EXPECT_EQ(PublishedFiles("").contentOf("list.rdb", client), std::nullopt);
+    EXPECT_EQ(files.contentOf("other.rdb", client), tl::unexpected(PublishedFileError::Absent));
+    EXPECT_FALSE(PublishedFiles("").contentOf("list.rdb", client));
 }
 
 TEST(PublishedFiles, AFileIsGivenOutUpTo64MiB)
 {
     const test::TemporaryFolder folder;
     const PublishedFiles files(folder.path());
-    constexpr std::size_t largest = std::size_t{64} << 20;
+    constexpr std::size_t maxSize = std::size_t{64} << 20;
     folder.put("large", "");
-    ASSERT_EQ(::truncate(folder.path("large").c_str(), largest), 0);
+    ASSERT_EQ(::truncate(folder.path("large").c_str(), maxSize), 0);
     EXPECT_TRUE(files.contentOf("large", client).has_value());
-    ASSERT_EQ(::truncate(folder.path("large").c_str(), largest + 1), 0);
+    ASSERT_EQ(::truncate(folder.path("large").c_str(), maxSize + 1), 0);
     EXPECT_FALSE(files.contentOf("large", client).has_value());
 }
 
@@ -52,7 +52,7 @@ TEST(PublishedFiles, NothingButPlainFilesOfTheFolderItselfIsGivenOut)
              std::string("inner"), std::string("inner/file"), std::string("inner\\file"), std::string("link"),
              std::string("pipe"), outside.path("secret"), "../" + outside.path("secret"), std::string("list\0", 5),
              std::string("a\nb"), std::string(256, 'a')})
-        EXPECT_EQ(files.contentOf(name, client), std::nullopt) << name;
+        EXPECT_EQ(files.contentOf(name, client), tl::unexpected(PublishedFileError::Unusable)) << name;
 }
 
 } // namespace

@@ -9,9 +9,9 @@ namespace {
 
 const std::string needed = "version = 1.3.0\nbuild = 8\n";
 
-PublishedVersion usual()
+PublishedVersion defaults()
 {
-    return {"0.1.0", "1", "", "", {"usual"}, "2026-11-01 00:00:00 +0000", "2026-11-02 00:00:00 +0000"};
+    return {"0.1.0", "1", "", "", {"default"}, "2026-11-01 00:00:00 +0000", "2026-11-02 00:00:00 +0000"};
 }
 
 TEST(VersionText, EveryValueReachesThePlayerAsItWasStated)
@@ -25,9 +25,9 @@ TEST(VersionText, EveryValueReachesThePlayerAsItWasStated)
         windowsLines.append(character == '\n' ? "\r" : "").append(1, character);
 
     for (const std::string& text : {lines, windowsLines}) {
-        const auto outcome = publishedVersionFromText(text, usual());
-        ASSERT_TRUE(std::holds_alternative<PublishedVersion>(outcome)) << std::get<VersionTextMistake>(outcome).why;
-        const auto record = serverVersionRecord(versionAnswer(std::get<PublishedVersion>(outcome), "http://own/"));
+        const auto version = parseVersionText(text, defaults());
+        ASSERT_TRUE(version) << version.error().why;
+        const auto record = serverVersionRecord(versionAnswer(*version, "http://own/"));
         ASSERT_TRUE(record);
         EXPECT_EQ(versionText(*record), "1.3.0 (8)");
         EXPECT_EQ(record->LinkApp, "HTTP://[::1]:8080/");
@@ -38,11 +38,11 @@ TEST(VersionText, EveryValueReachesThePlayerAsItWasStated)
     }
 }
 
-TEST(VersionText, WhatIsNotStatedIsAsUsualButForTheNotes)
+TEST(VersionText, WhatIsNotStatedIsTheDefaultButForTheNotes)
 {
-    const auto outcome = publishedVersionFromText(needed, usual());
-    ASSERT_TRUE(std::holds_alternative<PublishedVersion>(outcome));
-    EXPECT_EQ(versionAnswer(std::get<PublishedVersion>(outcome), "http://own/"),
+    const auto version = parseVersionText(needed, defaults());
+    ASSERT_TRUE(version);
+    EXPECT_EQ(versionAnswer(*version, "http://own/"),
         "name;Sonavel\rversion;1.3.0\rbuild;8\rapplication;http://own/\rpage;http://own/\rnotes;\r"
         "released;2026-11-01 00:00:00 +0000\rlist changed;2026-11-02 00:00:00 +0000\r");
 }
@@ -53,7 +53,7 @@ TEST(VersionText, WhatTheAnswerCannotCarryIsRefusedWithItsLineAndReason)
         std::string text;
         std::size_t line;
         std::string named; ///< a part of the reason
-    } mistakes[] = {{"", 1, "without a \"version\""}, {"# empty\n\n", 2, "without a \"version\""},
+    } errors[] = {{"", 1, "without a \"version\""}, {"# empty\n\n", 2, "without a \"version\""},
         {"version = 1\n# end", 2, "without a \"build\""}, {needed + "note = a;b", 3, "a \";\""},
         {needed + "note = a\rb", 3, "control"}, {needed + std::string("note = a\0b", 10), 3, "control"},
         {needed + "note = \x7F", 3, "control"}, {needed + "note = caf\xC3\xA9", 3, "outside ASCII"},
@@ -72,13 +72,13 @@ TEST(VersionText, WhatTheAnswerCannotCarryIsRefusedWithItsLineAndReason)
         {"page = radio.example.org\n", 1, "\"page\" takes"}, {"page = http://\n", 1, "\"page\" takes"},
         {"page = javascript:alert(1)\n", 1, "\"page\" takes"},
         {"application = file:///sonavel.deb\n", 1, "\"application\" takes"}};
-    for (const auto& [text, line, named] : mistakes) {
-        const auto outcome = publishedVersionFromText(text, usual());
-        const auto* mistake = std::get_if<VersionTextMistake>(&outcome);
-        ASSERT_NE(mistake, nullptr) << text;
-        EXPECT_EQ(mistake->line, line) << text;
-        EXPECT_NE(mistake->why.find(named), std::string::npos) << mistake->why;
-        EXPECT_EQ(mistake->why.find_first_of("\r\n\x1B"), std::string::npos) << mistake->why;
+    for (const auto& [text, line, named] : errors) {
+        const auto version = parseVersionText(text, defaults());
+        ASSERT_FALSE(version) << text;
+        const auto& [errorLine, why] = version.error();
+        EXPECT_EQ(errorLine, line) << text;
+        EXPECT_NE(why.find(named), std::string::npos) << why;
+        EXPECT_EQ(why.find_first_of("\r\n\x1B"), std::string::npos) << why;
     }
 }
 
