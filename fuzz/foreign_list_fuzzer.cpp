@@ -1,12 +1,12 @@
-// Fuzzes the reading of station lists that other programs and people wrote.
+// Fuzzes the parsers of station lists from other programs.
 
 #include "Require.h"
 #include "base/TextDecoding.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
 #include "model/StreamAddress.h"
+#include "tools/DatabaseFormat.h"
 #include "tools/ListCheck.h"
-#include "tools/ListFormats.h"
 
 #include <cstdint>
 
@@ -30,16 +30,16 @@ std::vector<std::string> described(const StationRecords& stations)
 
 void checkWritten(const StationRecords& stations)
 {
-    const auto text = serializedList(stations, ListFormat::Csv);
-    require(text && described(recordsFromListText(*text)) == described(stations), "a list text comes back");
-    const auto database = serializedList(stations, ListFormat::Rdb);
-    const auto decrypted = parseList(database.value_or(""), ListFormat::Rdb);
-    require(decrypted && described(decrypted->stations) == described(stations), "a database comes back");
-    const auto json = serializedList(stations, ListFormat::Json);
-    require(json.has_value(), "what was read has a JSON form");
-    const auto again = parseList(*json, ListFormat::Json);
-    require(again && again->stations.size() == stations.size() - stationsLostBySerializing(stations, ListFormat::Json),
-        "JSON loses what it says");
+    for (const ListFormat* format : allFormats) {
+        if (format->serialize == nullptr)
+            continue;
+        const auto written = format->serialize(stations);
+        require(written.has_value(), "what was read can be written");
+        const StationRecords again = format == &listTextFormat ? recordsFromListText(written->bytes)
+                                                               : format->parse(written->bytes).value().stations;
+        require(again.size() == stations.size() - written->stationsLost, "what is written has as many stations");
+        require(format == &jsonFormat || described(again) == described(stations), "they are the same");
+    }
 }
 
 void checkPlaylist(const StationRecords& stations)
@@ -50,10 +50,10 @@ void checkPlaylist(const StationRecords& stations)
     }
 }
 
-void checkFormat(std::string_view bytes, ListFormat format)
+void checkFormat(std::string_view bytes, const ListFormat& format)
 {
-    const auto list = parseList(std::string(bytes), format);
-    require(list || format == ListFormat::Rdb || format == ListFormat::Json, "a text is always read");
+    const auto list = format.parse(std::string(bytes));
+    require(list || &format == &databaseFormat || &format == &jsonFormat, "a text is always read");
     if (!list)
         return;
     checkDiagnostics(list->diagnostics);
@@ -61,7 +61,7 @@ void checkFormat(std::string_view bytes, ListFormat format)
     for (const auto& station : list->stations)
         require(isStationName(station->radio().view()), "a list keeps the names");
     checkWritten(list->stations);
-    if (format == ListFormat::M3u || format == ListFormat::Pls)
+    if (&format == &m3uFormat || &format == &plsFormat)
         checkPlaylist(list->stations);
 }
 
@@ -72,8 +72,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     using namespace sonavel;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    for (const ListFormat format :
-        {ListFormat::Csv, ListFormat::Rdb, ListFormat::Json, ListFormat::M3u, ListFormat::Pls, formatOfContent(bytes)})
-        checkFormat(bytes, format);
+    for (const ListFormat* format : allFormats)
+        checkFormat(bytes, *format);
+    checkFormat(bytes, formatOfContent(bytes, allFormats));
     return 0;
 }

@@ -1,6 +1,7 @@
 #include "tools/ListArguments.h"
 
 #include "platform/Bundle.h"
+#include "tools/DatabaseFormat.h"
 
 #include <getopt.h>
 
@@ -14,22 +15,42 @@ namespace sonavel {
 
 namespace {
 
-constexpr const char* help =
-    "Usage: sonavel-list show [FILE]\n"
-    "       sonavel-list check [FILE]\n"
-    "       sonavel-list convert IN OUT\n"
-    "Shows, checks and converts lists of radio stations. Without FILE it is the list of the player.\n\n"
-    "  show      print names and addresses, in columns or, into a pipe, separated by tabs\n"
-    "  check     print what is wrong with the list, line by line\n"
-    "  convert   write the list of IN to OUT\n\n"
-    "  --from FORMAT   read FILE or IN as csv, rdb, json, m3u or pls, whatever its name\n"
-    "  --to FORMAT     write OUT as csv, rdb or json, whatever its name\n"
-    "  --version       print the version\n"
-    "  --help          print this\n\n"
-    "\"-\" stands for standard input and output. The format is told by the extension, and that of an input\n"
-    "without one by its content.\n\n"
-    "Exit status: 0 fine, 1 the list has findings, 2 wrong usage, 3 a file cannot be read or written.\n"
-    "Variables: SONAVEL_HOME, else HOME, is the folder below which the player keeps its list.\n";
+/// Such as "a, b or c", of those formats for which `isListed`.
+template <class Predicate> std::string formatNames(Predicate isListed)
+{
+    std::string names;
+    std::size_t last = 0;
+    for (const ListFormat* format : allFormats) {
+        if (!isListed(*format))
+            continue;
+        last = names.size();
+        names.append(names.empty() ? "" : ", ").append(format->names.front());
+    }
+    return names.replace(last, 2, " or ");
+}
+
+std::string help()
+{
+    return "Usage: sonavel-list show [FILE]\n"
+           "       sonavel-list check [FILE]\n"
+           "       sonavel-list convert IN OUT\n"
+           "Shows, checks and converts lists of radio stations. Without FILE it is the list of the player.\n\n"
+           "  show      print names and addresses, in columns or, into a pipe, separated by tabs\n"
+           "  check     print what is wrong with the list, line by line\n"
+           "  convert   write the list of IN to OUT\n\n"
+           "  --from FORMAT   read FILE or IN as "
+        + formatNames([](const ListFormat&) { return true; })
+        + ", whatever its name\n"
+          "  --to FORMAT     write OUT as "
+        + formatNames([](const ListFormat& format) { return format.serialize != nullptr; })
+        + ", whatever its name\n"
+          "  --version       print the version\n"
+          "  --help          print this\n\n"
+          "\"-\" stands for standard input and output. The extension decides on the format; that of an input\n"
+          "without one is recognised by its content.\n\n"
+          "Exit status: 0 fine, 1 the list has findings, 2 wrong usage, 3 a file cannot be read or written.\n"
+          "Variables: SONAVEL_HOME, else HOME, is the folder below which the player keeps its list.\n";
+}
 
 [[noreturn]] void refuse(const std::string& why)
 {
@@ -42,20 +63,20 @@ std::string pathOfOwnList()
     for (const char* variable : {"SONAVEL_HOME", "HOME"})
         if (const char* home = std::getenv(variable); home != nullptr && *home != '\0')
             return std::string(home) + "/Library/Preferences/radiolist.rdb";
-    refuse("neither SONAVEL_HOME nor HOME tells where the player's list is");
+    refuse("neither SONAVEL_HOME nor HOME says where the player's list is");
 }
 
-ListFormat formatFrom(std::string_view name)
+const ListFormat* formatFrom(std::string_view name)
 {
-    const auto format = formatNamed(name);
-    if (!format)
+    const ListFormat* format = formatNamed(name, allFormats);
+    if (format == nullptr)
         refuse("there is no format \"" + std::string(name) + "\"");
-    return *format;
+    return format;
 }
 
 struct Options {
-    std::optional<ListFormat> from;
-    std::optional<ListFormat> to;
+    const ListFormat* from = nullptr;
+    const ListFormat* to = nullptr;
     std::vector<std::string> operands;
 };
 
@@ -81,7 +102,7 @@ Options optionsFrom(int argc, char** argv)
             std::cout << "sonavel-list " << programBundle().shortVersion.view() << '\n';
             std::exit(EXIT_SUCCESS);
         case 'h':
-            std::cout << help;
+            std::cout << help();
             std::exit(EXIT_SUCCESS);
         default:
             std::exit(usageError);
@@ -93,18 +114,18 @@ Options optionsFrom(int argc, char** argv)
 
 void setInput(ListArguments& arguments, const Options& options, std::string path)
 {
-    arguments.inputFormat = options.from ? options.from : formatOfPath(path);
+    arguments.inputFormat = options.from != nullptr ? options.from : formatOfPath(path, allFormats);
     arguments.input = std::move(path);
 }
 
 void setOutput(ListArguments& arguments, const Options& options, std::string path)
 {
-    const auto format = options.to ? options.to : formatOfPath(path);
-    if (!format)
-        refuse("--to has to tell the format of \"" + path + "\"");
-    if (!isWritable(*format))
+    const ListFormat* format = options.to != nullptr ? options.to : formatOfPath(path, allFormats);
+    if (format == nullptr)
+        refuse("the format of \"" + path + "\" has to be given with --to");
+    if (format->serialize == nullptr)
         refuse("playlists are read and not written");
-    arguments.outputFormat = *format;
+    arguments.outputFormat = format;
     arguments.output = std::move(path);
 }
 
@@ -139,7 +160,7 @@ ListArguments listArgumentsFrom(int argc, char** argv)
     }
     if (operands.size() > 2)
         refuse(operands[0] + " takes one file");
-    if (options.to)
+    if (options.to != nullptr)
         refuse("--to goes with convert alone");
     setInput(arguments, options, operands.size() == 2 ? operands[1] : pathOfOwnList());
     return arguments;

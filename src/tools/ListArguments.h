@@ -1,9 +1,8 @@
 // What the command line of sonavel-list asks for.
 #pragma once
 
-#include "tools/ListFormats.h"
+#include "playlists/ListFormats.h"
 
-#include <optional>
 #include <string>
 
 namespace sonavel {
@@ -16,11 +15,11 @@ struct ListArguments {
 
     Command command = Command::Show;
     std::string input;
-    /// The formats given by option or extension; nothing where the content decides.
-    std::optional<ListFormat> inputFormat;
+    /// As given by option or extension; null where the content decides.
+    const ListFormat* inputFormat = nullptr;
     /// For `Convert` alone.
     std::string output;
-    ListFormat outputFormat = ListFormat::Csv;
+    const ListFormat* outputFormat = nullptr;
 };
 
 /// Exit statuses.

@@ -1,9 +1,9 @@
 // sonavel-list: shows, checks and converts station lists in a terminal.
 
 #include "adapters/files/PosixFiles.h"
+#include "tools/DatabaseFormat.h"
 #include "tools/ListArguments.h"
 #include "tools/ListCheck.h"
-#include "tools/ListFormats.h"
 #include "tools/StationTable.h"
 
 #include <fcntl.h>
@@ -34,39 +34,44 @@ std::string outputName(const ListArguments& arguments)
 }
 
 /// All of a file or pipe, or of the standard input.
-std::error_code readInput(const std::string& path, std::string& content)
+FileResult<std::string> readInput(const std::string& path)
 {
     SystemCalls calls;
     const OpenFile file(
         calls, path == standardStream ? STDIN_FILENO : calls.open(AT_FDCWD, path.c_str(), O_RDONLY | O_NOCTTY, 0));
     if (!file.isOpen())
-        return lastError();
+        return tl::unexpected(lastError());
+    std::string content;
     constexpr std::size_t step = std::size_t{1} << 20U;
     for (std::size_t filled = 0; filled <= PosixFiles::maxFileSize;) {
         content.resize(filled + step);
         const ssize_t size = calls.read(file.descriptor(), content.data() + filled, step);
         if (size < 0)
-            return lastError();
+            return tl::unexpected(lastError());
         filled += static_cast<std::size_t>(size);
         content.resize(filled);
         if (size == 0)
-            return {};
+            return content;
     }
-    return std::make_error_code(std::errc::file_too_large);
+    return tl::unexpected(std::make_error_code(std::errc::file_too_large));
 }
 
-/// Complains where there is none.
+tl::expected<ParsedList, std::string> parsedInput(const ListArguments& arguments)
+{
+    auto content = readInput(arguments.input);
+    if (!content)
+        return tl::unexpected(content.error().message());
+    const ListFormat& format =
+        arguments.inputFormat != nullptr ? *arguments.inputFormat : formatOfContent(*content, allFormats);
+    return format.parse(*std::move(content));
+}
+
+/// Prints why where there is none.
 std::optional<ParsedList> inputList(const ListArguments& arguments)
 {
-    std::string content;
-    if (const std::error_code failure = readInput(arguments.input, content)) {
-        complain(inputName(arguments), failure.message());
-        return std::nullopt;
-    }
-    const ListFormat format = arguments.inputFormat.value_or(formatOfContent(content));
-    auto list = parseList(std::move(content), format);
+    auto list = parsedInput(arguments);
     if (list)
-        return std::move(*list);
+        return *std::move(list);
     complain(inputName(arguments), list.error());
     return std::nullopt;
 }
@@ -98,7 +103,7 @@ long placesLost(const ParsedList& list)
         [](const Diagnostic& diagnostic) { return diagnostic.severity == Diagnostic::Severity::Loss; });
 }
 
-/// Tells of what the reading left out or changed; answers the status that this means.
+/// Prints how much the reading left out or changed; returns the exit status for it.
 int statusAfterReading(const ListArguments& arguments, const ParsedList& list)
 {
     const long lost = placesLost(list);
@@ -127,20 +132,19 @@ int convert(const ListArguments& arguments)
         complain(inputName(arguments), "there is no station in it");
         return unreadable;
     }
-    const auto bytes = serializedList(list->stations, arguments.outputFormat);
-    if (!bytes) {
-        complain(outputName(arguments), "the list is too large for this format");
+    const auto output = arguments.outputFormat->serialize(list->stations);
+    if (!output) {
+        complain(outputName(arguments), output.error());
         return unreadable;
     }
-    if (!write(arguments.output, *bytes))
+    if (!write(arguments.output, output->bytes))
         return unreadable;
-    int status = statusAfterReading(arguments, *list);
-    if (const std::size_t lost = stationsLostBySerializing(list->stations, arguments.outputFormat); lost > 0) {
-        complain(
-            arguments.output, std::to_string(lost) + " stations are left out, as a later one has the same address");
-        status = listHasDiagnostics;
-    }
-    return status;
+    const int status = statusAfterReading(arguments, *list);
+    if (output->stationsLost == 0)
+        return status;
+    complain(arguments.output,
+        std::to_string(output->stationsLost) + " stations are left out, as a later one has the same address");
+    return listHasDiagnostics;
 }
 
 int check(const ListArguments& arguments)

@@ -1,16 +1,18 @@
 #include "base/Ascii.h"
 #include "model/KVStationWebRadio.h"
+#include "model/StationList.h"
 #include "model/StationListText.h"
-#include "playlists/Parsers.h"
+#include "playlists/ListFormats.h"
 
 #include <nlohmann/json.hpp>
+
+#include <unordered_set>
 
 namespace sonavel {
 
 namespace {
 
-/// Hears of a JSON text piece by piece, in its order and however deep it is nested. Each piece answers whether to go
-/// on.
+/// Handles the events of a JSON text, however deep it is nested. Each handler returns whether to continue.
 class MemberReader : public nlohmann::json_sax<nlohmann::json> {
 public:
     ParsedList list{"member", {}, {}};
@@ -49,11 +51,11 @@ public:
     }
 
 private:
-    /// Goes on, unless the value is the whole text.
+    /// Continues, unless the value is the whole text.
     bool otherValue()
     {
         if (depth_ == 1)
-            find("left out, as no name stands for " + inQuotes(address_));
+            diagnose("left out, as no name stands for " + inQuotes(address_));
         return depth_ > 0;
     }
 
@@ -76,19 +78,19 @@ private:
         const Text link = withoutSeparators(address);
         Text name = withoutSeparators(given);
         if (!link.isSameObject(address))
-            find("separators are taken out of the address " + inQuotes(address.view()));
+            diagnose("separators are taken out of the address " + inQuotes(address.view()));
         if (!name.isSameObject(given))
-            find("separators are taken out of the name " + inQuotes(given.view()));
+            diagnose("separators are taken out of the name " + inQuotes(given.view()));
         if (!isStationName(name.view())) {
             name = nameFromAddress(link);
-            find((name.isAbsent() ? "left out, as no list keeps the name " : "renamed, as no list keeps the name ")
+            diagnose((name.isAbsent() ? "left out, as no list keeps the name " : "renamed, as no list keeps the name ")
                 + inQuotes(given.view()));
         }
         if (!name.isAbsent())
             list.stations.push_back(std::make_shared<KVStationWebRadio>(members_ - 1, name, link));
     }
 
-    void find(std::string what)
+    void diagnose(std::string what)
     {
         list.diagnostics.push_back({members_ - 1, std::move(what), Diagnostic::Severity::Loss});
     }
@@ -98,13 +100,11 @@ private:
     std::string address_;
 };
 
-} // namespace
-
-tl::expected<ParsedList, std::string> parseJson(std::string_view bytes)
+tl::expected<ParsedList, std::string> parse(std::string bytes)
 {
     MemberReader reader;
     if (!nlohmann::json::sax_parse(bytes, &reader))
-        return tl::unexpected(std::string("it is not a JSON object"));
+        return tl::unexpected<std::string>("it is not a JSON object");
     return std::move(reader.list);
 }
 
@@ -115,5 +115,28 @@ bool looksLikeJson(std::string_view bytes)
     const std::string_view members = withoutOuterBlanks(bytes.substr(1));
     return members.starts_with('"') || members.starts_with('}');
 }
+
+tl::expected<SerializedList, std::string> serialize(const StationRecords& stations)
+{
+    StationList list;
+    list.setListRadio(stations);
+    const Text json = list.convertRadioListToJSON();
+    if (json.isAbsent())
+        return tl::unexpected<std::string>("a name or address is not valid UTF-8");
+    std::unordered_set<std::string_view> addresses;
+    for (const auto& station : stations)
+        addresses.insert(station->link().view());
+    return SerializedList{json.string() + "\n", stations.size() - addresses.size()};
+}
+
+} // namespace
+
+/// A JSON object in UTF-8: each member's name is an address, its value the station's name. It is written with a line
+/// feed at the end, and with one name for each address, that of the last station.
+///
+/// The stations come in the order of the members, repeated addresses too. Members whose value is no text are left out.
+/// ";" and carriage returns are removed from names and addresses, and a name that a list does not keep is replaced by
+/// one from its address, or its station left out; these are diagnosed.
+constinit const ListFormat jsonFormat{{"json"}, looksLikeJson, parse, serialize};
 
 } // namespace sonavel

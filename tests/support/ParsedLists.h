@@ -1,8 +1,10 @@
-// A list that was read, as lines to compare.
+// Parsed lists as texts to compare.
 #pragma once
 
 #include "model/KVStationWebRadio.h"
-#include "playlists/ParsedList.h"
+#include "playlists/ListFormats.h"
+
+#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
@@ -10,13 +12,6 @@
 namespace sonavel::test {
 
 using Lines = std::vector<std::string>;
-
-/// What a file holds, and what is to be found in it.
-struct ReadListCase {
-    std::string bytes;
-    Lines stations;
-    std::string diagnostics = {};
-};
 
 /// "name=address" for each station.
 inline Lines stationsOf(const ParsedList& list)
@@ -37,6 +32,26 @@ inline std::string placesOf(const std::vector<Diagnostic>& diagnostics)
         places += diagnostic.severity == Diagnostic::Severity::Loss ? "!" : "";
     }
     return places;
+}
+
+/// The bytes of a list, and what is expected of it.
+struct ParserCase {
+    std::string bytes;
+    Lines stations;
+    std::string diagnostics = {};
+};
+
+inline void expectParses(const ListFormat& format, const std::vector<ParserCase>& cases)
+{
+    for (const ParserCase& row : cases) {
+        SCOPED_TRACE(row.bytes);
+        const auto list = format.parse(row.bytes);
+        ASSERT_TRUE(list);
+        EXPECT_EQ(stationsOf(*list), row.stations);
+        EXPECT_EQ(placesOf(list->diagnostics), row.diagnostics);
+        for (const Diagnostic& diagnostic : list->diagnostics)
+            EXPECT_TRUE(isValidUtf8(diagnostic.what)) << diagnostic.what;
+    }
 }
 
 } // namespace sonavel::test

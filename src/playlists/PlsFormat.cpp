@@ -1,6 +1,6 @@
 #include "base/Ascii.h"
 #include "base/TextDecoding.h"
-#include "playlists/Parsers.h"
+#include "playlists/ListFormats.h"
 #include "playlists/TextLines.h"
 
 #include <charconv>
@@ -81,14 +81,10 @@ private:
 
 } // namespace
 
-ParsedList parsePls(std::string_view bytes)
-{
-    return PlsReader().read(bytes);
-}
-
-bool looksLikePls(std::string_view bytes)
-{
-    return beginsWithIgnoringCase(bytes, "[playlist]");
-}
+/// A PLS playlist: lines "FileN=address" and "TitleN=name" in any order, keys in upper or lower case. The stations come
+/// in the order of their numbers; of several files of one number the first counts.
+constinit const ListFormat plsFormat{{"pls"},
+    [](std::string_view bytes) { return beginsWithIgnoringCase(bytes, "[playlist]"); },
+    [](std::string bytes) -> tl::expected<ParsedList, std::string> { return PlsReader().read(bytes); }};
 
 } // namespace sonavel

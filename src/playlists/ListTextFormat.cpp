@@ -1,7 +1,9 @@
+#include "playlists/ListTextFormat.h"
+
 #include "base/TextDecoding.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
-#include "playlists/Parsers.h"
+#include "playlists/ListFormats.h"
 
 #include <algorithm>
 
@@ -31,7 +33,7 @@ Diagnostic diagnosticOnSkipped(const StationListLine& line)
 }
 
 /// Makes every line end a carriage return, where that is possible without guessing.
-void mendLineEnds(std::string& text, std::vector<Diagnostic>& diagnostics)
+void normalizeLineEnds(std::string& text, std::vector<Diagnostic>& diagnostics)
 {
     const auto returns = std::count(text.begin(), text.end(), '\r');
     const auto feeds = std::count(text.begin(), text.end(), '\n');
@@ -42,14 +44,14 @@ void mendLineEnds(std::string& text, std::vector<Diagnostic>& diagnostics)
         diagnostics.push_back({{}, "its lines end with line feeds: to the player it is one single line", note});
         return;
     }
-    std::string mended;
-    mended.reserve(text.size());
+    std::string normalized;
+    normalized.reserve(text.size());
     for (const char character : text)
-        if (character != '\n' || !mended.ends_with('\r'))
-            mended += character;
-    if (text.size() - mended.size() != static_cast<std::size_t>(feeds))
+        if (character != '\n' || !normalized.ends_with('\r'))
+            normalized += character;
+    if (text.size() - normalized.size() != static_cast<std::size_t>(feeds))
         return; // a line feed in the midst of a line, as the names and addresses of stations may hold
-    text = std::move(mended);
+    text = std::move(normalized);
     diagnostics.push_back({{},
         "its lines end with carriage return and line feed: to the player each name begins with a line feed", note});
 }
@@ -66,6 +68,31 @@ std::string decodedLines(std::string_view text, std::vector<Diagnostic>& diagnos
             diagnostics.push_back({line->number, "not UTF-8, read as Windows-1252: " + inQuotes(line->text), loss});
     }
     return decoded;
+}
+
+/// Reads more than the player does, so that a list can be repaired by writing it again. Each of these is diagnosed: a
+/// byte order mark; in a text without any carriage return the lines end at line feeds; where all line feeds follow
+/// carriage returns, they belong to the line ends; lines that are not UTF-8 are read as Windows-1252.
+tl::expected<ParsedList, std::string> parseFile(std::string bytes)
+{
+    std::vector<Diagnostic> diagnostics;
+    if (const auto text = withoutByteOrderMark(bytes); text.size() < bytes.size()) {
+        bytes.erase(0, bytes.size() - text.size());
+        diagnostics.push_back({{}, "it begins with a byte order mark", note});
+    }
+    normalizeLineEnds(bytes, diagnostics);
+    if (!isValidUtf8(bytes)) {
+        diagnostics.push_back({{}, "it is not valid UTF-8: the player does not read it at all", note});
+        bytes = decodedLines(bytes, diagnostics);
+    }
+    ParsedList list = parseListText(std::move(bytes));
+    list.diagnostics.insert(list.diagnostics.begin(), diagnostics.begin(), diagnostics.end());
+    return list;
+}
+
+tl::expected<SerializedList, std::string> serialize(const StationRecords& stations)
+{
+    return SerializedList{listTextFromRecords(stations, Heading::FieldNames)};
 }
 
 } // namespace
@@ -90,21 +117,8 @@ ParsedList parseListText(const Text& text)
     return list;
 }
 
-ParsedList parseListTextFile(std::string bytes)
-{
-    std::vector<Diagnostic> diagnostics;
-    if (const auto text = withoutByteOrderMark(bytes); text.size() < bytes.size()) {
-        bytes.erase(0, bytes.size() - text.size());
-        diagnostics.push_back({{}, "it begins with a byte order mark", note});
-    }
-    mendLineEnds(bytes, diagnostics);
-    if (!isValidUtf8(bytes)) {
-        diagnostics.push_back({{}, "it is not valid UTF-8: the player does not read it at all", note});
-        bytes = decodedLines(bytes, diagnostics);
-    }
-    ParsedList list = parseListText(std::move(bytes));
-    list.diagnostics.insert(list.diagnostics.begin(), diagnostics.begin(), diagnostics.end());
-    return list;
-}
+/// The default: what any text is read as.
+constinit const ListFormat listTextFormat{
+    {listTextExtension}, [](std::string_view /*bytes*/) { return false; }, parseFile, serialize};
 
 } // namespace sonavel

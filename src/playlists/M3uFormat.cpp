@@ -1,6 +1,6 @@
 #include "base/Ascii.h"
 #include "base/TextDecoding.h"
-#include "playlists/Parsers.h"
+#include "playlists/ListFormats.h"
 #include "playlists/TextLines.h"
 
 namespace sonavel {
@@ -22,9 +22,7 @@ std::string_view titleAfterAttributes(std::string_view text)
     return comma == std::string_view::npos ? std::string_view() : text.substr(comma + 1);
 }
 
-} // namespace
-
-ParsedList parseM3u(std::string_view bytes)
+tl::expected<ParsedList, std::string> parse(std::string bytes)
 {
     constexpr std::string_view information = "#EXTINF:";
     ParsedList list;
@@ -43,7 +41,7 @@ ParsedList parseM3u(std::string_view bytes)
     return list;
 }
 
-/// A list of bare addresses, too. In a station line the first ";" stands before the address.
+/// So does a list of bare addresses. In a line of list text the first ";" comes before the address.
 bool looksLikeM3u(std::string_view bytes)
 {
     TextLines lines(bytes);
@@ -56,5 +54,17 @@ bool looksLikeM3u(std::string_view bytes)
     }
     return false;
 }
+
+} // namespace
+
+/// An M3U playlist: an address in each line, and "#EXTINF:…,Title" in a line before it for its name. Attributes behind
+/// "#EXTINF:" are skipped, commas in their quotes included; other lines that begin with "#" are ignored.
+///
+/// This and PLS have in common: Lines end with CR, LF or both. A line that is not UTF-8 is read as Windows-1252. What
+/// the player could not play, such as a path or a "file:" address, is left out. Blanks around a name are removed, and
+/// control characters within become blanks. A station without a name, or with one that a list does not keep, is named
+/// after the host of its address. ";" is removed from names and addresses, as a list text cannot hold it. What was left
+/// out, and each changed address, is diagnosed.
+constinit const ListFormat m3uFormat{{"m3u", "m3u8"}, looksLikeM3u, parse};
 
 } // namespace sonavel
