@@ -26,8 +26,8 @@ void checkError(const ParseError& error)
 /// Whatever is accepted reaches the player as it was stated.
 void checkWay(const PublishedVersion& published)
 {
-    const auto record = serverVersionRecord(versionAnswer(published, "http://127.0.0.1/"));
-    require(record.has_value(), "what is published is a usable answer");
+    const auto record = serverVersionRecord(versionResponse(published, "http://127.0.0.1/"));
+    require(record.has_value(), "what is published is a usable response");
     require(record->Build == Text(published.build), "the build arrives");
     require(versionText(*record).view().starts_with(published.version), "the version arrives");
     require(record->updateApp == Text(published.released), "the date of the version arrives");

@@ -1,4 +1,4 @@
-// Blanks, letters and controls of ASCII, whatever else a text holds.
+// Character classes and case of ASCII, in texts of any encoding that contains it.
 #pragma once
 
 #include <string_view>
@@ -17,16 +17,16 @@ namespace sonavel {
     return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
 }
 
-/// The small letter of one from A to Z; any other byte as it is.
+/// Lower case for A to Z; any other byte unchanged.
 [[nodiscard]] inline char asciiLowerCase(char character)
 {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
-/// Without blanks, tabs and line ends around.
+/// Without leading and trailing blanks, tabs and line ends.
 [[nodiscard]] std::string_view withoutOuterBlanks(std::string_view text);
 
-/// Whether the text is or begins so, letters from A to Z in upper or lower case.
+// These ignore the case of A to Z.
 [[nodiscard]] bool equalsIgnoringCase(std::string_view text, std::string_view other);
 [[nodiscard]] bool beginsWithIgnoringCase(std::string_view text, std::string_view beginning);
 

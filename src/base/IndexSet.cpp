@@ -15,7 +15,7 @@ void IndexSet::insert(IndexRange range)
 {
     if (range.first >= range.end)
         return;
-    // All ranges that overlap or touch the new one become one with it.
+    // Merges all ranges that overlap or are adjacent to the new one.
     const auto from = std::lower_bound(ranges_.begin(), ranges_.end(), range.first,
         [](const IndexRange& present, std::size_t first) { return present.end < first; });
     auto to = from;

@@ -16,7 +16,7 @@ struct IndexRange {
     friend bool operator==(const IndexRange&, const IndexRange&) = default;
 };
 
-/// Row numbers in rising order. As many rows as one likes that follow each other cost as much as one.
+/// Row numbers in ascending order. A contiguous range costs as much as a single row.
 class IndexSet {
 public:
     IndexSet() = default;
@@ -31,7 +31,7 @@ public:
     /// The highest index; the set must not be empty.
     [[nodiscard]] std::size_t last() const { return ranges_.back().end - 1; }
 
-    /// Rising, apart from each other, none of them empty.
+    /// Ascending, not adjacent, none empty.
     [[nodiscard]] const std::vector<IndexRange>& ranges() const& { return ranges_; }
     void ranges() && = delete;
 

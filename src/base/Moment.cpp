@@ -11,7 +11,7 @@ namespace sonavel {
 
 namespace {
 
-/// The number that `digits` decimal digits at the head of `rest` write; takes them off. Nothing when one is missing.
+/// Consumes a number of `digits` decimal digits at the beginning of `rest`. Nothing when one is missing.
 std::optional<int> takeDigits(std::string_view& rest, std::size_t digits)
 {
     if (rest.size() < digits)
@@ -34,7 +34,7 @@ bool takeCharacter(std::string_view& rest, char expected)
     return true;
 }
 
-/// Reads `count` numbers joined by `separator`, the first of `firstDigits` digits, the others of two.
+/// Parses `count` numbers joined by `separator`, the first of `firstDigits` digits, the others of two.
 template <std::size_t count>
 std::optional<std::array<int, count>> takeNumbers(std::string_view& rest, std::size_t firstDigits, char separator)
 {
@@ -50,7 +50,7 @@ std::optional<std::array<int, count>> takeNumbers(std::string_view& rest, std::s
     return numbers;
 }
 
-/// Reads "+hhmm" or "-hhmm" to the end of the text; the offset in seconds.
+/// Parses "+hhmm" or "-hhmm" up to the end of the text; the offset in seconds.
 std::optional<int> takeOffset(std::string_view& rest)
 {
     const int sign = rest.starts_with('-') ? -1 : 1;

@@ -21,10 +21,10 @@ struct Moment {
     friend auto operator<=>(const Moment&, const Moment&) = default;
 };
 
-/// The international form in UTC, "2016-10-01 00:00:00 +0000"; fractions of a second are cut off.
+/// The international form in UTC, "2016-10-01 00:00:00 +0000"; fractions of a second are truncated.
 [[nodiscard]] Text internationalForm(Moment moment);
 
-/// Reads the international form with any offset from UTC. Another form, an impossible day, time or offset, or a year
+/// Parses the international form with any offset from UTC. Another form, an impossible day, time or offset, or a year
 /// outside 0001 to 9999 gives nothing.
 [[nodiscard]] std::optional<Moment> momentFromInternationalForm(const Text& text);
 

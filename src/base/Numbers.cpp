@@ -32,7 +32,7 @@ SignedText afterSign(const Text& text)
     return {isNegative, rest};
 }
 
-/// The magnitude that `rest` begins with, 0 for words such as "inf" that the library would read, too.
+/// The magnitude at the beginning of `rest`; 0 for words such as "inf", which the library would accept.
 template <class Number> Number magnitude(std::string_view rest)
 {
     if (rest.empty() || (rest.front() != '.' && !isDigit(rest.front())))
@@ -64,8 +64,8 @@ std::int64_t integerValue(const Text& text)
     const auto [isNegative, rest] = afterSign(text);
     std::uint64_t number = 0;
     const auto result = std::from_chars(rest.data(), rest.data() + rest.size(), number);
-    const std::uint64_t largest = static_cast<std::uint64_t>(Limits::max()) + (isNegative ? 1 : 0);
-    if (result.ec == std::errc::result_out_of_range || number > largest)
+    const std::uint64_t maxMagnitude = static_cast<std::uint64_t>(Limits::max()) + (isNegative ? 1 : 0);
+    if (result.ec == std::errc::result_out_of_range || number > maxMagnitude)
         return isNegative ? Limits::min() : Limits::max();
     return static_cast<std::int64_t>(isNegative ? 0 - number : number);
 }

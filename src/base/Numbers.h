@@ -1,4 +1,4 @@
-// Numbers and flags in texts, read and written without regard to the locale.
+// Numbers and flags as text, independent of the locale.
 #pragma once
 
 #include "base/Text.h"
@@ -13,18 +13,17 @@ namespace sonavel {
     return character >= '0' && character <= '9';
 }
 
-/// The number at the head of a text, after white space and an optional sign; what follows it is ignored. 0 for a text
-/// without one, an absent text included.
+/// The number at the beginning of a text, after white space and with an optional sign; what follows is ignored. 0 for a
+/// text without a number, and for an absent text.
 ///
-/// An integer beyond 64 bits becomes the nearest that fits.
+/// An integer beyond 64 bits is clamped.
 [[nodiscard]] std::int64_t integerValue(const Text& text);
 
-/// A decimal number with an optional fraction and exponent, always finite: one that the type cannot hold counts as
-/// none.
+/// A decimal number with an optional fraction and exponent, always finite: a number out of range counts as none.
 [[nodiscard]] double doubleValue(const Text& text);
 [[nodiscard]] float floatValue(const Text& text);
 
-/// Whether a text says yes: after white space, an optional sign and any zeros it begins with "Y", "y", "T", "t" or a
+/// Whether a text means yes: after white space, an optional sign and any zeros it begins with "Y", "y", "T", "t" or a
 /// digit from 1 to 9.
 [[nodiscard]] bool boolValue(const Text& text);
 

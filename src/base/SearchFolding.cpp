@@ -8,7 +8,7 @@ namespace {
 
 constexpr char32_t replacementCharacter = 0xFFFD;
 
-/// Takes one character outside ASCII off the front; bytes that are no UTF-8 are replacement characters.
+/// Removes one character outside ASCII from the front; invalid UTF-8 becomes replacement characters.
 char32_t takeCharacter(std::string_view& bytes)
 {
     const auto first = static_cast<unsigned char>(bytes.front());

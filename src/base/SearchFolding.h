@@ -1,4 +1,4 @@
-// Texts made alike for a search that ignores case and accents.
+// Case and accent folding for a search.
 #pragma once
 
 #include <array>
@@ -9,17 +9,17 @@
 
 namespace sonavel {
 
-/// Folds quickly, for a search through many texts: what becomes of a character is looked up once.
+/// Caches the folding of each character, to search through many texts quickly.
 class SearchFolding {
 public:
-    /// `fold` gives what a character outside ASCII becomes, in UTF-8.
+    /// `fold` returns the folding of a character outside ASCII, in UTF-8.
     explicit SearchFolding(std::string (*fold)(char32_t character))
         : fold_(fold)
     {
     }
 
-    /// The text in small letters without accents, in UTF-8; "Ö", "ö" and "o" are alike, and so are "ß" and "ss". Valid
-    /// until the next call.
+    /// The text in lower case without accents, in UTF-8: "Ö", "ö" and "o" fold to the same, and so do "ß" and "ss".
+    /// Valid until the next call.
     [[nodiscard]] std::string_view folded(std::string_view utf8);
 
 private:

@@ -9,7 +9,7 @@ namespace sonavel {
 
 namespace {
 
-/// What Windows-1252 has from 0x80 to 0x9F; 0 where it has nothing.
+/// The characters of Windows-1252 from 0x80 to 0x9F; 0 where undefined.
 constexpr std::array<char16_t, 32> windowsCharacters{0x20AC, 0, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6,
     0x2030, 0x0160, 0x2039, 0x0152, 0, 0x017D, 0, 0, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC,
     0x2122, 0x0161, 0x203A, 0x0153, 0, 0x017E, 0x0178};
@@ -53,7 +53,7 @@ char32_t codePoint(std::string_view character)
     return value;
 }
 
-/// The controls, and the characters that end a line or override the direction of what follows.
+/// Control characters, line separators and bidirectional controls.
 bool isControl(char32_t character)
 {
     const auto isWithin = [character](

@@ -52,7 +52,7 @@ VersionRecord AppUpdater::returnVersionUpdate()
 {
     const auto body = ports_.httpClient.sendSynchronousRequest(requestTo(ports_.dataServer));
     const auto record = body ? serverVersionRecord(*body) : std::nullopt;
-    hasUsableAnswer_ = record.has_value();
+    hasUsableResponse_ = record.has_value();
     VersionRecord found = record.value_or(VersionRecord());
     updateApp = momentFromInternationalForm(found.updateApp);
     updateData = momentFromInternationalForm(found.updateData);
@@ -61,7 +61,7 @@ VersionRecord AppUpdater::returnVersionUpdate()
 
 bool AppUpdater::checkUpdate()
 {
-    if (!hasUsableAnswer_)
+    if (!hasUsableResponse_)
         return false;
     versions_.isUpdateAvailable =
         versions_.isUpdateAvailable || isAnyNumberHigher(versions_.server, versions_.application);

@@ -62,15 +62,15 @@ public:
     std::int64_t bytesReceived = 0;
 
     [[nodiscard]] VersionRecord returnVersionApp() const;
-    /// Asks the server and sets both dates; without a usable answer they are absent, and the record is that of no
+    /// Asks the server and sets both dates; without a usable response they are absent, and the record is that of no
     /// version.
     [[nodiscard]] VersionRecord returnVersionUpdate();
 
     /// Whether there is a newer version, or was at an earlier check of this run; then the window is filled and shown.
-    /// NO without a usable answer. Asks nobody.
+    /// NO without a usable response. Sends no request.
     bool checkUpdate();
-    /// Whether the server gave an answer that could be read.
-    [[nodiscard]] bool hasUsableAnswer() const { return hasUsableAnswer_; }
+    /// Whether the server's response could be parsed.
+    [[nodiscard]] bool hasUsableResponse() const { return hasUsableResponse_; }
 
     [[nodiscard]] Text retrunVersionApp() const { return versionText(versions_.application); }
     [[nodiscard]] Text retrunVersionUpdate() const { return versionText(versions_.server); }
@@ -87,7 +87,7 @@ private:
 
     UpdaterPorts ports_;
     Versions& versions_;
-    bool hasUsableAnswer_ = false;
+    bool hasUsableResponse_ = false;
     std::shared_ptr<void> interface_; // goes before the controls that it connects
 };
 

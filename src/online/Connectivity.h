@@ -6,8 +6,8 @@ namespace sonavel {
 class HttpClient;
 class Text;
 
-/// Asks a web site, by its complete address, and answers whether it answered, whatever it said. Takes at most 5.0
-/// seconds; nothing is read from a cache. Main thread.
+/// Whether a web site, given by its complete address, responds, whatever the content. Takes at most 5.0 seconds; no
+/// cache is used. Main thread.
 [[nodiscard]] bool hasInternetWithSite(HttpClient& httpClient, const Text& site);
 
 } // namespace sonavel

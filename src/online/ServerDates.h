@@ -7,7 +7,7 @@
 
 namespace sonavel {
 
-/// In memory only; absent until the first check of the run, and when its answer had no such date.
+/// In memory only; absent until the first check of the run, and when its response had no such date.
 struct ServerDates {
     /// When the newest version of the program came out.
     std::optional<Moment> DATE_UPDATED_APP;

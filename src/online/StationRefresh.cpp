@@ -56,7 +56,7 @@ void StationRefresh::chekNewRadioOnLine()
     listWriter_.perform(ListChange::replaced(*stationList_.listRadio(), merged), ListOperation::Refreshed);
 }
 
-/// Absent when there was no answer, or not one that can be decrypted.
+/// Absent when there was no response, or not one that can be decrypted.
 Text StationRefresh::downloadedListText() const
 {
     HttpRequest request;

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] bool isDue() const;
 
     /// Notes the moment of the attempt in the preferences, downloads the server's list and merges it into the present
-    /// one, which is sorted and written when that changed it. Without a usable answer nothing else changes.
+    /// one, which is sorted and written when that changed it. Without a usable response nothing else changes.
     ///
     /// Does nothing at all while the list is absent: written, what was downloaded would take the place of stations
     /// that have only not been read yet.

@@ -48,7 +48,7 @@ void UpdateCheck::checkUpdate()
 void UpdateCheck::showNotification()
 {
     const Text notice = ports_.localizedStrings.localizedStringForKey(
-        updaterApp->hasUsableAnswer() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER");
+        updaterApp->hasUsableResponse() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER");
     notice_.labelUpdateNotification.setStringValue(filledIn(notice, updaterApp->retrunVersionApp()));
     notice_.winUpdateNotification.makeKeyAndOrderFront();
 }

@@ -33,7 +33,7 @@ public:
     /// station list when the server's is newer. Blocks while it asks.
     void checkUpdate();
 
-    /// Hears of every new checker, to wire its controls.
+    /// Called with every new checker, to wire its controls.
     void setObserver(std::function<void(const std::shared_ptr<AppUpdater>&)> observer)
     {
         observer_ = std::move(observer);

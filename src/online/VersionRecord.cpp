@@ -38,15 +38,15 @@ void setVersion(VersionRecord& record, const Text& version)
 }
 
 /// The second fields of the lines that have one, at most as many as are used.
-std::vector<Text> valuesIn(const Text& answer)
+std::vector<Text> valuesIn(const Text& response)
 {
     std::vector<Text> values;
-    for (const std::string_view line : piecesOf(answer.view(), "\r")) {
+    for (const std::string_view line : piecesOf(response.view(), "\r")) {
         const std::size_t first = line.find(';');
         if (first == std::string_view::npos)
             continue;
         const std::string_view rest = line.substr(first + 1);
-        values.push_back(answer.slice(rest.substr(0, rest.find(';'))));
+        values.push_back(response.slice(rest.substr(0, rest.find(';'))));
         if (values.size() == valueCount)
             break;
     }
@@ -65,11 +65,11 @@ VersionRecord applicationVersionRecord(const Bundle& bundle)
     return record;
 }
 
-std::optional<VersionRecord> serverVersionRecord(std::string_view answer)
+std::optional<VersionRecord> serverVersionRecord(std::string_view response)
 {
-    if (!isAscii(answer))
+    if (!isAscii(response))
         return std::nullopt;
-    const auto values = valuesIn(answer);
+    const auto values = valuesIn(response);
     if (values.size() < valueCount)
         return std::nullopt;
     VersionRecord record;

@@ -33,9 +33,9 @@ struct VersionRecord {
 /// The version that runs. A missing display name counts as "Sonavel".
 [[nodiscard]] VersionRecord applicationVersionRecord(const Bundle& bundle);
 
-/// Reads the server's answer: of every line, up to a carriage return, that has a second field, that field. Nothing when
-/// there are fewer than eight, or the answer is not ASCII.
-[[nodiscard]] std::optional<VersionRecord> serverVersionRecord(std::string_view answer);
+/// Reads the server's response: of every line, up to a carriage return, that has a second field, that field. Nothing
+/// when there are fewer than eight, or the response is not ASCII.
+[[nodiscard]] std::optional<VersionRecord> serverVersionRecord(std::string_view response);
 
 /// Whether any of the server's numbers, each compared for itself, is higher than the program's.
 [[nodiscard]] bool isAnyNumberHigher(const VersionRecord& server, const VersionRecord& application);

@@ -8,7 +8,7 @@ void ConnectionThreads::add(std::function<void()> task)
 {
     const std::lock_guard lock(mutex_);
     tasks_.push_back(std::move(task));
-    if (tasks_.size() > idle_ && threads_.size() < most_)
+    if (tasks_.size() > idle_ && threads_.size() < maxThreads_)
         threads_.emplace_back([this] { work(); });
     changed_.notify_one();
 }

@@ -1,4 +1,4 @@
-// Threads for connections, made when they are needed.
+// A thread pool for connections, which grows on demand.
 #pragma once
 
 #include "base/NonCopyable.h"
@@ -13,12 +13,12 @@
 
 namespace sonavel {
 
-/// Runs each task on a thread of its own as long as there are fewer than `most` threads; further ones wait for a thread
-/// that has become free. A listener of a stream keeps his thread for hours.
+/// Runs each task on a thread of its own as long as there are fewer than `maxThreads`; further tasks wait for an idle
+/// thread. A listener of a stream occupies a thread for hours.
 class ConnectionThreads : private NonCopyable {
 public:
-    explicit ConnectionThreads(std::size_t most)
-        : most_(most)
+    explicit ConnectionThreads(std::size_t maxThreads)
+        : maxThreads_(maxThreads)
     {
     }
     ~ConnectionThreads() { finish(); }
@@ -30,7 +30,7 @@ public:
 private:
     void work();
 
-    const std::size_t most_;
+    const std::size_t maxThreads_;
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<std::function<void()>> tasks_;

@@ -2,7 +2,7 @@
 
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
-#include "server/BuiltInVersion.h"
+#include "server/DefaultVersion.h"
 #include "server/HttpServer.h"
 #include "server/IcyStream.h"
 #include "server/PublishedFiles.h"
@@ -22,7 +22,7 @@ namespace {
 constexpr const char* listName = "20161001000000_lr.rdb";
 constexpr const char* versionName = "sonavel.ini";
 constexpr std::size_t maxPieceSize = 4096;
-/// Listeners stay for hours; the other half of the connections is for answers.
+/// Listeners stay for hours; the other half of the connections is for short requests.
 constexpr int maxListeners = HttpServer::maxConnections / 2;
 
 constexpr const char* page = "<!DOCTYPE html>\n<html lang=\"en\">\n<title>Sonavel data server</title>\n"
@@ -50,7 +50,7 @@ StationRecords demoRecords(const std::string& baseAddress)
     return records;
 }
 
-/// What a URL calls the host at that address. What listens at every address is found on its own machine by loopback.
+/// The host in a URL for that address; for a wildcard address, the loopback address.
 std::string hostOf(const std::string& address)
 {
     if (address == "0.0.0.0")
@@ -60,7 +60,7 @@ std::string hostOf(const std::string& address)
     return address.find(':') == std::string::npos ? address : '[' + address + ']';
 }
 
-/// Whether the name, as a client sent it, can stand in an address and in a list without ending either.
+/// Whether a host sent by a client is safe to insert into an address in a list.
 bool isHostAndPort(std::string_view name)
 {
     constexpr std::size_t maxNameLength = 255;
@@ -80,7 +80,7 @@ struct DataServer::Implementation {
     void configure();
     void publish(const DataServerSettings& settings);
     [[nodiscard]] std::string baseAddressFor(const httplib::Request& request) const;
-    void answer(const httplib::Request& request, httplib::Response& response) const;
+    void respond(const httplib::Request& request, httplib::Response& response) const;
     void stream(const DemoStation& station, const httplib::Request& request, httplib::Response& response);
 
     const double burstSeconds;
@@ -88,7 +88,7 @@ struct DataServer::Implementation {
     std::unique_ptr<VersionFile> versionFile;
     std::string baseAddress;
     std::atomic<int> listeners = 0;
-    HttpServer server; // last, so that it has ended before what its threads use goes
+    HttpServer server; // last: its threads use the other members
 };
 
 void DataServer::Implementation::configure()
@@ -97,15 +97,15 @@ void DataServer::Implementation::configure()
         response.set_content(page, "text/html; charset=utf-8");
     });
     server.Get(R"(/app_data_files/testget\.php)",
-        [this](const httplib::Request& request, httplib::Response& response) { answer(request, response); });
+        [this](const httplib::Request& request, httplib::Response& response) { respond(request, response); });
     server.Post(R"(/app_data_files/testpost\.php)",
-        [this](const httplib::Request& request, httplib::Response& response) { answer(request, response); });
+        [this](const httplib::Request& request, httplib::Response& response) { respond(request, response); });
 }
 
 void DataServer::Implementation::publish(const DataServerSettings& settings)
 {
     files.addBuiltIn(
-        versionName, [this](const std::string& address) { return versionAnswer(versionFile->current(), address); });
+        versionName, [this](const std::string& address) { return versionResponse(versionFile->current(), address); });
     if (settings.content == DataServerSettings::Content::Starter) {
         files.addBuiltIn(listName, [list = encryptedList(starterRecords())](const std::string&) { return list; });
         return;
@@ -117,14 +117,14 @@ void DataServer::Implementation::publish(const DataServerSettings& settings)
         });
 }
 
-/// The client knows best by which of this machine's names and addresses it is reached.
+/// By the host that the client named: which of this machine's names and addresses reaches it differs by client.
 std::string DataServer::Implementation::baseAddressFor(const httplib::Request& request) const
 {
     const std::string host = request.get_header_value("Host");
     return isHostAndPort(host) ? "http://" + host + '/' : baseAddress;
 }
 
-void DataServer::Implementation::answer(const httplib::Request& request, httplib::Response& response) const
+void DataServer::Implementation::respond(const httplib::Request& request, httplib::Response& response) const
 {
     if (const auto content = files.contentOf(request.get_param_value("file"), baseAddressFor(request))) {
         response.set_content(*content, "text/plain");
@@ -137,7 +137,7 @@ void DataServer::Implementation::answer(const httplib::Request& request, httplib
 void DataServer::Implementation::stream(
     const DemoStation& station, const httplib::Request& request, httplib::Response& response)
 {
-    const std::shared_ptr<void> seat(nullptr, [this](void*) { --listeners; });
+    const std::shared_ptr<void> slot(nullptr, [this](void*) { --listeners; });
     if (++listeners > maxListeners) {
         response.status = 503;
         response.set_content("There is no room for another listener.\n", "text/plain");
@@ -152,11 +152,11 @@ void DataServer::Implementation::stream(
 
     const auto titles = wantsTitles ? IcyStream::Titles::Interleaved : IcyStream::Titles::None;
     const auto music = std::make_shared<IcyStream>(station, titles);
-    const auto beginning = std::chrono::steady_clock::now();
-    response.set_content_provider("audio/mpeg", [this, seat, music, beginning](std::size_t, httplib::DataSink& sink) {
+    const auto start = std::chrono::steady_clock::now();
+    response.set_content_provider("audio/mpeg", [this, slot, music, start](std::size_t, httplib::DataSink& sink) {
         const std::chrono::duration<double> due(
             static_cast<double>(music->musicSent()) / IcyStream::bytesPerSecond - burstSeconds);
-        if (!server.waitUntil(beginning + std::chrono::duration_cast<std::chrono::steady_clock::duration>(due)))
+        if (!server.waitUntil(start + std::chrono::duration_cast<std::chrono::steady_clock::duration>(due)))
             return false;
         const std::string piece = music->next(maxPieceSize);
         return sink.write(piece.data(), piece.size());
@@ -165,7 +165,7 @@ void DataServer::Implementation::stream(
 
 tl::expected<std::unique_ptr<DataServer>, std::string> DataServer::create(const DataServerSettings& settings)
 {
-    auto versionFile = VersionFile::create(settings.folder, builtInVersion(settings), settings.report);
+    auto versionFile = VersionFile::create(settings.folder, defaultVersion(settings), settings.report);
     if (!versionFile)
         return tl::unexpected(std::move(versionFile.error()));
     auto implementation = std::make_unique<Implementation>(settings);

@@ -1,4 +1,4 @@
-// The maker's data server: publishes station lists and versions, and streams the demo stations.
+// The data server: publishes station lists and versions, and streams the demo stations.
 #pragma once
 
 #include "base/NonCopyable.h"
@@ -29,17 +29,17 @@ struct DataServerSettings {
     };
 
     Content content = Content::Starter;
-    /// What the built-in version answer describes.
+    /// What the default version is.
     Offer offer = Offer::ThisVersion;
-    /// The folder whose files are published; empty for the built-in answers alone.
+    /// The folder whose files are published; empty for the built-in responses alone.
     std::string folder;
     std::string address = "127.0.0.1";
     /// 0 takes a free one.
     int port = 0;
-    /// The short version and the build that it takes for the newest.
+    /// The short version and the build that it publishes as the newest.
     std::string version = programBundle().shortVersion.string();
     std::string build = programBundle().version.string();
-    /// Told in one sentence what goes wrong while it serves; on any thread.
+    /// Called with one sentence for each problem while it serves; on any thread.
     std::function<void(const std::string&)> report = [](const std::string&) {};
     /// How many seconds of a demo stream are sent at once; the rest follows at the speed at which it is played.
     double burstSeconds = 4.0;
@@ -47,10 +47,10 @@ struct DataServerSettings {
 
 /// Serves on threads of its own from `create` until it is destroyed, which ends running streams and requests at once.
 ///
-/// `GET /` answers with a small page. `GET /app_data_files/testget.php?file=NAME` and `POST
-/// /app_data_files/testpost.php` with the form field `file=NAME` answer with what is published under that name, status
-/// 404 without. The built-in names are "20161001000000_lr.rdb", the encrypted station list, and "sonavel.ini", the
-/// newest version: what the folder's file "version.txt" says, or else that of the program itself.
+/// `GET /` returns a small page. `GET /app_data_files/testget.php?file=NAME` and `POST /app_data_files/testpost.php`
+/// with the form field `file=NAME` return what is published under that name, or status 404. The built-in names are
+/// "20161001000000_lr.rdb", the encrypted station list, and "sonavel.ini", the newest version: what the folder's file
+/// "version.txt" says, or else that of the program itself.
 class DataServer : private NonCopyable {
 public:
     /// Fails when it cannot listen there, or cannot publish the folder's "version.txt"; the error is one sentence for
@@ -60,8 +60,8 @@ public:
 
     ~DataServer();
 
-    /// Where it is reached on this machine, such as "http://127.0.0.1:8080/". What it publishes about itself names the
-    /// host that each client asked for, and this one to those that named none.
+    /// Where it is reached on this machine, such as "http://127.0.0.1:8080/". In responses it is replaced by the host
+    /// that the client named, if any.
     [[nodiscard]] Text baseAddress() const;
 
 private:

@@ -1,7 +1,7 @@
 #include "server/Stations.h"
 
-// The music lies in the program as it is; a page of it is read when it is first sent.
-// NOLINTNEXTLINE(cppcoreguidelines-macro-usage): it makes names for the assembler.
+// The music is part of the executable; pages of it are loaded when they are first sent.
+// NOLINTNEXTLINE(cppcoreguidelines-macro-usage): it generates symbol names for the assembler.
 #define SONAVEL_MUSIC(name)                                                                                            \
     __asm__(".pushsection .rodata\n"                                                                                   \
             ".global sonavelMusic_" #name "\n"                                                                         \

@@ -16,14 +16,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto timeBetweenRequests = 2s;
-/// When clients that never end theirs have taken every connection, another still gets its answer before a player's
-/// probe gives up, which it does after 5 s.
-constexpr auto timeOfARequest = 3s;
-constexpr auto timeWithoutTaking = 30s;
+constexpr auto keepAliveTimeout = 2s;
+/// When clients with incomplete requests occupy all connections, another is still served within the 5 s of a player's
+/// probe.
+constexpr auto requestTimeout = 3s;
+constexpr auto writeTimeout = 30s;
 constexpr auto lingerTimeout = 500ms;
-constexpr std::size_t sizeOfARequest = 131'072;
-constexpr std::size_t sizeOfAFarewell = 1'048'576;
+constexpr std::size_t maxRequestSize = 131'072;
+constexpr std::size_t maxDrainedSize = 1'048'576;
 
 } // namespace
 
@@ -31,7 +31,7 @@ HttpConnection::HttpConnection(socket_t socket)
     : socket_(socket)
 {
     fcntl(socket_, F_SETFD, FD_CLOEXEC);
-    // Head and content of an answer are written apart; the content must not wait for the client's acknowledgement.
+    // Header and body are written separately; the body must not wait for the acknowledgement of the header.
     const int yes = 1;
     setsockopt(socket_, IPPROTO_TCP, TCP_NODELAY, &yes, sizeof yes);
 }
@@ -39,17 +39,17 @@ HttpConnection::HttpConnection(socket_t socket)
 HttpConnection::~HttpConnection()
 {
     shutdown(socket_, SHUT_WR);
-    if (isCutShort_)
+    if (isLimitExceeded_)
         drain();
     close(socket_);
 }
 
 bool HttpConnection::awaitRequest()
 {
-    if (begin_ == end_ && !waitFor(POLLIN, timeBetweenRequests))
+    if (begin_ == end_ && !waitFor(POLLIN, keepAliveTimeout))
         return false;
-    deadline_ = Clock::now() + timeOfARequest;
-    allowance_ = sizeOfARequest;
+    deadline_ = Clock::now() + requestTimeout;
+    bytesLeft_ = maxRequestSize;
     return true;
 }
 
@@ -65,13 +65,13 @@ bool HttpConnection::is_readable() const
 
 bool HttpConnection::is_writable() const
 {
-    return waitFor(POLLOUT, timeWithoutTaking);
+    return waitFor(POLLOUT, writeTimeout);
 }
 
 ssize_t HttpConnection::read(char* bytes, std::size_t size)
 {
     if (begin_ == end_ && !receive())
-        return isCutShort_ ? -1 : 0;
+        return isLimitExceeded_ ? -1 : 0;
     const std::size_t count = std::min(size, end_ - begin_);
     std::copy_n(received_.data() + begin_, count, bytes);
     begin_ += count;
@@ -81,31 +81,31 @@ ssize_t HttpConnection::read(char* bytes, std::size_t size)
 /// False at the end of what the client sends, or at a limit.
 bool HttpConnection::receive()
 {
-    if (allowance_ == 0 || !waitFor(POLLIN, deadline_ - Clock::now())) {
-        isCutShort_ = true;
+    if (bytesLeft_ == 0 || !waitFor(POLLIN, deadline_ - Clock::now())) {
+        isLimitExceeded_ = true;
         return false;
     }
-    const ssize_t count = recv(socket_, received_.data(), std::min(received_.size(), allowance_), 0);
+    const ssize_t count = recv(socket_, received_.data(), std::min(received_.size(), bytesLeft_), 0);
     if (count <= 0)
         return false;
     begin_ = 0;
     end_ = static_cast<std::size_t>(count);
-    allowance_ -= end_;
+    bytesLeft_ -= end_;
     return true;
 }
 
 ssize_t HttpConnection::write(const char* bytes, std::size_t size)
 {
-    if (!waitFor(POLLOUT, timeWithoutTaking))
+    if (!waitFor(POLLOUT, writeTimeout))
         return -1;
     return send(socket_, bytes, size, MSG_NOSIGNAL | MSG_DONTWAIT);
 }
 
-/// A close with bytes left unread resets the connection, and the client may lose the answer: takes some of them first.
+/// Closing with unread bytes resets the connection, and the client may lose the response: reads some of them first.
 void HttpConnection::drain()
 {
     const auto end = Clock::now() + lingerTimeout;
-    for (std::size_t taken = 0; taken < sizeOfAFarewell && waitFor(POLLIN, end - Clock::now());) {
+    for (std::size_t taken = 0; taken < maxDrainedSize && waitFor(POLLIN, end - Clock::now());) {
         const ssize_t count = recv(socket_, received_.data(), received_.size(), 0);
         if (count <= 0)
             return;
@@ -125,7 +125,7 @@ bool HttpConnection::waitFor(short events, Clock::duration time) const
     }
 }
 
-// The handlers of this server do not ask who the client is.
+// The handlers of this server do not need the client's address.
 
 void HttpConnection::get_remote_ip_and_port(std::string& ip, int& port) const
 {

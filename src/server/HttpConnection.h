@@ -1,4 +1,4 @@
-// One client of the data server, bounded in what it may send and in how long it may take.
+// One connection of the data server, with limits on size and time.
 #pragma once
 
 #include <httplib.h>
@@ -10,22 +10,22 @@
 
 namespace sonavel {
 
-/// The stream that the server's library reads requests from and writes answers to.
+/// The stream from which the server's library reads requests and to which it writes responses.
 ///
-/// A request that does not arrive whole within 3 s or is longer than 128 KiB, head and form together, cannot be read
-/// on; an answer of which the client takes nothing for 30 s cannot be written on. The library gives up then.
+/// Reading fails when a request is not complete within 3 s or exceeds 128 KiB, header and form together; writing fails
+/// when the client accepts nothing for 30 s. The library gives up then.
 class HttpConnection final : public httplib::Stream {
 public:
-    /// Takes the socket over, and keeps it from programs that are started meanwhile.
+    /// Owns the socket, and marks it close-on-exec.
     explicit HttpConnection(socket_t socket);
-    /// Closes so that an answer which refuses an unfinished request still arrives.
+    /// Closes so that a response to an incomplete request still arrives.
     ~HttpConnection() override;
 
-    /// Waits for the next request to begin, and gives it its time and size anew. False when none comes within 2 s.
+    /// Waits for the next request to begin, and resets the limits. False when none comes within 2 s.
     [[nodiscard]] bool awaitRequest();
-    /// Whether a limit was met in reading, so that where the next request begins is not known.
-    [[nodiscard]] bool isCutShort() const { return isCutShort_; }
-    /// From any thread: every wait of this connection ends, and nothing more is read or written.
+    /// Whether reading failed at a limit, so that where the next request begins is not known.
+    [[nodiscard]] bool isLimitExceeded() const { return isLimitExceeded_; }
+    /// Ends every wait of this connection; nothing more is read or written. Any thread.
     void abort() const;
 
     [[nodiscard]] bool is_readable() const override;
@@ -48,8 +48,8 @@ private:
     std::size_t begin_ = 0;
     std::size_t end_ = 0;
     Clock::time_point deadline_;
-    std::size_t allowance_ = 0;
-    bool isCutShort_ = false;
+    std::size_t bytesLeft_ = 0;
+    bool isLimitExceeded_ = false;
 };
 
 } // namespace sonavel

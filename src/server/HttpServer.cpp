@@ -18,7 +18,7 @@ constexpr std::size_t maxRequestsPerConnection = 20;
 constexpr std::size_t maxFormSize = 65'536;
 constexpr int maxBacklog = 128;
 
-/// Lets the library use threads that are made when they are needed.
+/// The library's interface to the thread pool.
 class TaskQueue final : public httplib::TaskQueue {
 public:
     void enqueue(std::function<void()> task) override { threads_.add(std::move(task)); }
@@ -28,29 +28,29 @@ private:
     ConnectionThreads threads_{HttpServer::maxConnections};
 };
 
-/// The library would let several servers share a port, and the user would not learn that it is taken.
-void takePortAlone(socket_t socket)
+/// By default the library lets several servers share a port, and a port in use would not be reported.
+void disablePortSharing(socket_t socket)
 {
     const int yes = 1;
     setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
 }
 
-/// Threads that are made in its lifetime leave all signals to the others.
-class SignalsHeldBack : private NonCopyable {
+/// Blocks all signals for this thread, and so for threads created during its lifetime.
+class AllSignalsBlocked : private NonCopyable {
 public:
-    SignalsHeldBack()
+    AllSignalsBlocked()
     {
         sigset_t all{};
         sigfillset(&all);
         pthread_sigmask(SIG_BLOCK, &all, &before_);
     }
-    ~SignalsHeldBack() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    ~AllSignalsBlocked() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
 
 private:
     sigset_t before_{};
 };
 
-/// Empty for errors that tell a user nothing.
+/// Empty for errors that are of no use to a user.
 std::string reasonFrom(int error)
 {
     switch (error) {
@@ -71,14 +71,14 @@ tl::expected<int, std::string> HttpServer::listenAt(const std::string& address, 
 {
     set_payload_max_length(maxFormSize);
     set_keep_alive_max_count(maxRequestsPerConnection);
-    set_socket_options(takePortAlone);
+    set_socket_options(disablePortSharing);
     errno = 0;
     const bool anyPort = port == 0;
     const int bound = anyPort ? bind_to_any_port(address) : bind_to_port(address, port) ? port : -1;
     if (bound <= 0)
         return tl::unexpected("The server cannot listen at " + address
             + (anyPort ? "" : ", port " + std::to_string(port)) + reasonFrom(errno) + '.');
-    ::listen(svr_sock_, maxBacklog); // The library's own bound lets a fifth client wait for a second.
+    ::listen(svr_sock_, maxBacklog); // With the library's own backlog a fifth client would wait for a second.
     return bound;
 }
 
@@ -90,9 +90,9 @@ void HttpServer::start()
         isServing.set_value();
         return queue;
     };
-    const SignalsHeldBack heldBack;
+    const AllSignalsBlocked blocked;
     listening_ = std::thread([this] { listen_after_bind(); });
-    isServing.get_future().wait(); // before this, the library would not hear that it is to stop
+    isServing.get_future().wait(); // before this, the library would ignore a request to stop
 }
 
 bool HttpServer::waitUntil(std::chrono::steady_clock::time_point moment)
@@ -121,22 +121,22 @@ bool HttpServer::process_and_close_socket(socket_t socket)
     HttpConnection connection(socket);
     if (!add(connection))
         return false;
-    converse(connection);
+    serve(connection);
     remove(connection);
     return true;
 }
 
-void HttpServer::converse(HttpConnection& connection)
+void HttpServer::serve(HttpConnection& connection)
 {
-    const auto wantTheWhole = [](httplib::Request& request) { request.ranges.clear(); };
+    const auto ignoreRanges = [](httplib::Request& request) { request.ranges.clear(); };
     for (std::size_t left = maxRequestsPerConnection; left > 0 && connection.awaitRequest(); --left) {
         bool isClosed = false;
-        if (!process_request(connection, left == 1, isClosed, wantTheWhole) || isClosed || connection.isCutShort())
+        if (!process_request(connection, left == 1, isClosed, ignoreRanges) || isClosed || connection.isLimitExceeded())
             return;
     }
 }
 
-/// False when the server is ending: nobody would end the waits of a connection that comes later.
+/// False when the server is ending: a later connection would not be aborted.
 bool HttpServer::add(HttpConnection& connection)
 {
     const std::lock_guard lock(mutex_);

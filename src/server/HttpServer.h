@@ -1,4 +1,4 @@
-// The HTTP server under the data server: the library's, with clients that are bounded and an end that is quick.
+// The HTTP server of the data server: the library's, with limits for connections and a quick shutdown.
 #pragma once
 
 #include "server/ConnectionThreads.h"
@@ -18,8 +18,7 @@ namespace sonavel {
 class HttpConnection;
 
 /// Lifecycle: `listenAt`, the library's `Get` and `Post`, `start`, `end`. Each connection has a thread of its own
-/// as long as there are fewer than `maxConnections`; further ones wait. Requests for a part of a content are answered
-/// with the whole.
+/// as long as there are fewer than `maxConnections`; further ones wait. Range requests get the whole content.
 class HttpServer final : public httplib::Server {
 public:
     static constexpr int maxConnections = 64;
@@ -29,19 +28,18 @@ public:
     /// The port that it listens at, `port` or a free one for 0. An error is one sentence for the user.
     [[nodiscard]] tl::expected<int, std::string> listenAt(const std::string& address, int port);
 
-    /// Serves from now on. Its threads take none of the program's signals.
+    /// Starts serving. Its threads block all signals.
     void start();
 
-    /// For handlers whose answer takes its time: waits until `moment`, or until the end of the server, and answers
-    /// whether to go on.
+    /// For handlers of long responses: waits until `moment` or until the server ends; returns whether to continue.
     [[nodiscard]] bool waitUntil(std::chrono::steady_clock::time_point moment);
 
-    /// Ends what is being answered, with every wait in it, and returns when all threads have ended.
+    /// Aborts all responses and waits in progress, and returns when all threads have ended.
     void end();
 
 private:
     bool process_and_close_socket(socket_t socket) override;
-    void converse(HttpConnection& connection);
+    void serve(HttpConnection& connection);
     [[nodiscard]] bool add(HttpConnection& connection);
     void remove(HttpConnection& connection);
 

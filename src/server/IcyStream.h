@@ -1,4 +1,4 @@
-// An endless MP3 stream of one loop, with titles between the music where the listener asked for them.
+// An endless MP3 stream of one loop, with ICY metadata where the client asked for it.
 #pragma once
 
 #include "server/Stations.h"
@@ -9,12 +9,12 @@
 
 namespace sonavel {
 
-/// Each listener has one of his own, which starts at the beginning of the loop.
+/// Each listener has one, which starts at the beginning of the loop.
 class IcyStream {
 public:
     enum class Titles { None, Interleaved };
 
-    /// How many bytes of music lie between two blocks of titles.
+    /// The number of audio bytes between two metadata blocks.
     static constexpr std::size_t titleInterval = 16'000;
     /// The bit rate of the music.
     static constexpr std::size_t bytesPerSecond = 16'000;
@@ -22,11 +22,10 @@ public:
     /// `station` has to outlive the stream.
     IcyStream(const DemoStation& station, Titles titles);
 
-    /// The next piece of the stream: at most `musicBytes` bytes of music, and the block of titles that follows them
-    /// where one is due.
+    /// The next piece of the stream: at most `musicBytes` bytes of audio, followed by a metadata block when one is due.
     [[nodiscard]] std::string next(std::size_t musicBytes);
 
-    /// How many bytes of music were given out.
+    /// The number of audio bytes sent so far.
     [[nodiscard]] std::size_t musicSent() const { return musicSent_; }
 
 private:

@@ -26,9 +26,9 @@ PublishedFiles::PublishedFiles(std::string folder)
 {
 }
 
-void PublishedFiles::addBuiltIn(const std::string& name, BuiltIn answer)
+void PublishedFiles::addBuiltIn(const std::string& name, BuiltIn content)
 {
-    builtIn_.insert_or_assign(name, std::move(answer));
+    builtIn_.insert_or_assign(name, std::move(content));
 }
 
 tl::expected<std::string, PublishedFileError> PublishedFiles::contentOf(

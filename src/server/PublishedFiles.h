@@ -1,4 +1,4 @@
-// What the data server publishes: the files of a folder, and built-in answers where it has none.
+// What the data server publishes: the files of a folder, and built-in responses for what it lacks.
 #pragma once
 
 #include "server/PublishedFile.h"
@@ -10,21 +10,23 @@
 
 namespace sonavel {
 
-/// Safe to ask from several threads.
+/// `contentOf` is thread-safe.
 class PublishedFiles {
 public:
-    /// `folder` may be empty: then there are the built-in answers alone.
+    /// `folder` may be empty: then there are the built-in responses alone.
     explicit PublishedFiles(std::string folder);
 
-    /// Makes an answer for a client that reaches the server at that base address, such as "http://example.org:8080/".
+    /// Returns the content for a client that reaches the server at that base address, such as
+    /// "http://example.org:8080/".
     using BuiltIn = std::function<std::string(const std::string& baseAddress)>;
 
-    /// Answers for `name` where the folder has no such file. Before the first request.
-    void addBuiltIn(const std::string& name, BuiltIn answer);
+    /// Used for `name` when the folder has no such file. To be called before the first request.
+    void addBuiltIn(const std::string& name, BuiltIn content);
 
     /// The content published under a name, for a client that reaches the server at `baseAddress`. Only regular files
     /// directly in the folder are published, of at most 64 MiB, with a name of at most 255 bytes that does not begin
-    /// with "." and contains no "/", "\" or control character. An unusable file is not replaced by the built-in answer.
+    /// with "." and contains no "/", "\" or control character. An unusable file is not replaced by the built-in
+    /// response.
     [[nodiscard]] tl::expected<std::string, PublishedFileError> contentOf(
         const std::string& name, const std::string& baseAddress) const;
 

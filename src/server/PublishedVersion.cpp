@@ -14,7 +14,7 @@ std::string joined(const std::vector<std::string>& notes)
 
 } // namespace
 
-std::string versionAnswer(const PublishedVersion& published, const std::string& baseAddress)
+std::string versionResponse(const PublishedVersion& published, const std::string& baseAddress)
 {
     const auto orOwn = [&](const std::string& address) { return address.empty() ? baseAddress : address; };
     // Players count the values; the words before them are for people.

@@ -21,8 +21,8 @@ struct PublishedVersion {
     std::string listChanged;
 };
 
-/// The answer to players: eight values by their position, each a line of its own that ends with a carriage return.
-/// `baseAddress` is where the client reaches the server.
-[[nodiscard]] std::string versionAnswer(const PublishedVersion& published, const std::string& baseAddress);
+/// The response to players: eight values by their position, each in a line of its own that ends with a carriage
+/// return. `baseAddress` is where the client reaches the server.
+[[nodiscard]] std::string versionResponse(const PublishedVersion& published, const std::string& baseAddress);
 
 } // namespace sonavel

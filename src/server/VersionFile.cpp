@@ -8,19 +8,19 @@
 namespace sonavel {
 
 tl::expected<std::unique_ptr<VersionFile>, std::string> VersionFile::create(
-    const std::string& folder, PublishedVersion builtIn, Report report)
+    const std::string& folder, PublishedVersion defaultVersion, Report report)
 {
-    std::unique_ptr<VersionFile> file(new VersionFile(folder, std::move(builtIn), std::move(report)));
+    std::unique_ptr<VersionFile> file(new VersionFile(folder, std::move(defaultVersion), std::move(report)));
     if (const auto loaded = file->reload(); !loaded)
         return tl::unexpected(loaded.error() + '.');
     return file;
 }
 
-VersionFile::VersionFile(const std::string& folder, PublishedVersion builtIn, Report report)
+VersionFile::VersionFile(const std::string& folder, PublishedVersion defaultVersion, Report report)
     : path_(folder.empty() ? std::string() : folder + '/' + std::string(fileName))
-    , builtIn_(std::move(builtIn))
+    , defaultVersion_(std::move(defaultVersion))
     , report_(std::move(report))
-    , lastGood_(builtIn_)
+    , lastValid_(defaultVersion_)
 {
 }
 
@@ -32,7 +32,7 @@ PublishedVersion VersionFile::current()
     if (!loaded && error != reported_)
         report_(error + "; the last good version stays published.");
     reported_ = std::move(error);
-    return lastGood_;
+    return lastValid_;
 }
 
 /// An error is half a sentence that begins with the path.
@@ -48,10 +48,10 @@ tl::expected<void, std::string> VersionFile::reload()
             + (content.error() == PublishedFileError::Absent
                     ? ": the file has gone"
                     : ": it cannot be read as a plain file of at most 64 KiB"));
-    auto version = parseVersionText(*content, builtIn_);
+    auto version = parseVersionText(*content, defaultVersion_);
     if (!version)
         return tl::unexpected(path_ + ", line " + std::to_string(version.error().line) + ": " + version.error().why);
-    lastGood_ = *std::move(version);
+    lastValid_ = *std::move(version);
     wasThere_ = true;
     return {};
 }

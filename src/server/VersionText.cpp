@@ -154,7 +154,7 @@ private:
         if (value.empty())
             return error("has no value");
         if (const std::string_view part = unsupportedPartOf(value); !part.empty())
-            return error("holds " + std::string(part) + ", which the answer cannot carry");
+            return error("holds " + std::string(part) + ", which the response cannot carry");
         if (!key.accepts(value))
             return error(key.error);
         if (key.place == nullptr) {

@@ -32,15 +32,15 @@ constexpr const char* help = "Usage: sonavel-data-server [OPTION]...\n"
                              "Prints \"listening on http://HOST:PORT/\", which reaches it on this machine, once it\n"
                              "does. SIGTERM and SIGINT end it.\n";
 
-/// In one piece, so that what several threads tell stays apart.
-void tell(const std::string& what)
+/// In one write, so that messages of several threads do not mix.
+void printError(const std::string& what)
 {
     std::cerr << "sonavel-data-server: " + what + '\n';
 }
 
 [[noreturn]] void refuse(const std::string& why)
 {
-    tell(why);
+    printError(why);
     std::exit(usageError);
 }
 
@@ -64,7 +64,7 @@ std::string folderFrom(const char* path)
 DataServerSettings settingsFrom(int argc, char** argv)
 {
     DataServerSettings settings;
-    settings.report = tell;
+    settings.report = printError;
     constexpr std::array options{
         option{"directory", required_argument, nullptr, 'd'},
         option{"port", required_argument, nullptr, 'p'},
@@ -110,8 +110,8 @@ DataServerSettings settingsFrom(int argc, char** argv)
     return settings;
 }
 
-/// The signals that end the program, held back in all its threads, so that they can be waited for.
-sigset_t holdBackEndSignals()
+/// The signals that end the program, blocked in all its threads, so that they can be waited for.
+sigset_t blockTerminationSignals()
 {
     sigset_t signals{};
     sigemptyset(&signals);
@@ -126,14 +126,14 @@ sigset_t holdBackEndSignals()
 int main(int argc, char** argv)
 {
     const DataServerSettings settings = settingsFrom(argc, argv);
-    const sigset_t endSignals = holdBackEndSignals();
+    const sigset_t terminationSignals = blockTerminationSignals();
     const auto server = DataServer::create(settings);
     if (!server) {
-        tell(server.error());
+        printError(server.error());
         return EXIT_FAILURE;
     }
     std::cout << "listening on " << (*server)->baseAddress().view() << std::endl;
     int signal = 0;
-    sigwait(&endSignals, &signal);
+    sigwait(&terminationSignals, &signal);
     return EXIT_SUCCESS;
 }

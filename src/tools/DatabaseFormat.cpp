@@ -8,8 +8,8 @@ namespace sonavel {
 
 namespace {
 
-/// Whether it could be Base64 in lines of any length, as nothing else is: the others have a ":" at the latest in their
-/// first address.
+/// Whether it could be Base64 in lines of any length. Bytes of other formats are not: they contain at least the ":" of
+/// an address.
 bool looksLikeBase64(std::string_view bytes)
 {
     return !bytes.empty() && std::all_of(bytes.begin(), bytes.end(), [](char character) {

@@ -28,7 +28,7 @@ inline constexpr int listHasDiagnostics = 1;
 inline constexpr int usageError = 2;
 inline constexpr int unreadable = 3;
 
-/// Ends the program for --help, --version and, with `usageError` and a line that says why, for what it does not take.
+/// Exits for --help, --version and, with `usageError` and a line that says why, for invalid arguments.
 [[nodiscard]] ListArguments listArgumentsFrom(int argc, char** argv);
 
 } // namespace sonavel

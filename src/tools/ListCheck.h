@@ -1,12 +1,12 @@
-// What a user may want to mend in a station list that can be read.
+// What a user may want to fix in a station list that can be read.
 #pragma once
 
 #include "playlists/ParsedList.h"
 
 namespace sonavel {
 
-/// Looks at every station: addresses that the player cannot play, names that it has met before, control characters, and
-/// stations beyond what an import takes. Diagnostic are in the order of the places, those on the whole list first.
+/// Reports addresses that the player cannot play, repeated names, control characters in names, and more stations than
+/// an import takes. Diagnostics on the whole list come first, the others in the order of their places.
 [[nodiscard]] std::vector<Diagnostic> checkedStations(const StationRecords& stations);
 
 } // namespace sonavel

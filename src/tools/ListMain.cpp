@@ -18,7 +18,7 @@ namespace {
 
 using namespace sonavel;
 
-void complain(const std::string& file, const std::string& what)
+void printError(const std::string& file, const std::string& what)
 {
     std::cerr << "sonavel-list: " << file << ": " << what << '\n';
 }
@@ -72,7 +72,7 @@ std::optional<ParsedList> inputList(const ListArguments& arguments)
     auto list = parsedInput(arguments);
     if (list)
         return *std::move(list);
-    complain(inputName(arguments), list.error());
+    printError(inputName(arguments), list.error());
     return std::nullopt;
 }
 
@@ -80,7 +80,7 @@ bool print(std::string_view bytes)
 {
     if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0)
         return true;
-    complain("standard output", lastError().message());
+    printError("standard output", lastError().message());
     return false;
 }
 
@@ -92,24 +92,24 @@ bool write(const std::string& path, std::string_view bytes)
     const UserFile file{UserFile::Kind::Other, std::filesystem::absolute(path).string()};
     const auto written = files.writeAtomically(file, bytes, FileAccess::AsUsual);
     if (!written)
-        complain(path, written.error().message());
+        printError(path, written.error().message());
     return written.has_value();
 }
 
-/// How many places of a list the reading left out or changed.
+/// The number of places that were left out or changed in parsing.
 long placesLost(const ParsedList& list)
 {
     return std::count_if(list.diagnostics.begin(), list.diagnostics.end(),
         [](const Diagnostic& diagnostic) { return diagnostic.severity == Diagnostic::Severity::Loss; });
 }
 
-/// Prints how much the reading left out or changed; returns the exit status for it.
-int statusAfterReading(const ListArguments& arguments, const ParsedList& list)
+/// Prints that number unless it is 0; returns the exit status for it.
+int statusAfterParsing(const ListArguments& arguments, const ParsedList& list)
 {
     const long lost = placesLost(list);
     if (lost == 0)
         return listIsFine;
-    complain(inputName(arguments),
+    printError(inputName(arguments),
         "left out or changed in " + std::to_string(lost) + " places, which \"sonavel-list check\" lists");
     return listHasDiagnostics;
 }
@@ -120,7 +120,7 @@ int show(const ListArguments& arguments)
     const auto layout = ::isatty(STDOUT_FILENO) == 1 ? TableLayout::Columns : TableLayout::TabSeparated;
     if (!list || !print(stationTable(list->stations, layout)))
         return unreadable;
-    return statusAfterReading(arguments, *list);
+    return statusAfterParsing(arguments, *list);
 }
 
 int convert(const ListArguments& arguments)
@@ -129,20 +129,20 @@ int convert(const ListArguments& arguments)
     if (!list)
         return unreadable;
     if (list->stations.empty() && placesLost(*list) > 0) {
-        complain(inputName(arguments), "there is no station in it");
+        printError(inputName(arguments), "there is no station in it");
         return unreadable;
     }
     const auto output = arguments.outputFormat->serialize(list->stations);
     if (!output) {
-        complain(outputName(arguments), output.error());
+        printError(outputName(arguments), output.error());
         return unreadable;
     }
     if (!write(arguments.output, output->bytes))
         return unreadable;
-    const int status = statusAfterReading(arguments, *list);
+    const int status = statusAfterParsing(arguments, *list);
     if (output->stationsLost == 0)
         return status;
-    complain(arguments.output,
+    printError(arguments.output,
         std::to_string(output->stationsLost) + " stations are left out, as a later one has the same address");
     return listHasDiagnostics;
 }

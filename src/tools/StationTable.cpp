@@ -11,10 +11,10 @@ namespace sonavel {
 
 namespace {
 
-/// Longer names run into the second column, so that one of them does not move the others' addresses out of sight.
-constexpr std::size_t widestColumn = 40;
+/// Longer names extend into the second column, so that a single one does not push all addresses far to the right.
+constexpr std::size_t maxColumnWidth = 40;
 
-/// How many cells of a terminal the character takes.
+/// The number of terminal cells of the character.
 std::size_t widthOf(wchar_t character)
 {
     const int width = ::wcwidth(character);
@@ -41,7 +41,7 @@ std::size_t widthOfNames(const std::vector<std::string>& names)
 {
     std::size_t widest = 0;
     for (const std::string& name : names)
-        if (const std::size_t width = widthOf(name); width <= widestColumn)
+        if (const std::size_t width = widthOf(name); width <= maxColumnWidth)
             widest = std::max(widest, width);
     return widest;
 }
@@ -62,7 +62,7 @@ std::string stationTable(const StationRecords& stations, TableLayout layout)
     constexpr std::string_view gap = "  ";
     const bool isInColumns = layout == TableLayout::Columns;
     if (isInColumns)
-        static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8")); // where it is missing, widths are guessed
+        static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8")); // without it, widths are estimated
     const std::vector<std::string> names = namesOf(stations);
     const std::size_t column = isInColumns ? widthOfNames(names) : 0;
     std::string table;

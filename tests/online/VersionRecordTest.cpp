@@ -1,4 +1,4 @@
-// Versions: the server's answer, and what counts as newer.
+// Versions: the server's response, and what counts as newer.
 #include "online/VersionRecord.h"
 
 #include "platform/Bundle.h"
@@ -15,7 +15,7 @@ VersionRecord application(const Text& version, const Text& build)
     return applicationVersionRecord({"Sonavel", version, build});
 }
 
-std::string answer(const std::string& version, const std::string& build, const std::string& note = "")
+std::string response(const std::string& version, const std::string& build, const std::string& note = "")
 {
     return "n;Sonavel\rv;" + version + "\rb;" + build + "\ra;http://a/\rp;http://p/\rn;" + note
         + "\rd;2016-10-01 00:00:00 +0000\rl;2016-10-02 00:00:00 +0000";
@@ -35,7 +35,7 @@ TEST(VersionComparison, EachNumberIsComparedForItself)
         {"1.2.0", "5", "x.y.z", "build 9", false}, {"1.2.0", "5", "1. 3rc.0", "5", true},
         {"1.2.0", "5", "-9.+2.0", "-9", false}, {"1.2.0", "5", "1.2.0", "999999999999999999999999999999", true}};
     for (const auto& [ours, ourBuild, theirs, theirBuild, isNewer] : cases) {
-        const auto server = serverVersionRecord(answer(theirs, theirBuild));
+        const auto server = serverVersionRecord(response(theirs, theirBuild));
         ASSERT_TRUE(server);
         EXPECT_EQ(isAnyNumberHigher(*server, application(ours, ourBuild)), isNewer) << theirs << " to " << ours;
     }
@@ -49,14 +49,14 @@ TEST(VersionText, IsMadeOfThreeNumbersAndTheBuild)
     EXPECT_EQ(applicationVersionRecord({}).AppName, "Sonavel");
 }
 
-TEST(ServerAnswer, TheSecondFieldsOfItsLinesCountByTheirOrder)
+TEST(ServerResponse, TheSecondFieldsOfItsLinesCountByTheirOrder)
 {
-    const std::string plain = answer("1.3.0", "8", "a\\nb");
+    const std::string plain = response("1.3.0", "8", "a\\nb");
     std::string crlf;
     for (const char character : plain)
         crlf += character == '\r' ? std::string("\r\n") : std::string(1, character);
     for (const std::string& text :
-        {plain, crlf, "no field\r" + plain + "\rmore;x\rmore;y", answer("1.3.0;x", "8;;", "a\\nb;c")}) {
+        {plain, crlf, "no field\r" + plain + "\rmore;x\rmore;y", response("1.3.0;x", "8;;", "a\\nb;c")}) {
         const auto record = serverVersionRecord(text);
         ASSERT_TRUE(record) << text;
         EXPECT_EQ(versionText(*record), "1.3.0 (8)");
@@ -66,13 +66,13 @@ TEST(ServerAnswer, TheSecondFieldsOfItsLinesCountByTheirOrder)
     }
 }
 
-TEST(ServerAnswer, WhatCannotBeReadGivesNothing)
+TEST(ServerResponse, WhatCannotBeReadGivesNothing)
 {
     for (const std::string& text : {std::string(), std::string("a;1\rb;2\rc;3"), std::string("<!DOCTYPE html><p>x;y"),
-             answer("1.3.0", "8", "caf\xC3\xA9"), std::string(1 << 20, ';'), std::string(1 << 20, '\r'),
-             answer("1\n3", "8").substr(0, 60)})
+             response("1.3.0", "8", "caf\xC3\xA9"), std::string(1 << 20, ';'), std::string(1 << 20, '\r'),
+             response("1\n3", "8").substr(0, 60)})
         EXPECT_FALSE(serverVersionRecord(text));
-    std::string linesOfLineFeeds = answer("1.3.0", "8");
+    std::string linesOfLineFeeds = response("1.3.0", "8");
     std::replace(linesOfLineFeeds.begin(), linesOfLineFeeds.end(), '\r', '\n');
     EXPECT_FALSE(serverVersionRecord(linesOfLineFeeds));
 }

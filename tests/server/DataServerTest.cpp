@@ -41,10 +41,10 @@ protected:
 
     [[nodiscard]] std::string get(const std::string& query, int expectedStatus = 200)
     {
-        const auto answer = client_->Get(("/app_data_files/testget.php" + query).c_str());
-        EXPECT_TRUE(answer) << query;
-        EXPECT_EQ(answer ? answer->status : 0, expectedStatus) << query;
-        return answer ? answer->body : "";
+        const auto response = client_->Get(("/app_data_files/testget.php" + query).c_str());
+        EXPECT_TRUE(response) << query;
+        EXPECT_EQ(response ? response->status : 0, expectedStatus) << query;
+        return response ? response->body : "";
     }
 
     std::unique_ptr<DataServer> server_;
@@ -68,13 +68,13 @@ TEST_F(DataServerTest, TheStarterListArrivesAsThePlayerReadsIt)
     EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
 }
 
-TEST_F(DataServerTest, TheVersionAnswerArrivesAsThePlayerReadsIt)
+TEST_F(DataServerTest, TheVersionResponseArrivesAsThePlayerReadsIt)
 {
     start(settings());
-    const auto answer =
+    const auto response =
         client_->Post("/app_data_files/testpost.php", "file=sonavel.ini", "application/x-www-form-urlencoded");
-    ASSERT_TRUE(answer);
-    const auto record = serverVersionRecord(answer->body);
+    ASSERT_TRUE(response);
+    const auto record = serverVersionRecord(response->body);
     ASSERT_TRUE(record);
     EXPECT_EQ(record->AppName, "Sonavel");
     EXPECT_EQ(versionText(*record), "3.4.5 (12)");
@@ -83,7 +83,7 @@ TEST_F(DataServerTest, TheVersionAnswerArrivesAsThePlayerReadsIt)
     EXPECT_TRUE(momentFromInternationalForm(record->updateData));
 }
 
-TEST_F(DataServerTest, TheStatedVersionIsAnsweredUnlessTheAnswerItselfIsPublished)
+TEST_F(DataServerTest, TheStatedVersionIsSentUnlessTheResponseItselfIsPublished)
 {
     const test::TemporaryFolder folder;
     folder.put("version.txt", "version = 1.3.0\nbuild = 8\n");
@@ -91,8 +91,8 @@ TEST_F(DataServerTest, TheStatedVersionIsAnsweredUnlessTheAnswerItselfIsPublishe
     withFolder.folder = folder.path();
     start(withFolder);
     EXPECT_EQ(get("?file=sonavel.ini").find("name;Sonavel\rversion;1.3.0\rbuild;8\r"), 0U);
-    folder.put("sonavel.ini", "of the maker's own");
-    EXPECT_EQ(get("?file=sonavel.ini"), "of the maker's own");
+    folder.put("sonavel.ini", "of the publisher");
+    EXPECT_EQ(get("?file=sonavel.ini"), "of the publisher");
 }
 
 TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)
@@ -120,7 +120,7 @@ TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)
     }
 }
 
-TEST_F(DataServerTest, WhatIsNotPublishedIsAnsweredWithAStatusAndNotWithAFile)
+TEST_F(DataServerTest, WhatIsNotPublishedGivesAStatusAndNotWithAFile)
 {
     const test::TemporaryFolder folder;
     folder.put("list.rdb", "published");
@@ -132,8 +132,8 @@ TEST_F(DataServerTest, WhatIsNotPublishedIsAnsweredWithAStatusAndNotWithAFile)
              "?file=list.rdb%00", "?file=.%2flist.rdb", "?other=list.rdb"})
         EXPECT_EQ(get(query, 404).find("root:"), std::string::npos) << query;
     for (const char* form : {"", "file", "nothing=1", "file=../list.rdb"}) {
-        const auto answer = client_->Post("/app_data_files/testpost.php", form, "application/x-www-form-urlencoded");
-        EXPECT_EQ(answer ? answer->status : 404, 404) << form;
+        const auto response = client_->Post("/app_data_files/testpost.php", form, "application/x-www-form-urlencoded");
+        EXPECT_EQ(response ? response->status : 404, 404) << form;
     }
     EXPECT_EQ(get("?file=list.rdb"), "published");
 }

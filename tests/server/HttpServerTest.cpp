@@ -31,7 +31,7 @@ std::unique_ptr<DataServer> startedServer()
     return DataServer::create(settings).value();
 }
 
-std::string answerTo(const DataServer& server, std::string_view request)
+std::string responseTo(const DataServer& server, std::string_view request)
 {
     const RawClient client(server);
     EXPECT_TRUE(client.send(request));
@@ -49,7 +49,7 @@ TEST(HttpServer, ARequestWithoutEndIsGivenUp)
             ++taken;
         EXPECT_LT(taken, 64U) << beginning;
     }
-    EXPECT_EQ(answerTo(*server, ask), granted);
+    EXPECT_EQ(responseTo(*server, ask), granted);
 }
 
 TEST(HttpServer, AFormThatIsTooBigIsRefusedInWords)
@@ -68,15 +68,15 @@ TEST(HttpServer, AConnectionServesAsManyRequestsAsItSays)
     const RawClient client(*server);
     for (int request = 0; request < 30; ++request)
         client.send("GET / HTTP/1.1\r\n\r\n");
-    const std::string answers = client.read(1 << 20);
-    EXPECT_NE(answers.find("max=20"), std::string::npos) << answers.substr(0, 300);
+    const std::string responses = client.read(1 << 20);
+    EXPECT_NE(responses.find("max=20"), std::string::npos) << responses.substr(0, 300);
     int count = 0;
-    for (std::size_t found = 0; (found = answers.find(granted, found)) != std::string::npos; ++found)
+    for (std::size_t found = 0; (found = responses.find(granted, found)) != std::string::npos; ++found)
         ++count;
     EXPECT_EQ(count, 20);
 }
 
-TEST(HttpConnection, SendsEachPieceOfAnAnswerAtOnce)
+TEST(HttpConnection, SendsEachPieceOfAResponseAtOnce)
 {
     const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     const HttpConnection connection(socket);
@@ -86,7 +86,7 @@ TEST(HttpConnection, SendsEachPieceOfAnAnswerAtOnce)
     EXPECT_NE(isWithoutDelay, 0);
 }
 
-TEST(HttpConnection, AClientWhoseRequestIsCutShortLearnsThatTheAnswerIsOverWhileTheRestIsTaken)
+TEST(HttpConnection, AClientWhoseRequestIsCutShortLearnsThatTheResponseIsOverWhileTheRestIsTaken)
 {
     const std::string tooMuch(1 << 15, 'a');
     const auto isTakenAfterTheEnd = [&] {
@@ -97,7 +97,7 @@ TEST(HttpConnection, AClientWhoseRequestIsCutShortLearnsThatTheAnswerIsOverWhile
             EXPECT_TRUE(connection.awaitRequest());
             std::array<char, 4096> piece{};
             while (connection.read(piece.data(), piece.size()) > 0) { }
-            EXPECT_TRUE(connection.isCutShort());
+            EXPECT_TRUE(connection.isLimitExceeded());
         });
         for (int piece = 0; piece < 5; ++piece)
             EXPECT_EQ(::send(sockets[1], tooMuch.data(), tooMuch.size(), MSG_NOSIGNAL), std::ssize(tooMuch));
@@ -129,7 +129,7 @@ TEST(HttpServer, ListenersWithoutEndLeaveRoomForRequests)
         ++seated;
     EXPECT_GE(seated, 8U);
     EXPECT_LT(seated, 100U);
-    EXPECT_EQ(answerTo(*server, ask), granted);
+    EXPECT_EQ(responseTo(*server, ask), granted);
 }
 
 TEST(HttpServer, HalfRequestsOnEveryConnectionHoldUpAPlayersProbeForLessThanItWaits)
@@ -172,7 +172,7 @@ TEST(HttpServer, ItsEndLeavesDescriptorsAloneThatItsFormerConnectionsHad)
         for (const RawClient& client : clients)
             EXPECT_TRUE(client.send(ask) && client.read(1 << 16).starts_with(granted));
     }
-    EXPECT_EQ(answerTo(*server, ask), granted);
+    EXPECT_EQ(responseTo(*server, ask), granted);
     std::array<std::array<int, 2>, 8> pairs{};
     for (auto& pair : pairs)
         ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair.data()), 0);

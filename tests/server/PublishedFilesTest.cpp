@@ -11,7 +11,7 @@ namespace {
 
 const std::string client = "http://host/";
 
-TEST(PublishedFiles, APublishedFileWinsOverTheBuiltInAnswer)
+TEST(PublishedFiles, APublishedFileWinsOverTheBuiltInResponse)
 {
     const test::TemporaryFolder folder;
     PublishedFiles files(folder.path());

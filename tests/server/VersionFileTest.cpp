@@ -20,10 +20,10 @@ class VersionFileTest : public testing::Test {
 protected:
     auto create()
     {
-        PublishedVersion builtIn;
-        builtIn.version = "0.1.0";
+        PublishedVersion defaultVersion;
+        defaultVersion.version = "0.1.0";
         return VersionFile::create(
-            folder_.path(), builtIn, [this](const std::string& sentence) { reports_.push_back(sentence); });
+            folder_.path(), defaultVersion, [this](const std::string& sentence) { reports_.push_back(sentence); });
     }
 
     const test::TemporaryFolder folder_;

@@ -27,7 +27,7 @@ TEST(VersionText, EveryValueReachesThePlayerAsItWasStated)
     for (const std::string& text : {lines, windowsLines}) {
         const auto version = parseVersionText(text, defaults());
         ASSERT_TRUE(version) << version.error().why;
-        const auto record = serverVersionRecord(versionAnswer(*version, "http://own/"));
+        const auto record = serverVersionRecord(versionResponse(*version, "http://own/"));
         ASSERT_TRUE(record);
         EXPECT_EQ(versionText(*record), "1.3.0 (8)");
         EXPECT_EQ(record->LinkApp, "HTTP://[::1]:8080/");
@@ -42,12 +42,12 @@ TEST(VersionText, WhatIsNotStatedIsTheDefaultButForTheNotes)
 {
     const auto version = parseVersionText(needed, defaults());
     ASSERT_TRUE(version);
-    EXPECT_EQ(versionAnswer(*version, "http://own/"),
+    EXPECT_EQ(versionResponse(*version, "http://own/"),
         "name;Sonavel\rversion;1.3.0\rbuild;8\rapplication;http://own/\rpage;http://own/\rnotes;\r"
         "released;2026-11-01 00:00:00 +0000\rlist changed;2026-11-02 00:00:00 +0000\r");
 }
 
-TEST(VersionText, WhatTheAnswerCannotCarryIsRefusedWithItsLineAndReason)
+TEST(VersionText, WhatTheResponseCannotCarryIsRefusedWithItsLineAndReason)
 {
     const struct {
         std::string text;

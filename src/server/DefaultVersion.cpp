@@ -1,4 +1,4 @@
-#include "server/BuiltInVersion.h"
+#include "server/DefaultVersion.h"
 
 #include "base/Numbers.h"
 #include "server/DataServer.h"
@@ -15,7 +15,7 @@ std::string numberAfter(const std::string& number)
 
 } // namespace
 
-PublishedVersion builtInVersion(const DataServerSettings& settings)
+PublishedVersion defaultVersion(const DataServerSettings& settings)
 {
     PublishedVersion version;
     version.version = settings.version;

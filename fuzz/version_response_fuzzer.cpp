@@ -1,4 +1,4 @@
-// Fuzzes what is made of a data server's answer about the newest version.
+// Fuzzes what is made of a data server's response about the newest version.
 
 #include "Require.h"
 #include "base/Moment.h"
@@ -27,11 +27,11 @@ bool isAscii(std::string_view bytes)
         [](char character) { return (static_cast<unsigned char>(character) & 0x80U) != 0; });
 }
 
-std::size_t linesWithFields(std::string_view answer)
+std::size_t linesWithFields(std::string_view response)
 {
     std::size_t lines = 0;
     bool hasField = false;
-    for (const char character : answer) {
+    for (const char character : response) {
         lines += character == ';' && !hasField ? 1 : 0;
         hasField = character != '\r' && (hasField || character == ';');
     }
@@ -41,7 +41,7 @@ std::size_t linesWithFields(std::string_view answer)
 void checkTexts(const VersionRecord& record)
 {
     for (const Text& text : textsOf(record)) {
-        require(!text.isAbsent(), "a usable answer gives every value");
+        require(!text.isAbsent(), "a usable response gives every value");
         require(text.view().find_first_of(";\r") == std::string_view::npos, "values have no separator");
     }
     for (const Text& number : {record.MajorVersion, record.MinorVersion, record.BugVersion})
@@ -74,14 +74,14 @@ void checkAddressAndDates(const VersionRecord& record)
     }
 }
 
-void checkOtherLineEnds(std::string_view answer, const VersionRecord& record)
+void checkOtherLineEnds(std::string_view response, const VersionRecord& record)
 {
     std::string withLineFeeds;
-    for (const char character : answer)
+    for (const char character : response)
         withLineFeeds.append(1, character).append(character == '\r' ? "\n" : "");
     const auto again = serverVersionRecord(withLineFeeds);
     require(again && textsOf(*again) == textsOf(record), "line feeds after the carriage returns change nothing");
-    const auto longer = serverVersionRecord(std::string(answer) + "\rmore;x");
+    const auto longer = serverVersionRecord(std::string(response) + "\rmore;x");
     require(longer && textsOf(*longer) == textsOf(record), "lines after the eighth change nothing");
 }
 
@@ -91,15 +91,15 @@ void checkOtherLineEnds(std::string_view answer, const VersionRecord& record)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace sonavel;
-    const std::string_view answer(reinterpret_cast<const char*>(data), size);
-    const auto record = serverVersionRecord(answer);
-    require(record.has_value() == (isAscii(answer) && linesWithFields(answer) >= valueCount),
-        "an answer is usable when it is ASCII and has its values");
+    const std::string_view response(reinterpret_cast<const char*>(data), size);
+    const auto record = serverVersionRecord(response);
+    require(record.has_value() == (isAscii(response) && linesWithFields(response) >= valueCount),
+        "a response is usable when it is ASCII and has its values");
     if (!record)
         return 0;
     checkTexts(*record);
     checkNotes(*record);
     checkAddressAndDates(*record);
-    checkOtherLineEnds(answer, *record);
+    checkOtherLineEnds(response, *record);
     return 0;
 }

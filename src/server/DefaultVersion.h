@@ -1,4 +1,4 @@
-// The version that the data server publishes unless its maker states one.
+// The version that the data server publishes without a version file.
 #pragma once
 
 #include "server/PublishedVersion.h"
@@ -8,6 +8,6 @@ namespace sonavel {
 struct DataServerSettings;
 
 /// The version of the settings, or the one that they offer in its place.
-[[nodiscard]] PublishedVersion builtInVersion(const DataServerSettings& settings);
+[[nodiscard]] PublishedVersion defaultVersion(const DataServerSettings& settings);
 
 } // namespace sonavel
