@@ -52,7 +52,7 @@ void checkPlaylist(const StationRecords& stations)
 
 void checkFormat(std::string_view bytes, const ListFormat& format)
 {
-    const auto list = format.parse(std::string(bytes));
+    const auto list = format.parse(bytes);
     require(list || &format == &databaseFormat || &format == &jsonFormat, "a text is always read");
     if (!list)
         return;

@@ -100,7 +100,7 @@ private:
     std::string address_;
 };
 
-tl::expected<ParsedList, std::string> parse(std::string bytes)
+tl::expected<ParsedList, std::string> parse(std::string_view bytes)
 {
     MemberReader reader;
     if (!nlohmann::json::sax_parse(bytes, &reader))

@@ -24,9 +24,9 @@ struct ListFormat {
     /// In lower case; extensions of files, too. The first is what the format is called.
     std::array<std::string_view, 2> names;
     /// Whether the bytes, without a byte order mark and outer blanks, look like the format.
-    bool (*looksLike)(std::string_view bytes);
+    bool (*looksLike)(std::string_view bytes) = nullptr;
     /// Parses bytes of any origin.
-    tl::expected<ParsedList, std::string> (*parse)(std::string bytes);
+    tl::expected<ParsedList, std::string> (*parse)(std::string_view bytes) = nullptr;
     /// Null for a format that is only read.
     tl::expected<SerializedList, std::string> (*serialize)(const StationRecords& stations) = nullptr;
 };

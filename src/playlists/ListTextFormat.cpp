@@ -73,19 +73,18 @@ std::string decodedLines(std::string_view text, std::vector<Diagnostic>& diagnos
 /// Reads more than the player does, so that a list can be repaired by writing it again. Each of these is diagnosed: a
 /// byte order mark; in a text without any carriage return the lines end at line feeds; where all line feeds follow
 /// carriage returns, they belong to the line ends; lines that are not UTF-8 are read as Windows-1252.
-tl::expected<ParsedList, std::string> parseFile(std::string bytes)
+tl::expected<ParsedList, std::string> parseFile(std::string_view bytes)
 {
     std::vector<Diagnostic> diagnostics;
-    if (const auto text = withoutByteOrderMark(bytes); text.size() < bytes.size()) {
-        bytes.erase(0, bytes.size() - text.size());
+    std::string text(withoutByteOrderMark(bytes));
+    if (text.size() < bytes.size())
         diagnostics.push_back({{}, "it begins with a byte order mark", note});
-    }
-    normalizeLineEnds(bytes, diagnostics);
-    if (!isValidUtf8(bytes)) {
+    normalizeLineEnds(text, diagnostics);
+    if (!isValidUtf8(text)) {
         diagnostics.push_back({{}, "it is not valid UTF-8: the player does not read it at all", note});
-        bytes = decodedLines(bytes, diagnostics);
+        text = decodedLines(text, diagnostics);
     }
-    ParsedList list = parseListText(std::move(bytes));
+    ParsedList list = parseListText(std::move(text));
     list.diagnostics.insert(list.diagnostics.begin(), diagnostics.begin(), diagnostics.end());
     return list;
 }

@@ -22,7 +22,7 @@ std::string_view titleAfterAttributes(std::string_view text)
     return comma == std::string_view::npos ? std::string_view() : text.substr(comma + 1);
 }
 
-tl::expected<ParsedList, std::string> parse(std::string bytes)
+tl::expected<ParsedList, std::string> parse(std::string_view bytes)
 {
     constexpr std::string_view information = "#EXTINF:";
     ParsedList list;

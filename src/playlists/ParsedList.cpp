@@ -28,7 +28,7 @@ std::string withoutPasswords(std::string_view line)
     return result.append(line);
 }
 
-/// A name as a list can keep it and a window show it.
+/// A name that a list can keep and a window can show.
 std::string tidied(std::string_view name)
 {
     const Text text = withoutSeparators(withoutControls(name));

@@ -1,4 +1,4 @@
-// A station list as it was parsed, with what is wrong with it, place by place.
+// A parsed station list, with diagnostics.
 #pragma once
 
 #include "base/Text.h"
@@ -12,21 +12,21 @@
 
 namespace sonavel {
 
-/// One thing that the user should know about a list.
+/// A problem of a list, for the user.
 struct Diagnostic {
     /// With a loss, something of the list is left out or changed.
     enum class Severity { Note, Loss };
 
     /// The line, or in JSON the member, counted from 0; nothing for the list as a whole.
     std::optional<std::uint64_t> place;
-    /// What is wrong, in one line that may be shown as it is.
+    /// One line of UTF-8 without control characters.
     std::string what;
     Severity severity = Severity::Note;
 };
 
-/// A list as far as it could be read.
+/// What could be parsed of a list.
 struct ParsedList {
-    /// What its places are called: "line", in JSON "member".
+    /// What a place is called: "line", in JSON "member".
     std::string_view placeName = "line";
     /// Their numbers are the lines, or in JSON the members, that they were read from, counted from 0. A list text can
     /// hold their names and addresses.
@@ -34,12 +34,12 @@ struct ParsedList {
     std::vector<Diagnostic> diagnostics;
 };
 
-/// The text in quotes to put into a diagnostic: of any encoding, in one line, short, and without the user information
-/// of an address in it.
+/// The text in quotes, for a diagnostic: decoded, in one line, truncated, and without the user information of addresses
+/// in it.
 [[nodiscard]] std::string inQuotes(std::string_view bytes);
 
-/// What to call a station that has no name of its own: the host of its address, or else the address. Absent when no
-/// list keeps a station of that name either.
+/// The name of a station that has none of its own: the host of its address, or else the address. Absent when no list
+/// keeps a station of that name either.
 [[nodiscard]] Text nameFromAddress(const Text& address);
 
 /// Adds the station of a playlist's entry, its address and title in UTF-8; diagnoses an address that cannot be played.

@@ -85,6 +85,6 @@ private:
 /// in the order of their numbers; of several files of one number the first counts.
 constinit const ListFormat plsFormat{{"pls"},
     [](std::string_view bytes) { return beginsWithIgnoringCase(bytes, "[playlist]"); },
-    [](std::string bytes) -> tl::expected<ParsedList, std::string> { return PlsReader().read(bytes); }};
+    [](std::string_view bytes) -> tl::expected<ParsedList, std::string> { return PlsReader().read(bytes); }};
 
 } // namespace sonavel

@@ -1,4 +1,4 @@
-// Lines of texts that other programs wrote.
+// Lines of text from other programs.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,10 @@
 
 namespace sonavel {
 
-/// Takes a text apart into lines that end with CR, LF or both. What follows the last end is a line only if there is
-/// something.
+/// Splits a text into lines that end with CR, LF or CR LF. What follows the last line end is a line unless it is empty.
 class TextLines {
 public:
-    /// `text` has to outlive the lines.
+    /// Neither the object nor its lines may outlive `text`.
     explicit TextLines(std::string_view text)
         : rest_(text)
     {
@@ -20,7 +19,7 @@ public:
     /// The next line without its end; nothing after the last.
     [[nodiscard]] std::optional<std::string_view> next();
 
-    /// The number of the line given last, counted from 0.
+    /// The number of the line returned last, counted from 0.
     [[nodiscard]] std::uint64_t number() const { return count_ - 1; }
 
 private:

@@ -1,7 +1,5 @@
-// The station lists that come with the data server.
+// The built-in station lists of the data server.
 #pragma once
-
-#include "base/Text.h"
 
 #include <string>
 #include <string_view>

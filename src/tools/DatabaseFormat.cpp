@@ -18,9 +18,9 @@ bool looksLikeBase64(std::string_view bytes)
     });
 }
 
-tl::expected<ParsedList, std::string> parse(std::string bytes)
+tl::expected<ParsedList, std::string> parse(std::string_view bytes)
 {
-    const Text text = decodeStationList(std::move(bytes));
+    const Text text = decodeStationList(std::string(bytes));
     if (text.isAbsent())
         return tl::unexpected<std::string>("it cannot be decrypted");
     return parseListText(text);

@@ -58,12 +58,12 @@ FileResult<std::string> readInput(const std::string& path)
 
 tl::expected<ParsedList, std::string> parsedInput(const ListArguments& arguments)
 {
-    auto content = readInput(arguments.input);
+    const auto content = readInput(arguments.input);
     if (!content)
         return tl::unexpected(content.error().message());
     const ListFormat& format =
         arguments.inputFormat != nullptr ? *arguments.inputFormat : formatOfContent(*content, allFormats);
-    return format.parse(*std::move(content));
+    return format.parse(*content);
 }
 
 /// Prints why where there is none.

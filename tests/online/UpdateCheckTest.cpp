@@ -102,7 +102,7 @@ TEST_F(UpdateCheckTest, NothingNewIsSaidOnDemandAloneWithTheVersionThatTheUserHa
     EXPECT_FALSE(controls.updateNotice.winUpdateNotification.isVisible());
 }
 
-TEST_F(UpdateCheckTest, ServersWithoutAUsableAnswerAreToldAndTheirDatesForgotten)
+TEST_F(UpdateCheckTest, AnUnusableResponseIsReportedAndItsDatesAreForgotten)
 {
     publishVersion("1.3.0");
     startOnTheNextDay();

@@ -7,7 +7,7 @@ namespace {
 
 using test::expectParses;
 
-TEST(ListFormats, AListTextIsReadAsThePlayerDoesWhateverWroteItAndWhatThatCostsIsTold)
+TEST(ListFormats, AListTextOfAnyProgramIsParsedAndEachLossIsDiagnosed)
 {
     expectParses(listTextFormat,
         {

@@ -86,7 +86,7 @@ TEST(HttpConnection, SendsEachPieceOfAResponseAtOnce)
     EXPECT_NE(isWithoutDelay, 0);
 }
 
-TEST(HttpConnection, AClientWhoseRequestIsCutShortLearnsThatTheResponseIsOverWhileTheRestIsTaken)
+TEST(HttpConnection, ARequestBeyondTheLimitIsDrainedAfterTheEndOfTheResponse)
 {
     const std::string tooMuch(1 << 15, 'a');
     const auto isTakenAfterTheEnd = [&] {
@@ -198,7 +198,7 @@ TEST(HttpServer, ItsEndEndsTheWaitForTheNextPieceOfAStream)
     EXPECT_FALSE(isTimeForThePiece.get());
 }
 
-TEST(HttpServer, APortThatIsTakenIsToldInOneSentence)
+TEST(HttpServer, APortInUseIsReportedInOneSentence)
 {
     const auto server = startedServer();
     const std::string address = server->baseAddress().string();

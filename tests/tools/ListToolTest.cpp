@@ -21,7 +21,7 @@ TEST(DatabaseFormat, ADatabaseIsReadExactlyAsThePlayerReadsIt)
         EXPECT_FALSE(databaseFormat.parse(bytes)) << bytes;
 }
 
-TEST(ListFormats, TheContentTellsWhatNoExtensionDoes)
+TEST(ListFormats, TheContentDecidesWhereNoExtensionDoes)
 {
     const std::vector<std::pair<std::string, const ListFormat*>> cases{{"", &listTextFormat},
         {"radio;link\rA;http://a/\r", &listTextFormat}, {"#1 Hits;http://a/\r", &listTextFormat},
