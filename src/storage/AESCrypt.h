@@ -5,7 +5,7 @@
 #pragma once
 
 #include "base/Text.h"
-#include "storage/Bytes.h"
+#include "storage/Cipher.h"
 
 #include <cstddef>
 #include <cstdint>

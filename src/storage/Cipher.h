@@ -2,14 +2,21 @@
 // padding.
 #pragma once
 
-#include "storage/Bytes.h"
-
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace sonavel {
+
+/// Bytes of any value, as a type distinct from texts. Stored in a string so that decrypted bytes become a text without
+/// a copy.
+struct Bytes {
+    std::string content;
+
+    friend bool operator==(const Bytes&, const Bytes&) = default;
+};
 
 using CipherKey = std::array<unsigned char, 32>;
 

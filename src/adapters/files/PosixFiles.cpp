@@ -110,7 +110,11 @@ FileResult<> PosixFiles::keepCopy(const Text& path, const UserFile& copy)
     const auto keep = [&](const std::string& original) {
         FileResult<> kept = linkAs(original, name);
         // File systems without hard links, or a folder on another one.
-        return kept || kept.error() == std::errc::file_exists ? kept : copyAs(original, name);
+        if (kept || kept.error() == std::errc::file_exists)
+            return kept;
+        return readFile(original).and_then([&](const Contents& contents) {
+            return AtomicFileWriter(*calls_, name).create(contents.bytes, contents.mode);
+        });
     };
     return reported(linkTarget(path.string()).and_then(keep), copy);
 }
@@ -124,13 +128,6 @@ FileResult<> PosixFiles::linkAs(const std::string& path, const std::string& copy
     if (!linked)
         calls_->unlink(AT_FDCWD, copy.c_str());
     return linked;
-}
-
-FileResult<> PosixFiles::copyAs(const std::string& path, const std::string& copy)
-{
-    return readFile(path).and_then([&](const Contents& contents) {
-        return AtomicFileWriter(*calls_, copy).create(contents.bytes, contents.mode);
-    });
 }
 
 FileResult<> PosixFiles::moveFile(const Text& path, const Text& newPath)

@@ -46,7 +46,6 @@ private:
     [[nodiscard]] FileResult<std::string> linkTarget(std::string path) const;
     [[nodiscard]] FileResult<Contents> readFile(const std::string& path) const;
     [[nodiscard]] FileResult<> linkAs(const std::string& path, const std::string& copy);
-    [[nodiscard]] FileResult<> copyAs(const std::string& path, const std::string& copy);
     [[nodiscard]] FileResult<> makeFolders(const std::string& path);
     void synchronizeFolderOf(const std::string& path);
     FileResult<> reported(FileResult<> result, const UserFile& file) const;
