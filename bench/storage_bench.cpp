@@ -6,7 +6,6 @@
 #include "model/StationList.h"
 #include "model/StationListText.h"
 #include "storage/Cipher.h"
-#include "storage/Passphrase.h"
 #include "storage/StationDatabase.h"
 #include "storage/StationListCodec.h"
 

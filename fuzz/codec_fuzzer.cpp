@@ -2,7 +2,7 @@
 
 #include "Require.h"
 #include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 
 #include <cstdint>
 #include <string>

@@ -2,8 +2,8 @@
 
 #include "Require.h"
 #include "base/Moment.h"
-#include "online/RequestAddress.h"
 #include "online/VersionRecord.h"
+#include "online/WebRequests.h"
 #include "server/VersionText.h"
 
 #include <cstdint>

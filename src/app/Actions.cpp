@@ -5,13 +5,6 @@
 
 namespace sonavel {
 
-Actions::Actions(ActionQueue& queue, TableView& table, Operation validate)
-    : queue_(queue)
-    , table_(table)
-    , validate_(std::move(validate))
-{
-}
-
 void Actions::wire(Action& action, ListUse listUse, Operation operation)
 {
     action.set([this, &action, listUse, operation = std::move(operation)] { perform(&action, listUse, operation); });

@@ -26,7 +26,12 @@ public:
     using Operation = std::function<void()>;
 
     /// `validate` enables toolbar and menu items as the state of the program asks for.
-    Actions(ActionQueue& queue, TableView& table, Operation validate);
+    Actions(ActionQueue& queue, TableView& table, Operation validate)
+        : queue_(queue)
+        , table_(table)
+        , validate_(std::move(validate))
+    {
+    }
 
     /// Makes `operation` what the control does. This object has to outlive the control's use.
     void wire(Action& action, ListUse listUse, Operation operation);

@@ -25,21 +25,6 @@ struct MediaControls::Command {
     unsigned interruptions;
 };
 
-MediaControls::MediaControls(MainControls& controls, Player& player, const StreamStatus& streamStatus,
-    StationSelection& stationSelection, const StationList& stationList, Actions& actions, const CountedAlerts& alerts,
-    const Clock& clock, Actions::Operation quitApp)
-    : controls_(controls)
-    , player_(player)
-    , streamStatus_(streamStatus)
-    , stationSelection_(stationSelection)
-    , stationList_(stationList)
-    , actions_(actions)
-    , alerts_(alerts)
-    , clock_(clock)
-    , quitApp_(std::move(quitApp))
-{
-}
-
 const MediaState& MediaControls::state()
 {
     using Status = MediaState::Status;
@@ -97,16 +82,6 @@ void MediaControls::stop()
         if (controls_.buttonStop.state().isEnabled)
             player_.buttonStop();
     }));
-}
-
-void MediaControls::next()
-{
-    step(false);
-}
-
-void MediaControls::previous()
-{
-    step(true);
 }
 
 void MediaControls::step(bool isPrevious)

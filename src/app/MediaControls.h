@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 namespace sonavel {
 
@@ -42,13 +43,22 @@ struct MediaState {
 /// question or waits for a server, Pause and Stop are done at once, unless it has the list for itself. What has to wait
 /// is done after that action, but not more than 2 s late, nor when the user answered a question meanwhile; Play, Next
 /// and Previous not after a later Pause or Stop either. `raise` is always done.
-///
-/// Main thread. Borrows everything it is given.
 class MediaControls : private NonCopyable {
 public:
     MediaControls(MainControls& controls, Player& player, const StreamStatus& streamStatus,
         StationSelection& stationSelection, const StationList& stationList, Actions& actions,
-        const CountedAlerts& alerts, const Clock& clock, Actions::Operation quitApp);
+        const CountedAlerts& alerts, const Clock& clock, Actions::Operation quitApp)
+        : controls_(controls)
+        , player_(player)
+        , streamStatus_(streamStatus)
+        , stationSelection_(stationSelection)
+        , stationList_(stationList)
+        , actions_(actions)
+        , alerts_(alerts)
+        , clock_(clock)
+        , quitApp_(std::move(quitApp))
+    {
+    }
 
     /// To be called after every action: a station keeps the name that it had when it began to play.
     [[nodiscard]] const MediaState& state();
@@ -60,8 +70,8 @@ public:
     /// Pauses when it plays; plays otherwise, unless that waits already: two presses cancel each other.
     void playPause();
     void stop();
-    void next();
-    void previous();
+    void next() { step(false); }
+    void previous() { step(true); }
     /// Beyond the slider's ends counts as the nearer one; what is no number is ignored.
     void setVolume(double volume);
 

@@ -88,13 +88,6 @@ int tagOf(MenuItem MenuControls::*item)
     return row == rows.end() ? noTag : row->tag;
 }
 
-Menus::Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings)
-    : controls_(controls)
-    , targets_(targets)
-    , localizedStrings_(localizedStrings)
-{
-}
-
 void Menus::menuView(const MenuItem& sender)
 {
     if (const TaggedItem* row = rowOf(sender.tag()))

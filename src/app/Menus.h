@@ -56,10 +56,14 @@ struct TaggedItem {
 /// The item's tag; `noTag` when it has none.
 [[nodiscard]] int tagOf(MenuItem MenuControls::*item);
 
-/// Main thread. Borrows everything it is given.
 class Menus : private NonCopyable {
 public:
-    Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings);
+    Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings)
+        : controls_(controls)
+        , targets_(targets)
+        , localizedStrings_(localizedStrings)
+    {
+    }
 
     /// Does what belongs to the item's tag; nothing for a tag that no item has.
     void menuView(const MenuItem& sender);

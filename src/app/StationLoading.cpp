@@ -8,15 +8,6 @@
 
 namespace sonavel {
 
-StationLoading::StationLoading(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
-    StationRefresh& stationRefresh)
-    : stationList_(stationList)
-    , listWriter_(listWriter)
-    , stationDatabase_(stationDatabase)
-    , stationRefresh_(stationRefresh)
-{
-}
-
 void StationLoading::initRadioList()
 {
     const Text legacyText = legacyListText();

@@ -11,11 +11,16 @@ class StationDatabase;
 class StationList;
 class StationRefresh;
 
-/// Main thread. Borrows everything it is given.
 class StationLoading : private NonCopyable {
 public:
     StationLoading(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
-        StationRefresh& stationRefresh);
+        StationRefresh& stationRefresh)
+        : stationList_(stationList)
+        , listWriter_(listWriter)
+        , stationDatabase_(stationDatabase)
+        , stationRefresh_(stationRefresh)
+    {
+    }
 
     /// Makes the list, from the legacy plain file where there is one, which then moves into the database, else from
     /// the database; sorts it; and refreshes it from the server when it is empty, and then when a refresh is due.

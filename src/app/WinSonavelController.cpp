@@ -1,13 +1,12 @@
 #include "app/WinSonavelController.h"
 
 #include "app/Wiring.h"
-#include "online/Connectivity.h"
+#include "online/WebRequests.h"
 #include "platform/Alerts.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Process.h"
-#include "platform/Questions.h"
 #include "platform/RunLoop.h"
-#include "prefs/PlaceholderKeys.h"
+#include "prefs/PreferenceFields.h"
 #include "ui/Controls.h"
 
 namespace sonavel {

@@ -19,17 +19,6 @@ constexpr std::int32_t maxAddressLength = 2048;
 
 } // namespace
 
-EditSheet::EditSheet(const StationList& stationList, ListWriter& listWriter, const PreferenceFields& preferences,
-    const LocalizedStrings& localizedStrings, EditSheetControls& controls, TableView& table)
-    : stationList_(stationList)
-    , listWriter_(listWriter)
-    , preferences_(preferences)
-    , localizedStrings_(localizedStrings)
-    , controls_(controls)
-    , table_(table)
-{
-}
-
 void EditSheet::radioAddToList()
 {
     controls_.buttonAction.setTitle(localizedStrings_.localizedStringForKey("BUTTON_ADD"));
@@ -94,11 +83,6 @@ void EditSheet::selectLastRow()
     const std::size_t last = stationList_.numberOfStations() - 1;
     table_.scrollRowToVisible(static_cast<long>(last));
     table_.selectRowIndexes({last}, TableView::Extending::No);
-}
-
-void EditSheet::buttonCancel()
-{
-    winEditDataCloseAndResetField();
 }
 
 void EditSheet::winEditDataCloseAndResetField()

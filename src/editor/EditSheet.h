@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/NonCopyable.h"
-#include "model/StationRecords.h"
+#include "model/KVStationWebRadio.h"
 
 #include <cstdint>
 
@@ -18,12 +18,18 @@ struct PreferenceFields;
 
 /// Whether it adds or changes depends on the title of its confirm button alone. Both fields are empty whenever it is
 /// closed.
-///
-/// Main thread. Borrows everything it is given.
 class EditSheet : private NonCopyable {
 public:
     EditSheet(const StationList& stationList, ListWriter& listWriter, const PreferenceFields& preferences,
-        const LocalizedStrings& localizedStrings, EditSheetControls& controls, TableView& table);
+        const LocalizedStrings& localizedStrings, EditSheetControls& controls, TableView& table)
+        : stationList_(stationList)
+        , listWriter_(listWriter)
+        , preferences_(preferences)
+        , localizedStrings_(localizedStrings)
+        , controls_(controls)
+        , table_(table)
+    {
+    }
 
     /// Opens the sheet for a new station.
     void radioAddToList();
@@ -34,7 +40,7 @@ public:
     /// station needs a name of 2 or an address of 10 UTF-16 code units; with neither nothing is added, silently.
     void buttonAction();
     /// Closes the sheet and changes nothing.
-    void buttonCancel();
+    void buttonCancel() { winEditDataCloseAndResetField(); }
 
     /// Selects the list's last row in the table and scrolls to it.
     void selectLastRow();

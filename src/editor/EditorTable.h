@@ -11,8 +11,6 @@ class StationList;
 
 /// Row r shows the station at position r of the list. The columns are "radio", the name, and "link", the address; any
 /// other shows the station's property of that name.
-///
-/// Main thread. Borrows everything it is given.
 class EditorTable final : public TableViewDataSource {
 public:
     EditorTable(const StationList& stationList, ListWriter& listWriter, EditSheet& editSheet, TableView& table);

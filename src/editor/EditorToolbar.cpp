@@ -14,16 +14,6 @@ enum Tag { adding, editing, removing, importing, exporting };
 
 } // namespace
 
-EditorToolbar::EditorToolbar(EditSheet& editSheet, StationRemoval& stationRemoval, StationImport& stationImport,
-    StationExport& stationExport, StationListControls& controls)
-    : editSheet_(editSheet)
-    , stationRemoval_(stationRemoval)
-    , stationImport_(stationImport)
-    , stationExport_(stationExport)
-    , controls_(controls)
-{
-}
-
 void EditorToolbar::toolbar(const ToolbarItem& sender)
 {
     switch (sender.tag()) {

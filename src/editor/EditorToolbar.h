@@ -12,11 +12,17 @@ class StationRemoval;
 class ToolbarItem;
 struct StationListControls;
 
-/// Main thread. Borrows everything it is given.
 class EditorToolbar : private NonCopyable {
 public:
     EditorToolbar(EditSheet& editSheet, StationRemoval& stationRemoval, StationImport& stationImport,
-        StationExport& stationExport, StationListControls& controls);
+        StationExport& stationExport, StationListControls& controls)
+        : editSheet_(editSheet)
+        , stationRemoval_(stationRemoval)
+        , stationImport_(stationImport)
+        , stationExport_(stationExport)
+        , controls_(controls)
+    {
+    }
 
     /// Tag 0 adds, 1 edits, 2 removes, 3 imports, 4 exports; any other does nothing.
     void toolbar(const ToolbarItem& sender);

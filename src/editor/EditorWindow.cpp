@@ -8,15 +8,6 @@
 
 namespace sonavel {
 
-EditorWindow::EditorWindow(
-    const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Window& window)
-    : stationList_(stationList)
-    , localizedStrings_(localizedStrings)
-    , runLoop_(runLoop)
-    , window_(window)
-{
-}
-
 void EditorWindow::updateTitleWebRadioListEdit()
 {
     const auto count = static_cast<long>(stationList_.numberOfStations());

@@ -10,11 +10,16 @@ class RunLoop;
 class StationList;
 class Window;
 
-/// Main thread. Borrows everything it is given.
 class EditorWindow : private NonCopyable {
 public:
     EditorWindow(
-        const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Window& window);
+        const StationList& stationList, const LocalizedStrings& localizedStrings, RunLoop& runLoop, Window& window)
+        : stationList_(stationList)
+        , localizedStrings_(localizedStrings)
+        , runLoop_(runLoop)
+        , window_(window)
+    {
+    }
 
     /// Puts the number of stations into the title. It stays there until the next call, whatever happens to the list.
     void updateTitleWebRadioListEdit();

@@ -7,13 +7,6 @@
 
 namespace sonavel {
 
-StationExport::StationExport(const StationList& stationList, Files& files, FilePanels& filePanels)
-    : stationList_(stationList)
-    , files_(files)
-    , filePanels_(filePanels)
-{
-}
-
 void StationExport::exportRadioListIntoFile()
 {
     const Text path = filePanels_.runModal(SavePanel{"Radio List.csv", files_.homeDirectory()});

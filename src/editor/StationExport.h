@@ -9,10 +9,14 @@ class FilePanels;
 class Files;
 class StationList;
 
-/// Main thread. Borrows everything it is given.
 class StationExport : private NonCopyable {
 public:
-    StationExport(const StationList& stationList, Files& files, FilePanels& filePanels);
+    StationExport(const StationList& stationList, Files& files, FilePanels& filePanels)
+        : stationList_(stationList)
+        , files_(files)
+        , filePanels_(filePanels)
+    {
+    }
 
     /// Lets the user choose a file and writes the list to it: a heading line and a line for each station, in the order
     /// of the list. On failure the file keeps its former content. Changes nothing else.

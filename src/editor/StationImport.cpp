@@ -6,11 +6,10 @@
 #include "platform/Alerts.h"
 #include "platform/FilePanels.h"
 #include "platform/LocalizedStrings.h"
-#include "platform/Questions.h"
 #include "prefs/PreferenceFields.h"
 #include "storage/ListWriter.h"
-#include "storage/PlainListFile.h"
 #include "storage/StationDatabase.h"
+#include "storage/StationListCodec.h"
 #include "ui/Controls.h"
 
 #include <algorithm>
@@ -58,21 +57,6 @@ private:
 
 } // namespace
 
-StationImport::StationImport(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
-    const PreferenceFields& preferences, Files& files, FilePanels& filePanels, Alerts& alerts,
-    const LocalizedStrings& localizedStrings, StationListControls& controls)
-    : stationList_(stationList)
-    , listWriter_(listWriter)
-    , stationDatabase_(stationDatabase)
-    , preferences_(preferences)
-    , files_(files)
-    , filePanels_(filePanels)
-    , alerts_(alerts)
-    , localizedStrings_(localizedStrings)
-    , controls_(controls)
-{
-}
-
 void StationImport::importRadioListFromFile()
 {
     const Text path = filePanels_.runModal(OpenPanel{listTextExtension});
@@ -89,7 +73,7 @@ void StationImport::importRadioListFromFileAtPath(const Text& path)
             return controls_.labelListStatus.announce(localizedStrings_.localizedStringForKey("STATUS_LIST_NOT_KEPT"));
         listWriter_.apply(ListChange::replaced(*stationList_.listRadio(), {}));
     }
-    const auto text = listTextOfPlainFile(files_, path);
+    const auto text = files_.contentsOfFile(path).and_then(plainListText);
     const auto outcome = text.map([this](const Text& list) { return appendStations(list); });
     listWriter_.follow(ListOperation::ImportEnded);
     announce(outcome, backup);

@@ -17,12 +17,22 @@ class StationList;
 struct PreferenceFields;
 struct StationListControls;
 
-/// Main thread. Borrows everything it is given.
 class StationImport : private NonCopyable {
 public:
     StationImport(const StationList& stationList, ListWriter& listWriter, StationDatabase& stationDatabase,
         const PreferenceFields& preferences, Files& files, FilePanels& filePanels, Alerts& alerts,
-        const LocalizedStrings& localizedStrings, StationListControls& controls);
+        const LocalizedStrings& localizedStrings, StationListControls& controls)
+        : stationList_(stationList)
+        , listWriter_(listWriter)
+        , stationDatabase_(stationDatabase)
+        , preferences_(preferences)
+        , files_(files)
+        , filePanels_(filePanels)
+        , alerts_(alerts)
+        , localizedStrings_(localizedStrings)
+        , controls_(controls)
+    {
+    }
 
     /// Lets the user choose a file and imports it.
     void importRadioListFromFile();

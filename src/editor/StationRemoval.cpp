@@ -1,25 +1,13 @@
 #include "editor/StationRemoval.h"
 
 #include "model/StationList.h"
+#include "platform/Alerts.h"
 #include "platform/LocalizedStrings.h"
-#include "platform/Questions.h"
 #include "playback/Player.h"
 #include "storage/ListWriter.h"
 #include "ui/Controls.h"
 
 namespace sonavel {
-
-StationRemoval::StationRemoval(const StationList& stationList, ListWriter& listWriter, Player& player, Alerts& alerts,
-    const LocalizedStrings& localizedStrings, TableView& table, const PopUpButton& popupbuttonRadioList)
-    : stationList_(stationList)
-    , listWriter_(listWriter)
-    , player_(player)
-    , alerts_(alerts)
-    , localizedStrings_(localizedStrings)
-    , table_(table)
-    , popupbuttonRadioList_(popupbuttonRadioList)
-{
-}
 
 void StationRemoval::radioRemoveToList()
 {

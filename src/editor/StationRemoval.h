@@ -14,11 +14,19 @@ class PopUpButton;
 class StationList;
 class TableView;
 
-/// Main thread. Borrows everything it is given.
 class StationRemoval : private NonCopyable {
 public:
     StationRemoval(const StationList& stationList, ListWriter& listWriter, Player& player, Alerts& alerts,
-        const LocalizedStrings& localizedStrings, TableView& table, const PopUpButton& popupbuttonRadioList);
+        const LocalizedStrings& localizedStrings, TableView& table, const PopUpButton& popupbuttonRadioList)
+        : stationList_(stationList)
+        , listWriter_(listWriter)
+        , player_(player)
+        , alerts_(alerts)
+        , localizedStrings_(localizedStrings)
+        , table_(table)
+        , popupbuttonRadioList_(popupbuttonRadioList)
+    {
+    }
 
     /// Asks whether to remove the stations of the table's selected rows, removes what is selected then, and stores. A
     /// single station whose name is the chosen one's is stopped first; among several none is. The order of the others

@@ -4,13 +4,6 @@
 
 namespace sonavel {
 
-KVStationWebRadio::KVStationWebRadio(std::uint64_t idRadio, Text radio, Text link)
-    : idRadio_(idRadio)
-    , radio_(std::move(radio))
-    , link_(std::move(link))
-{
-}
-
 KVStationWebRadio::KVStationWebRadio(const KeyedArchive& archive)
     : KVStationWebRadio(archive.decodeInteger("idRadio"), archive.decodeObject(radioKey), archive.decodeObject(linkKey))
 {

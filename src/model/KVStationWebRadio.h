@@ -1,12 +1,15 @@
-// The record of one internet radio station.
+// The record of one internet radio station, and lists of them.
 #pragma once
 
 #include "base/Text.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace sonavel {
 
@@ -23,7 +26,12 @@ class KVStationWebRadio {
 public:
     /// Number 0, no name, no address.
     KVStationWebRadio() = default;
-    KVStationWebRadio(std::uint64_t idRadio, Text radio, Text link);
+    KVStationWebRadio(std::uint64_t idRadio, Text radio, Text link)
+        : idRadio_(idRadio)
+        , radio_(std::move(radio))
+        , link_(std::move(link))
+    {
+    }
     /// Reads back what `encodeWithCoder` wrote; a missing key gives 0 or an absent text.
     explicit KVStationWebRadio(const KeyedArchive& archive);
 
@@ -55,5 +63,9 @@ private:
     Text radio_;
     Text link_;
 };
+
+/// Shared between lists, hence never altered: a changed station is another record. Not null.
+using StationRecord = std::shared_ptr<const KVStationWebRadio>;
+using StationRecords = std::vector<StationRecord>;
 
 } // namespace sonavel

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/IndexSet.h"
-#include "model/StationRecords.h"
+#include "model/KVStationWebRadio.h"
 
 #include <cstddef>
 #include <vector>

@@ -4,7 +4,6 @@
 #include "base/Text.h"
 #include "model/KVStationWebRadio.h"
 #include "model/ListChange.h"
-#include "model/StationRecords.h"
 
 #include <cstddef>
 #include <optional>

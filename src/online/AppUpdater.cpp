@@ -1,6 +1,6 @@
 #include "online/AppUpdater.h"
 
-#include "online/RequestAddress.h"
+#include "online/WebRequests.h"
 #include "platform/HttpClient.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/WebBrowser.h"
@@ -35,17 +35,6 @@ std::shared_ptr<AppUpdater> AppUpdater::create(const UpdaterPorts& ports, Versio
         {updater->windowUpdater, updater->textFieldLabelUpdateNameApp, updater->textFieldLabelUpdateVersionNote,
             updater->textViewRelaseNote, updater->buttonUpdate, updater->buttonRemind});
     return updater;
-}
-
-AppUpdater::AppUpdater(UpdaterPorts ports, Versions& versions)
-    : ports_(std::move(ports))
-    , versions_(versions)
-{
-}
-
-VersionRecord AppUpdater::returnVersionApp() const
-{
-    return applicationVersionRecord(ports_.bundle);
 }
 
 VersionRecord AppUpdater::returnVersionUpdate()
@@ -86,11 +75,6 @@ void AppUpdater::buttnUpdate()
     const Text page = usableWebAddress(versions_.server.LinkPage);
     if (!page.isAbsent())
         ports_.webBrowser.openAddress(page);
-    windowUpdater.close();
-}
-
-void AppUpdater::buttnRemind()
-{
     windowUpdater.close();
 }
 

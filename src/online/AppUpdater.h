@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace sonavel {
 
@@ -61,7 +62,7 @@ public:
     std::shared_ptr<const std::string> downloadResponse;
     std::int64_t bytesReceived = 0;
 
-    [[nodiscard]] VersionRecord returnVersionApp() const;
+    [[nodiscard]] VersionRecord returnVersionApp() const { return applicationVersionRecord(ports_.bundle); }
     /// Asks the server and sets both dates; without a usable response they are absent, and the record is that of no
     /// version.
     [[nodiscard]] VersionRecord returnVersionUpdate();
@@ -78,10 +79,14 @@ public:
     /// Opens the page of the newest version, if its address is a web address, and closes the window.
     void buttnUpdate();
     /// Closes the window.
-    void buttnRemind();
+    void buttnRemind() { windowUpdater.close(); }
 
 private:
-    AppUpdater(UpdaterPorts ports, Versions& versions);
+    AppUpdater(UpdaterPorts ports, Versions& versions)
+        : ports_(std::move(ports))
+        , versions_(versions)
+    {
+    }
 
     void showWindow();
 

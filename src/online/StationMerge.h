@@ -1,7 +1,7 @@
 // The merge of downloaded stations into stored ones.
 #pragma once
 
-#include "model/StationRecords.h"
+#include "model/KVStationWebRadio.h"
 
 namespace sonavel {
 

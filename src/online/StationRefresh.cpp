@@ -2,9 +2,9 @@
 
 #include "model/StationList.h"
 #include "model/StationListText.h"
-#include "online/RequestAddress.h"
 #include "online/ServerDates.h"
 #include "online/StationMerge.h"
+#include "online/WebRequests.h"
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "prefs/Preferences.h"
@@ -21,18 +21,6 @@ namespace {
 constexpr std::string_view listResource = "app_data_files/testget.php?file=20161001000000_lr.rdb";
 
 } // namespace
-
-StationRefresh::StationRefresh(HttpClient& httpClient, const Clock& clock, Text dataServer,
-    const ServerDates& serverDates, Preferences& preferences, const StationList& stationList, ListWriter& listWriter)
-    : httpClient_(httpClient)
-    , clock_(clock)
-    , dataServer_(std::move(dataServer))
-    , serverDates_(serverDates)
-    , preferences_(preferences)
-    , stationList_(stationList)
-    , listWriter_(listWriter)
-{
-}
 
 bool StationRefresh::isDue() const
 {

@@ -4,6 +4,8 @@
 #include "base/NonCopyable.h"
 #include "base/Text.h"
 
+#include <utility>
+
 namespace sonavel {
 
 class Clock;
@@ -18,7 +20,16 @@ class StationRefresh : private NonCopyable {
 public:
     /// `dataServer` is the data server's base address and ends in "/".
     StationRefresh(HttpClient& httpClient, const Clock& clock, Text dataServer, const ServerDates& serverDates,
-        Preferences& preferences, const StationList& stationList, ListWriter& listWriter);
+        Preferences& preferences, const StationList& stationList, ListWriter& listWriter)
+        : httpClient_(httpClient)
+        , clock_(clock)
+        , dataServer_(std::move(dataServer))
+        , serverDates_(serverDates)
+        , preferences_(preferences)
+        , stationList_(stationList)
+        , listWriter_(listWriter)
+    {
+    }
 
     /// Whether the server's list is newer than the last refresh.
     [[nodiscard]] bool isDue() const;

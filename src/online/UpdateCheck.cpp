@@ -1,6 +1,5 @@
 #include "online/UpdateCheck.h"
 
-#include "online/CalendarDays.h"
 #include "online/ServerDates.h"
 #include "online/StationRefresh.h"
 #include "platform/Clock.h"
@@ -12,16 +11,11 @@
 
 namespace sonavel {
 
-UpdateCheck::UpdateCheck(UpdaterPorts ports, const Clock& clock, Preferences& preferences, ServerDates& serverDates,
-    StationRefresh& stationRefresh, UpdateNoticeControls& notice)
-    : ports_(std::move(ports))
-    , clock_(clock)
-    , preferences_(preferences)
-    , serverDates_(serverDates)
-    , stationRefresh_(stationRefresh)
-    , notice_(notice)
-{
-}
+namespace {
+
+constexpr std::uint32_t secondsPerDayOfDifference = 84'600;
+
+} // namespace
 
 bool UpdateCheck::isDueAtStart() const
 {
@@ -51,6 +45,16 @@ void UpdateCheck::showNotification()
         updaterApp->hasUsableResponse() ? "UPDATE_NONE" : "UPDATE_NO_ANSWER");
     notice_.labelUpdateNotification.setStringValue(filledIn(notice, updaterApp->retrunVersionApp()));
     notice_.winUpdateNotification.makeKeyAndOrderFront();
+}
+
+bool dateComparisonWithPreviousDays(
+    const Clock& clock, Moment previousDay, std::optional<Moment> actualDay, std::int32_t dayOfDifference)
+{
+    // Unsigned, because a signed product may not overflow.
+    const auto shift =
+        static_cast<std::int32_t>(static_cast<std::uint32_t>(dayOfDifference) * secondsPerDayOfDifference);
+    const Moment shifted = actualDay.value_or(clock.now()).advancedBySeconds(-static_cast<std::int64_t>(shift));
+    return clock.calendarDay(previousDay) == clock.calendarDay(shifted);
 }
 
 } // namespace sonavel

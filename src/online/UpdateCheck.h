@@ -4,8 +4,11 @@
 #include "base/NonCopyable.h"
 #include "online/AppUpdater.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace sonavel {
 
@@ -19,7 +22,15 @@ struct UpdateNoticeControls;
 class UpdateCheck : private NonCopyable {
 public:
     UpdateCheck(UpdaterPorts ports, const Clock& clock, Preferences& preferences, ServerDates& serverDates,
-        StationRefresh& stationRefresh, UpdateNoticeControls& notice);
+        StationRefresh& stationRefresh, UpdateNoticeControls& notice)
+        : ports_(std::move(ports))
+        , clock_(clock)
+        , preferences_(preferences)
+        , serverDates_(serverDates)
+        , stationRefresh_(stationRefresh)
+        , notice_(notice)
+    {
+    }
 
     /// The checker of the last check; absent before the first. Its window goes when the next check replaces it.
     std::shared_ptr<AppUpdater> updaterApp;
@@ -50,5 +61,11 @@ private:
     UpdateNoticeControls& notice_;
     std::function<void(const std::shared_ptr<AppUpdater>&)> observer_;
 };
+
+/// Whether `previousDay` falls on the same calendar day of the user as the moment that lies `dayOfDifference` times
+/// 84,600 seconds (23 hours 30 minutes) before `actualDay`, or before now when that is absent. The product is a signed
+/// 32-bit number and wraps around.
+[[nodiscard]] bool dateComparisonWithPreviousDays(
+    const Clock& clock, Moment previousDay, std::optional<Moment> actualDay, std::int32_t dayOfDifference);
 
 } // namespace sonavel

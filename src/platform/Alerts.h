@@ -8,6 +8,8 @@
 
 namespace sonavel {
 
+class LocalizedStrings;
+
 /// What an alert shows: one message and its buttons, in the order in which they were added. Without a button it has the
 /// toolkit's one default button.
 struct Alert {
@@ -28,5 +30,8 @@ public:
     /// text. Main thread; other events of the program are handled meanwhile.
     virtual int runModal(const Alert& alert) = 0;
 };
+
+/// Shows `question` as an alert with the buttons Yes and No; whether the answer is Yes.
+[[nodiscard]] bool isAnsweredYes(Alerts& alerts, const LocalizedStrings& localizedStrings, const Text& question);
 
 } // namespace sonavel

@@ -6,20 +6,6 @@
 
 namespace sonavel {
 
-Player::Player(
-    StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, MainControls& controls, MenuItem& menuMute)
-    : streamPlayers_(streamPlayers)
-    , notificationCenter_(notificationCenter)
-    , controls_(controls)
-    , menuMute_(menuMute)
-{
-}
-
-void Player::buttonPlayPause()
-{
-    playPause();
-}
-
 void Player::playPause()
 {
     if (isPlay)
@@ -46,11 +32,6 @@ void Player::play()
     becomePlaying();
 }
 
-void Player::playIntoBackgroundProcess()
-{
-    play();
-}
-
 void Player::resume()
 {
     mute();
@@ -75,11 +56,6 @@ void Player::pause()
     controls_.buttonStop.setEnabled(true);
     isPlay = false;
     isStop = false;
-}
-
-void Player::buttonStop()
-{
-    stop();
 }
 
 void Player::stop()
@@ -125,7 +101,5 @@ void Player::registerForNotifications()
     for (const char* name : {playbackStalledNotification, newErrorLogEntryNotification})
         notificationCenter_.addObserver([this] { playerError(); }, name, mediaPlayer.get());
 }
-
-void Player::playerError() { }
 
 } // namespace sonavel

@@ -15,12 +15,16 @@ struct MainControls;
 
 /// Three states: Stopped (`isStop`, no `mediaPlayer`), Playing (`isPlay`) and Paused (neither), in each of them muted
 /// or not. What the stream itself does changes none of this: a stream that stalls or fails is still Playing.
-///
-/// Main thread. Borrows everything it is given.
 class Player : private NonCopyable {
 public:
     Player(StreamPlayers& streamPlayers, NotificationCenter& notificationCenter, MainControls& controls,
-        MenuItem& menuMute);
+        MenuItem& menuMute)
+        : streamPlayers_(streamPlayers)
+        , notificationCenter_(notificationCenter)
+        , controls_(controls)
+        , menuMute_(menuMute)
+    {
+    }
 
     bool isPlay = false;
     bool isStop = true;
@@ -40,7 +44,7 @@ public:
     /// `usableStreamAddress`), stops instead.
     void play();
     /// The same steps as `play`, on the calling thread.
-    void playIntoBackgroundProcess();
+    void playIntoBackgroundProcess() { play(); }
     void pause();
     /// Goes on with the present player.
     void resume();
@@ -54,15 +58,15 @@ public:
     void applyVolume() const;
 
     // What the controls do.
-    void buttonPlayPause();
-    void buttonStop();
+    void buttonPlayPause() { playPause(); }
+    void buttonStop() { stop(); }
     void buttonMute();
     void sliderVolume();
 
     /// From now on `playerError` hears of players that stall or fail: of the present one, or of all when there is none.
     void registerForNotifications();
     /// Takes no action: the player goes on trying by itself.
-    void playerError();
+    void playerError() { }
 
 private:
     void becomePlaying();

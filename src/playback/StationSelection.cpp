@@ -3,7 +3,6 @@
 #include "model/StationList.h"
 #include "platform/LocalizedStrings.h"
 #include "playback/Player.h"
-#include "prefs/PlaceholderKeys.h"
 #include "prefs/PreferenceFields.h"
 #include "ui/Controls.h"
 

@@ -14,8 +14,6 @@ struct PreferenceFields;
 
 /// Item 0 of both pop-ups is a placeholder, item i shows the station at position i − 1 of the list. No selected item,
 /// or one beyond the present list, counts as the placeholder.
-///
-/// Main thread. Borrows everything it is given.
 class StationSelection : private NonCopyable {
 public:
     StationSelection(const StationList& stationList, const PreferenceFields& preferences, Player& player,

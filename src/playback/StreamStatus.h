@@ -13,7 +13,14 @@ namespace sonavel {
 /// Main thread. Borrows the players, whose only observer it is.
 class StreamStatus : private NonCopyable {
 public:
-    explicit StreamStatus(StreamPlayers& streamPlayers);
+    explicit StreamStatus(StreamPlayers& streamPlayers)
+    {
+        streamPlayers.setObserver([this](const StreamReport& report) {
+            report_ = report;
+            for (const auto& observer : observers_)
+                observer();
+        });
+    }
 
     [[nodiscard]] const StreamReport& report() const { return report_; }
 

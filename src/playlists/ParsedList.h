@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Text.h"
-#include "model/StationRecords.h"
+#include "model/KVStationWebRadio.h"
 
 #include <cstdint>
 #include <optional>

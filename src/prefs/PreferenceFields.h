@@ -6,8 +6,14 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace sonavel {
+
+/// The keys of the titles that the station pop-ups show before any station: where none is chosen, and where there are
+/// none. A default station may be stored as one, too.
+inline constexpr std::string_view selectRadioKey = "POP_UP_BUTTON_SELECT_RADIO";
+inline constexpr std::string_view selectRadioNullKey = "POP_UP_BUTTON_SELECT_RADIO_NULL";
 
 struct PreferenceFields {
     /// Choosing a station plays it at once.

@@ -1,7 +1,7 @@
 #include "prefs/PreferenceTexts.h"
 
 #include "base/Numbers.h"
-#include "prefs/PlaceholderKeys.h"
+#include "prefs/PreferenceFields.h"
 
 #include <cmath>
 #include <limits>

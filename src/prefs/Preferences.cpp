@@ -8,13 +8,6 @@
 
 namespace sonavel {
 
-Preferences::Preferences(PreferenceDomains& domains, Bundle bundle, const Window& winWebRadioListEdit)
-    : domains_(domains)
-    , bundle_(std::move(bundle))
-    , winWebRadioListEdit_(winWebRadioListEdit)
-{
-}
-
 void Preferences::setStartValues()
 {
     setPreferenceStartValues(*this);

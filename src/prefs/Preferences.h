@@ -5,6 +5,8 @@
 #include "platform/PreferenceDomains.h"
 #include "prefs/PreferenceFields.h"
 
+#include <utility>
+
 namespace sonavel {
 
 class Window;
@@ -12,7 +14,12 @@ class Window;
 /// The fields are the live preferences; the stored domain is a copy from the last `updatePreference`. Main thread.
 class Preferences : public PreferenceFields {
 public:
-    Preferences(PreferenceDomains& domains, Bundle bundle, const Window& winWebRadioListEdit);
+    Preferences(PreferenceDomains& domains, Bundle bundle, const Window& winWebRadioListEdit)
+        : domains_(domains)
+        , bundle_(std::move(bundle))
+        , winWebRadioListEdit_(winWebRadioListEdit)
+    {
+    }
 
     /// Sets the fields to what they are before the first run.
     void setStartValues();

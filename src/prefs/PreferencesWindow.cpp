@@ -6,14 +6,6 @@
 
 namespace sonavel {
 
-PreferencesWindow::PreferencesWindow(
-    PreferenceFields& preferences, const StationList& stationList, PreferencesControls& controls)
-    : preferences_(preferences)
-    , stationList_(stationList)
-    , controls_(controls)
-{
-}
-
 void PreferencesWindow::showPreferences()
 {
     controls_.winPreferences.beginSheet();

@@ -10,11 +10,14 @@ struct PreferenceFields;
 struct PreferencesControls;
 
 /// Its actions change the fields alone; they are stored at the next store of the preferences.
-///
-/// Main thread. Borrows everything it is given.
 class PreferencesWindow : private NonCopyable {
 public:
-    PreferencesWindow(PreferenceFields& preferences, const StationList& stationList, PreferencesControls& controls);
+    PreferencesWindow(PreferenceFields& preferences, const StationList& stationList, PreferencesControls& controls)
+        : preferences_(preferences)
+        , stationList_(stationList)
+        , controls_(controls)
+    {
+    }
 
     /// Opens the sheet; does nothing while it is open.
     void showPreferences();

@@ -4,7 +4,7 @@
 #include "base/Moment.h"
 #include "base/Numbers.h"
 #include "base/TextDecoding.h"
-#include "online/RequestAddress.h"
+#include "online/WebRequests.h"
 
 #include <algorithm>
 #include <array>

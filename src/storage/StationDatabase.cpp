@@ -3,18 +3,9 @@
 #include "model/StationList.h"
 #include "model/StationListText.h"
 #include "storage/Backups.h"
-#include "storage/PlainListFile.h"
 #include "storage/StationListCodec.h"
 
 namespace sonavel {
-
-StationDatabase::StationDatabase(Files& files, const StationList& list)
-    : files_(files)
-    , list_(list)
-    , database_(UserFile::inPreferences(UserFile::Kind::StationList, files.homeDirectory(), stationDatabaseName))
-    , legacyList_(UserFile::inPreferences(UserFile::Kind::StationList, files.homeDirectory(), legacyListName))
-{
-}
 
 bool StationDatabase::fileRadioDBVerify(bool legacy) const
 {
@@ -24,7 +15,7 @@ bool StationDatabase::fileRadioDBVerify(bool legacy) const
 Text StationDatabase::fileRadioDBreadCypted(bool crypted)
 {
     if (!crypted)
-        return listTextOfPlainFile(files_, legacyList_.path).value_or(Text());
+        return files_.contentsOfFile(legacyList_.path).and_then(plainListText).value_or(Text());
     files_.removeUnfinishedWrite(database_.path);
     Text text = files_.contentsOfFile(database_.path).map(decodeStationList).value_or(Text());
     databaseMayBeReplaced_ = !text.isAbsent();

@@ -24,7 +24,13 @@ class StationList;
 /// Main thread. Borrows the files and the list.
 class StationDatabase : private NonCopyable {
 public:
-    StationDatabase(Files& files, const StationList& list);
+    StationDatabase(Files& files, const StationList& list)
+        : files_(files)
+        , list_(list)
+        , database_(UserFile::inPreferences(UserFile::Kind::StationList, files.homeDirectory(), stationDatabaseName))
+        , legacyList_(UserFile::inPreferences(UserFile::Kind::StationList, files.homeDirectory(), legacyListName))
+    {
+    }
 
     /// Whether the legacy file, or else the database file, is there, readable or not.
     [[nodiscard]] bool fileRadioDBVerify(bool legacy) const;

@@ -1,7 +1,7 @@
 #include "storage/StationListCodec.h"
 
+#include "base/TextDecoding.h"
 #include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
 
 #include <utility>
 
@@ -16,6 +16,14 @@ Text encodeStationList(std::string listText)
 Text decodeStationList(std::string content)
 {
     return AES256DecryptWithKey(Text(std::move(content)), stationDatabasePassphrase);
+}
+
+FileResult<Text> plainListText(std::string content)
+{
+    if (!isValidUtf8(content))
+        return tl::unexpected(std::make_error_code(std::errc::illegal_byte_sequence));
+    const Text text(std::move(content));
+    return text.slice(withoutByteOrderMark(text.view()));
 }
 
 } // namespace sonavel

@@ -1,7 +1,7 @@
 // A station list for people, and for programs that read lines.
 #pragma once
 
-#include "model/StationRecords.h"
+#include "model/KVStationWebRadio.h"
 
 #include <string>
 

@@ -25,27 +25,12 @@ class Button : public Rendered<ButtonState> {
 public:
     [[nodiscard]] Text title() const { return state().title; }
 
-    void setTitle(const Text& title)
-    {
-        update([&](ButtonState& state) { state.title = title; });
-    }
+    void setTitle(const Text& title) { set(&ButtonState::title, title); }
     /// Colours the whole title; its text stays.
-    void setTitleColor(TitleColor color)
-    {
-        update([&](ButtonState& state) { state.titleColor = color; });
-    }
-    void setImage(const Text& name)
-    {
-        update([&](ButtonState& state) { state.image = name; });
-    }
-    void setEnabled(bool enabled)
-    {
-        update([&](ButtonState& state) { state.isEnabled = enabled; });
-    }
-    void setState(bool on)
-    {
-        update([&](ButtonState& state) { state.isOn = on; });
-    }
+    void setTitleColor(TitleColor color) { set(&ButtonState::titleColor, color); }
+    void setImage(const Text& name) { set(&ButtonState::image, name); }
+    void setEnabled(bool enabled) { set(&ButtonState::isEnabled, enabled); }
+    void setState(bool on) { set(&ButtonState::isOn, on); }
 
     /// The user pressed it.
     void pressedByUser()

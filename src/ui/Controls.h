@@ -9,7 +9,6 @@
 #include "ui/TableView.h"
 #include "ui/TextField.h"
 #include "ui/Toolbar.h"
-#include "ui/ToolbarItem.h"
 #include "ui/Window.h"
 
 namespace sonavel {

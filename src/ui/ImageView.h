@@ -15,10 +15,7 @@ struct ImageViewState {
 
 class ImageView : public Rendered<ImageViewState> {
 public:
-    void setImage(const Text& name)
-    {
-        update([&](ImageViewState& state) { state.image = name; });
-    }
+    void setImage(const Text& name) { set(&ImageViewState::image, name); }
 };
 
 } // namespace sonavel

@@ -22,18 +22,9 @@ class MenuItem : public Rendered<MenuItemState> {
 public:
     [[nodiscard]] int tag() const { return state().tag; }
 
-    void setTitle(const Text& title)
-    {
-        update([&](MenuItemState& state) { state.title = title; });
-    }
-    void setEnabled(bool enabled)
-    {
-        update([&](MenuItemState& state) { state.isEnabled = enabled; });
-    }
-    void setState(bool on)
-    {
-        update([&](MenuItemState& state) { state.isOn = on; });
-    }
+    void setTitle(const Text& title) { set(&MenuItemState::title, title); }
+    void setEnabled(bool enabled) { set(&MenuItemState::isEnabled, enabled); }
+    void setState(bool on) { set(&MenuItemState::isOn, on); }
 
     /// The user chose it, or pressed its key.
     void chosenByUser() const

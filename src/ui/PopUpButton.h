@@ -65,10 +65,7 @@ public:
         const bool exists = index >= 0 && index < numberOfItems();
         update([&](PopUpButtonState& state) { state.selectedIndex = exists ? index : -1; });
     }
-    void setEnabled(bool enabled)
-    {
-        update([&](PopUpButtonState& state) { state.isEnabled = enabled; });
-    }
+    void setEnabled(bool enabled) { set(&PopUpButtonState::isEnabled, enabled); }
 
     /// The user chose an item, the selected one perhaps.
     void chosenByUser(int index)

@@ -4,6 +4,7 @@
 #include "base/NonCopyable.h"
 
 #include <functional>
+#include <type_traits>
 #include <utility>
 
 namespace sonavel {
@@ -40,9 +41,14 @@ protected:
     /// Applies `change` and renders once, or not at all if nothing changed.
     template <class Change> void update(Change&& change)
     {
-        if (!store(std::forward<Change>(change)) || !render_)
-            return;
-        render_(state_);
+        if (store(std::forward<Change>(change)) && render_)
+            render_(state_);
+    }
+
+    /// The same for one field.
+    template <class Value> void set(Value State::*field, const std::type_identity_t<Value>& value)
+    {
+        update([&](State& state) { state.*field = value; });
     }
 
     /// Applies a change that the toolkit shows already, because the user made it there. Whether anything changed.

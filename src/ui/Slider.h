@@ -4,6 +4,7 @@
 #include "ui/Rendered.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace sonavel {
 
@@ -40,10 +41,7 @@ public:
     {
         update([&](SliderState& state) { put(state, value); });
     }
-    void setEnabled(bool enabled)
-    {
-        update([&](SliderState& state) { state.isEnabled = enabled; });
-    }
+    void setEnabled(bool enabled) { set(&SliderState::isEnabled, enabled); }
 
     /// The user moved it.
     void movedByUser(double value)
@@ -57,7 +55,7 @@ public:
 private:
     static void put(SliderState& state, double value)
     {
-        if (value == value)
+        if (!std::isnan(value))
             state.value = std::max(state.minValue, std::min(value, state.maxValue));
     }
 };

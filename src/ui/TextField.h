@@ -18,10 +18,7 @@ class TextField : public Rendered<TextFieldState> {
 public:
     [[nodiscard]] Text stringValue() const { return state().stringValue; }
 
-    void setStringValue(const Text& text)
-    {
-        update([&](TextFieldState& state) { state.stringValue = text; });
-    }
+    void setStringValue(const Text& text) { set(&TextFieldState::stringValue, text); }
 
     /// Shows the text as something new, also where the same words are there already.
     void announce(const Text& text)

@@ -26,14 +26,8 @@ public:
     [[nodiscard]] bool isVisible() const { return state().isVisible; }
     [[nodiscard]] bool isKeyWindow() const { return state().isKeyWindow; }
 
-    void setTitle(const Text& title)
-    {
-        update([&](WindowState& state) { state.title = title; });
-    }
-    void setIsVisible(bool visible)
-    {
-        update([&](WindowState& state) { state.isVisible = visible; });
-    }
+    void setTitle(const Text& title) { set(&WindowState::title, title); }
+    void setIsVisible(bool visible) { set(&WindowState::isVisible, visible); }
     /// Shows the window, above the others and with the keyboard.
     void makeKeyAndOrderFront()
     {

@@ -1,5 +1,4 @@
-#include "online/Connectivity.h"
-#include "online/RequestAddress.h"
+#include "online/WebRequests.h"
 #include "support/ControllerTest.h"
 
 #include <algorithm>

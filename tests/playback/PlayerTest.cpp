@@ -1,24 +1,47 @@
-#include "support/ControllerTest.h"
+#include "playback/Player.h"
+
+#include "platform/NotificationCenter.h"
+#include "support/RecordingStreamPlayers.h"
+#include "ui/Controls.h"
+
+#include <gtest/gtest.h>
 
 namespace sonavel {
 namespace {
 
-class PlayerTest : public ControllerTest {
+class PlayerTest : public testing::Test {
 protected:
+    RecordingStreamPlayers streams;
+    NotificationCenter notificationCenter;
+    MainControls controls;
+    MenuItem menuMute;
+    Player player{streams, notificationCenter, controls, menuMute};
+
     void SetUp() override
     {
-        putPreferences({{"defaultVolume", "0.5"}});
-        startWithStations("Alpha;http://alpha.example/\rBeta;http://beta.example/\r");
-        controls.main.popupbuttonRadioList.chosenByUser(1);
+        for (Button* button : {&controls.buttonPlayPause, &controls.buttonStop, &controls.buttonMute})
+            button->connect({{}, {}, {}, true, false});
+        controls.buttonPlayPause.setImage("play.png");
+        controls.buttonStop.setEnabled(false);
+        controls.buttonMute.setTitle("Mute");
+        controls.imageVolume.connect({});
+        controls.sliderVolume.connect({0.0, 1.0, 0.5, true});
+        menuMute.connect({});
+        player.registerForNotifications();
+        player.playRadioLink = "http://alpha.example/";
+        player.playRadioName = "Alpha";
     }
 
-    Player& player = controller.player;
-    RecordingStreamPlayers& streams = platform.streamPlayers;
+    void moveSlider(double value)
+    {
+        controls.sliderVolume.movedByUser(value);
+        player.sliderVolume();
+    }
 
     void expectStopped()
     {
         expectState(false, true, "play.png");
-        EXPECT_FALSE(controls.main.buttonStop.state().isEnabled);
+        EXPECT_FALSE(controls.buttonStop.state().isEnabled);
         EXPECT_EQ(player.mediaPlayer, nullptr);
     }
     void expectPlaying() { expectState(true, false, "pause.png"); }
@@ -29,21 +52,21 @@ private:
     {
         EXPECT_EQ(player.isPlay, isPlay);
         EXPECT_EQ(player.isStop, isStop);
-        EXPECT_EQ(controls.main.buttonPlayPause.state().image, image);
-        EXPECT_EQ(controls.main.buttonStop.state().isEnabled, !isStop);
+        EXPECT_EQ(controls.buttonPlayPause.state().image, image);
+        EXPECT_EQ(controls.buttonStop.state().isEnabled, !isStop);
     }
 };
 
 TEST_F(PlayerTest, PlayPauseGoesOnWithTheSamePlayer)
 {
     expectStopped();
-    controls.main.buttonPlayPause.pressedByUser();
+    player.buttonPlayPause();
     expectPlaying();
     EXPECT_TRUE(streams.last().isPlaying);
-    controls.main.buttonPlayPause.pressedByUser();
+    player.buttonPlayPause();
     expectPaused();
     EXPECT_FALSE(streams.last().isPlaying);
-    controls.main.buttonPlayPause.pressedByUser();
+    player.buttonPlayPause();
     expectPlaying();
     EXPECT_TRUE(streams.last().isPlaying);
     EXPECT_EQ(streams.players.size(), 1U);
@@ -53,28 +76,26 @@ TEST_F(PlayerTest, PlayPauseGoesOnWithTheSamePlayer)
 
 TEST_F(PlayerTest, ANewPlayerSoundsAsTheControlsSayBeforeItStarts)
 {
-    controls.main.imageVolume.connect({});
-    controls.menu.menuMute.connect({});
-    controls.main.buttonMute.pressedByUser();
+    player.buttonMute();
     player.play();
     EXPECT_EQ(streams.last().said, (std::vector<std::string>{"volume", "muted", "play"}));
     EXPECT_EQ(streams.last().volume, 0.5F);
     EXPECT_TRUE(streams.last().isMuted);
-    EXPECT_FALSE(controls.main.sliderVolume.state().isEnabled);
-    EXPECT_EQ(controls.main.buttonMute.state().titleColor, TitleColor::Red);
-    EXPECT_EQ(controls.main.buttonMute.state().title, Text("Mute"));
-    EXPECT_TRUE(controls.main.buttonMute.state().isOn);
-    EXPECT_TRUE(controls.menu.menuMute.state().isOn);
-    EXPECT_EQ(controls.main.imageVolume.state().image, Text("muted.png"));
+    EXPECT_FALSE(controls.sliderVolume.state().isEnabled);
+    EXPECT_EQ(controls.buttonMute.state().titleColor, TitleColor::Red);
+    EXPECT_EQ(controls.buttonMute.state().title, Text("Mute"));
+    EXPECT_TRUE(controls.buttonMute.state().isOn);
+    EXPECT_TRUE(menuMute.state().isOn);
+    EXPECT_EQ(controls.imageVolume.state().image, Text("muted.png"));
 
-    controls.main.buttonMute.pressedByUser();
+    player.buttonMute();
     EXPECT_FALSE(streams.last().isMuted);
     EXPECT_EQ(streams.last().volume, 0.5F);
-    EXPECT_TRUE(controls.main.sliderVolume.state().isEnabled);
-    EXPECT_EQ(controls.main.buttonMute.state().titleColor, TitleColor::Black);
-    EXPECT_FALSE(controls.main.buttonMute.state().isOn);
-    EXPECT_FALSE(controls.menu.menuMute.state().isOn);
-    EXPECT_EQ(controls.main.imageVolume.state().image, Text("volume.png"));
+    EXPECT_TRUE(controls.sliderVolume.state().isEnabled);
+    EXPECT_EQ(controls.buttonMute.state().titleColor, TitleColor::Black);
+    EXPECT_FALSE(controls.buttonMute.state().isOn);
+    EXPECT_FALSE(menuMute.state().isOn);
+    EXPECT_EQ(controls.imageVolume.state().image, Text("volume.png"));
 }
 
 TEST_F(PlayerTest, PlayWhilePlayingSilencesTheFormerPlayer)
@@ -104,7 +125,7 @@ TEST_F(PlayerTest, StopSilencesAndKeepsTheItem)
 {
     player.play();
     player.pause();
-    controls.main.buttonStop.pressedByUser();
+    player.buttonStop();
     expectStopped();
     EXPECT_TRUE(streams.last().isGone);
     EXPECT_EQ(player.playerItem->address, Text("http://alpha.example/"));
@@ -114,13 +135,12 @@ TEST_F(PlayerTest, StopSilencesAndKeepsTheItem)
 
 TEST_F(PlayerTest, TheSliderIsHeardAtOnceAndRememberedWhileStopped)
 {
-    controls.main.sliderVolume.movedByUser(0.25);
+    moveSlider(0.25);
     EXPECT_EQ(player.sliderValue, 0.25F);
     player.play();
     EXPECT_EQ(streams.last().volume, 0.25F);
-    controls.main.sliderVolume.movedByUser(0.75);
+    moveSlider(0.75);
     EXPECT_EQ(streams.last().volume, 0.75F);
-    EXPECT_EQ(controller.preferences.PREF_DEFAULT_VOLUME, 0.5F);
 }
 
 TEST_F(PlayerTest, AnUnusableAddressSilencesThePlayerAndLoadsNothing)
@@ -140,8 +160,8 @@ TEST_F(PlayerTest, AnUnusableAddressSilencesThePlayerAndLoadsNothing)
 TEST_F(PlayerTest, AStreamThatFailsChangesNothing)
 {
     player.play();
-    platform.notificationCenter.postNotificationName(playbackStalledNotification, player.mediaPlayer.get());
-    platform.notificationCenter.postNotificationName(newErrorLogEntryNotification, player.mediaPlayer.get());
+    notificationCenter.postNotificationName(playbackStalledNotification, player.mediaPlayer.get());
+    notificationCenter.postNotificationName(newErrorLogEntryNotification, player.mediaPlayer.get());
     expectPlaying();
     EXPECT_FALSE(streams.last().isGone);
 }

@@ -1,6 +1,6 @@
 #include "storage/AESCrypt.h"
 
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "model/StationList.h"
 #include "model/StationListText.h"
 #include "storage/AESCrypt.h"
-#include "storage/Passphrase.h"
+#include "storage/StationListCodec.h"
 #include "support/MemoryFiles.h"
 
 #include <gtest/gtest.h>

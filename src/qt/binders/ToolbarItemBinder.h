@@ -1,7 +1,7 @@
 // Binds a tool of the program's toolbar to an action of Qt's.
 #pragma once
 
-#include "ui/ToolbarItem.h"
+#include "ui/Toolbar.h"
 
 #include <QAction>
 

@@ -1,6 +1,5 @@
-#include "platform/Questions.h"
-
 #include "platform/Alerts.h"
+
 #include "platform/LocalizedStrings.h"
 
 namespace sonavel {

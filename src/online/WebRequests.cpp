@@ -1,7 +1,8 @@
-#include "online/RequestAddress.h"
+#include "online/WebRequests.h"
 
 #include "base/Ascii.h"
 #include "model/StreamAddress.h"
+#include "platform/HttpClient.h"
 
 #include <algorithm>
 
@@ -39,6 +40,15 @@ Text usableWebAddress(const Text& address)
     const bool isWeb = beginsWithIgnoringCase(text, "http://") || beginsWithIgnoringCase(text, "https://");
     const bool isEscaped = std::all_of(text.begin(), text.end(), mayStandInAddress);
     return isWeb && isEscaped && !hostOfStreamAddress(address).isAbsent() ? address : Text();
+}
+
+bool hasInternetWithSite(HttpClient& httpClient, const Text& site)
+{
+    HttpRequest request;
+    request.address = site;
+    request.cachePolicy = HttpRequest::CachePolicy::ReloadIgnoringLocalCache;
+    request.timeout = std::chrono::seconds(5);
+    return httpClient.sendSynchronousRequest(request).has_value();
 }
 
 } // namespace sonavel
