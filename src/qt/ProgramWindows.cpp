@@ -2,7 +2,6 @@
 
 #include "app/Actions.h"
 #include "platform/Bundle.h"
-#include "qt/binders/InitialState.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"

@@ -1,16 +1,12 @@
 // What the core says reaches the widgets and nothing comes back; what the user does reaches the core once.
 #include "UserInput.h"
 #include "platform/Interfaces.h"
-#include "qt/binders/ButtonBinder.h"
-#include "qt/binders/InitialState.h"
-#include "qt/binders/LabelBinder.h"
+#include "qt/binders/Binders.h"
 #include "qt/binders/OutletConnector.h"
-#include "qt/binders/PopUpBinder.h"
-#include "qt/binders/SliderBinder.h"
-#include "qt/binders/WindowBinder.h"
 #include "qt/kit/ApplicationStyle.h"
 #include "qt/kit/Palettes.h"
 #include "qt/kit/PrimaryButton.h"
+#include "qt/kit/StationComboBox.h"
 #include "qt/windows/ProgramDialog.h"
 #include "qt/windows/ProgramMenus.h"
 #include "qt/windows/editsheet/EditSheetDialog.h"
@@ -28,6 +24,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSlider>
 
 #include <gtest/gtest.h>
 
@@ -46,7 +43,7 @@ protected:
     PopUpBinding()
     {
         widget.setStyle(&style);
-        new PopUpBinder(popUp, widget);
+        bind(popUp, widget);
         popUp.setItems(titles({"Choose a station", "First", "Second", "Third"}));
         popUp.setEnabled(true);
         popUp.action.set([this] { chosen.push_back(popUp.indexOfSelectedItem()); });
@@ -165,7 +162,7 @@ TEST(SliderBinding, RenderingKeepsTheProgramsOwnValueAndAMoveIsStoredBeforeTheAc
     Slider slider;
     QSlider widget;
     widget.setMaximum(100);
-    new SliderBinder(slider, widget);
+    bind(slider, widget);
     EXPECT_EQ(slider.state().maxValue, 1.0);
     std::vector<float> heard;
     slider.action.set([&] { heard.push_back(slider.floatValue()); });
@@ -192,7 +189,7 @@ TEST(ButtonBinding, LooksFollowTheProgramWithoutAClick)
     Button button;
     QPushButton widget("Play");
     widget.setProperty("imageName", "play.png");
-    new ButtonBinder(button, widget);
+    bind(button, widget);
     EXPECT_EQ(button.state().image, Text("play.png"));
     const auto picture = [&] { return widget.icon().pixmap(16).toImage(); };
     const QImage light = picture();
@@ -219,13 +216,13 @@ TEST(LabelBinding, WhatAServerSaysIsNoMarkup)
 {
     TextField field;
     QLabel widget;
-    new LabelBinder(field, widget);
+    bind(field, widget);
     field.setStringValue("<b>1</b>");
     EXPECT_EQ(widget.text(), "<b>1</b>");
     EXPECT_EQ(widget.textFormat(), Qt::PlainText);
     TextField notes;
     QPlainTextEdit lines;
-    new LabelBinder(notes, lines);
+    bind(notes, lines);
     notes.setStringValue("<b>1</b>\n2");
     EXPECT_EQ(lines.toPlainText(), "<b>1</b>\n2");
 }
@@ -234,7 +231,7 @@ TEST(ButtonBinding, RedIsShownAndTakenBackAndAmpersandsAreNoShortcuts)
 {
     Button button;
     QPushButton widget("Mute");
-    new ButtonBinder(button, widget);
+    bind(button, widget);
     const QColor usual = widget.palette().color(QPalette::ButtonText);
     button.setTitleColor(TitleColor::Red);
     EXPECT_GT(widget.palette().color(QPalette::ButtonText).red(), 150);
@@ -266,7 +263,7 @@ TEST(ButtonBinding, AButtonThatIsDisabledForAMomentKeepsTheKeyboard)
     QPushButton stop("Stop");
     layout.addWidget(&play);
     layout.addWidget(&stop);
-    new ButtonBinder(button, play);
+    bind(button, play);
     window.show();
     window.activateWindow();
     ASSERT_TRUE(handleEventsUntil([&] { return window.isActiveWindow(); }));
@@ -286,7 +283,7 @@ TEST(ButtonBinding, ACheckBoxReportsTheUsersTicksAlone)
 {
     Button button;
     QCheckBox widget;
-    new ButtonBinder(button, widget);
+    bind(button, widget);
     std::vector<bool> heard;
     button.action.set([&] { heard.push_back(button.state().isOn); });
     button.setState(true);
@@ -299,7 +296,7 @@ TEST(WindowBinding, ClosingAsksTheProgramAndHidesNothing)
 {
     Window window;
     QWidget widget;
-    new WindowBinder(window, widget);
+    bind(window, widget);
     int requests = 0;
     window.action.set([&] { ++requests; });
     window.makeKeyAndOrderFront();
@@ -433,7 +430,7 @@ TEST(Connecting, WhenTheWindowGoesAwayItsOutletsLetGo)
     Button button;
     {
         QPushButton widget;
-        new ButtonBinder(button, widget);
+        bind(button, widget);
         EXPECT_TRUE(button.isConnected());
     }
     EXPECT_FALSE(button.isConnected());

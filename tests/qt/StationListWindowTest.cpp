@@ -3,7 +3,6 @@
 
 #include "StationRows.h"
 #include "UserInput.h"
-#include "qt/binders/InitialState.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/StationComboBox.h"
 #include "qt/kit/StatusLine.h"

@@ -1,8 +1,9 @@
 // The table of the station list: rows and selection of the program, selection and edits of the user.
 #include "StationRows.h"
 #include "UserInput.h"
-#include "qt/binders/TableBinder.h"
+#include "qt/binders/Binders.h"
 #include "qt/windows/stationlist/StationCellDelegate.h"
+#include "qt/windows/stationlist/StationTable.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -24,7 +25,7 @@ protected:
         table.setEditAction(
             [this](const CellEdit& edit) { rows.tableView(table, edit.value, edit.column.view(), edit.row); });
         table.doubleAction.set([this] { ++doubleClicks; });
-        new TableBinder(table, widget);
+        bind(table, widget);
         table.setAllowsMultipleSelection(true);
         fill(5);
         widget.resize(500, 300);

@@ -1,10 +1,11 @@
 // A field whose text the program corrects while the user types.
-#include "qt/binders/TextFieldBinder.h"
+#include "qt/binders/Binders.h"
 
 #include "UserInput.h"
 #include "qt/kit/TextConversion.h"
 
 #include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -16,7 +17,7 @@ class TextFieldTest : public testing::Test {
 protected:
     TextFieldTest()
     {
-        new TextFieldBinder(field, widget);
+        bind(field, widget);
         field.action.set([this] {
             ++reports;
             QString text = toQString(field.stringValue());

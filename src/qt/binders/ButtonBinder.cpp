@@ -1,9 +1,10 @@
-#include "qt/binders/ButtonBinder.h"
-
+#include "qt/binders/Binder.h"
+#include "qt/binders/Binders.h"
 #include "qt/kit/Images.h"
 #include "qt/kit/Palettes.h"
 #include "qt/kit/TextConversion.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QSignalBlocker>
 #include <QVariant>
@@ -12,10 +13,27 @@
 
 namespace sonavel {
 
+namespace {
+
+class ButtonBinder : public Binder<Button, QAbstractButton> {
+public:
+    ButtonBinder(Button& button, QAbstractButton& widget);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void render(const ButtonState& state);
+    void renderWords(const ButtonState& state);
+    void renderColors(const ButtonState& state);
+    void renderEnabling(bool isEnabled);
+
+    bool isRed_ = false;
+    bool isRenderingColors_ = false;
+    bool lostKeyboard_ = false; ///< in this turn of the loop, to its being disabled
+};
+
 ButtonBinder::ButtonBinder(Button& button, QAbstractButton& widget)
-    : QObject(&widget)
-    , button_(button)
-    , widget_(widget)
+    : Binder(button, widget)
 {
     ButtonState initialState;
     initialState.title = toText(widget.text());
@@ -23,26 +41,21 @@ ButtonBinder::ButtonBinder(Button& button, QAbstractButton& widget)
         initialState.image = toText(image.toString());
     initialState.isEnabled = widget.isEnabled();
     initialState.isOn = widget.isChecked();
-    button_.connect(initialState, [this](const ButtonState& state) { render(state); });
-    render(button_.state());
+    control_.connect(initialState, [this](const ButtonState& state) { render(state); });
+    render(control_.state());
 
     // A screen reader toggles a check box without a click; a plain button is only ever clicked.
     if (widget.isCheckable())
-        connect(&widget, &QAbstractButton::toggled, this, [this](bool isOn) { button_.toggledByUser(isOn); });
+        connect(&widget, &QAbstractButton::toggled, this, [this](bool isOn) { control_.toggledByUser(isOn); });
     else
-        connect(&widget, &QAbstractButton::clicked, this, [this] { button_.pressedByUser(); });
+        connect(&widget, &QAbstractButton::clicked, this, [this] { control_.pressedByUser(); });
     widget.installEventFilter(this);
-}
-
-ButtonBinder::~ButtonBinder()
-{
-    button_.disconnect();
 }
 
 bool ButtonBinder::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange && !isRenderingColors_)
-        renderColors(button_.state());
+        renderColors(control_.state());
     return QObject::eventFilter(watched, event);
 }
 
@@ -69,12 +82,16 @@ void ButtonBinder::renderEnabling(bool isEnabled)
         this, [this] { lostKeyboard_ = false; }, Qt::QueuedConnection);
 }
 
+/// With the image of what it does, it says that too, whatever its title.
 void ButtonBinder::renderWords(const ButtonState& state)
 {
-    const QString word = wordForImage(state.image);
-    widget_.setText(escapeMnemonics(word.isNull() ? toQString(state.title) : word));
-    if (!word.isNull())
-        widget_.setToolTip(hintForImage(state.image));
+    const bool plays = state.image == Text("play.png");
+    if (!plays && state.image != Text("pause.png")) {
+        widget_.setText(escapeMnemonics(toQString(state.title)));
+        return;
+    }
+    widget_.setText(escapeMnemonics(qtTrId(plays ? "BUTTON_PLAY" : "BUTTON_PAUSE")));
+    widget_.setToolTip(qtTrId(plays ? "HINT_PLAY" : "HINT_PAUSE"));
 }
 
 void ButtonBinder::renderColors(const ButtonState& state)
@@ -91,6 +108,13 @@ void ButtonBinder::renderColors(const ButtonState& state)
     if (!state.image.isAbsent())
         widget_.setIcon(imageNamed(state.image, widget_.palette()));
     isRenderingColors_ = false;
+}
+
+} // namespace
+
+void bind(Button& button, QAbstractButton& widget)
+{
+    new ButtonBinder(button, widget);
 }
 
 } // namespace sonavel

@@ -1,7 +1,5 @@
-#include "qt/binders/InitialState.h"
-
+#include "qt/binders/OutletConnector.h"
 #include "qt/kit/TextConversion.h"
-#include "ui/Controls.h"
 
 namespace sonavel {
 
@@ -19,10 +17,7 @@ void connectTitled(Window& window, const char* key)
 
 void connectTitled(Button& button, const char* key)
 {
-    ButtonState state;
-    state.title = translated(key);
-    state.isEnabled = true;
-    button.connect(state);
+    button.connect({.title = translated(key), .image = {}, .isEnabled = true});
 }
 
 void connectText(TextField& field, const char* key)

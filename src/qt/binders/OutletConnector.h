@@ -30,4 +30,8 @@ void connectUpdateNotice(UpdateNoticeControls& controls, QWidget& window);
 void connectUpdateWindow(const UpdaterControls& controls, QWidget& window);
 void connectMenus(MenuControls& controls, const ProgramMenus& menus);
 
+/// For as long as the windows beside the main window are not built, connects their controls to the state that the
+/// layouts of these windows give them. Changes made meanwhile are rendered when the windows are connected.
+void connectInitialState(Controls& controls);
+
 } // namespace sonavel

@@ -1,5 +1,9 @@
-#include "qt/binders/TableBinder.h"
+#include "qt/binders/Binder.h"
+#include "qt/binders/Binders.h"
+#include "qt/windows/stationlist/StationTable.h"
+#include "qt/windows/stationlist/StationTableModel.h"
 
+#include <QItemSelection>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -32,26 +36,33 @@ QItemSelection selectionOf(const IndexSet& rows, const QAbstractItemModel& model
     return selection;
 }
 
-} // namespace
+class TableBinder : public Binder<TableView, StationTable> {
+public:
+    TableBinder(TableView& table, StationTable& widget);
+
+private:
+    void render(const TableViewState& state);
+    void renderSelection(const TableViewState& state);
+    void report(const QItemSelection& selected);
+
+    StationTableModel model_;
+    bool isRendering_ = false;
+    unsigned reloadsSeen_ = 0;
+    unsigned scrollRequestsSeen_ = 0;
+    unsigned endsOfEditingSeen_ = 0;
+};
 
 TableBinder::TableBinder(TableView& table, StationTable& widget)
-    : QObject(&widget)
-    , table_(table)
-    , widget_(widget)
+    : Binder(table, widget)
     , model_(table)
 {
     widget.setModel(&model_);
     TableViewState initialState;
     initialState.allowsMultipleSelection = widget.selectionMode() == QAbstractItemView::ExtendedSelection;
-    table_.connect(initialState, [this](const TableViewState& state) { render(state); });
+    control_.connect(initialState, [this](const TableViewState& state) { render(state); });
     connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this](const QItemSelection& selected) { report(selected); });
-    connect(&widget, &QAbstractItemView::doubleClicked, this, [this] { table_.doubleClickedByUser(); });
-}
-
-TableBinder::~TableBinder()
-{
-    table_.disconnect();
+    connect(&widget, &QAbstractItemView::doubleClicked, this, [this] { control_.doubleClickedByUser(); });
 }
 
 void TableBinder::render(const TableViewState& state)
@@ -88,7 +99,14 @@ void TableBinder::report(const QItemSelection& selected)
     const QModelIndex current = widget_.selectionModel()->currentIndex();
     const bool isCurrentNew = selected.isEmpty() || selected.contains(current);
     const int latest = isCurrentNew ? current.row() : selected.constLast().bottom();
-    table_.selectedByUser(rowsOf(widget_.selectionModel()->selection()), latest);
+    control_.selectedByUser(rowsOf(widget_.selectionModel()->selection()), latest);
+}
+
+} // namespace
+
+void bind(TableView& table, StationTable& widget)
+{
+    new TableBinder(table, widget);
 }
 
 } // namespace sonavel

@@ -1,5 +1,5 @@
-#include "qt/binders/TextFieldBinder.h"
-
+#include "qt/binders/Binder.h"
+#include "qt/binders/Binders.h"
 #include "qt/kit/TextConversion.h"
 
 #include <QCoreApplication>
@@ -7,6 +7,7 @@
 #include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMetaObject>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -16,20 +17,32 @@
 
 namespace sonavel {
 
+namespace {
+
+class TextFieldBinder : public Binder<TextField, QLineEdit> {
+public:
+    TextFieldBinder(TextField& field, QLineEdit& widget);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void report();
+    void render(const TextFieldState& state);
+    void endComposition();
+    void replaceDifference(const QString& text);
+
+    bool isComposing_ = false;
+    bool isReporting_ = false;
+    bool isRedoing_ = false;
+};
+
 TextFieldBinder::TextFieldBinder(TextField& field, QLineEdit& widget)
-    : QObject(&widget)
-    , field_(field)
-    , widget_(widget)
+    : Binder(field, widget)
 {
     widget.setMaxLength(std::numeric_limits<int>::max());
-    field_.connect({toText(widget.text())}, [this](const TextFieldState& state) { render(state); });
+    control_.connect({toText(widget.text())}, [this](const TextFieldState& state) { render(state); });
     connect(&widget, &QLineEdit::textEdited, this, [this] { report(); });
     widget.installEventFilter(this);
-}
-
-TextFieldBinder::~TextFieldBinder()
-{
-    field_.disconnect();
 }
 
 bool TextFieldBinder::eventFilter(QObject* watched, QEvent* event)
@@ -52,7 +65,7 @@ void TextFieldBinder::report()
     if (isComposing_)
         return;
     const QScopedValueRollback<bool> reporting(isReporting_, true);
-    field_.typedByUser(toText(widget_.text()));
+    control_.typedByUser(toText(widget_.text()));
 }
 
 void TextFieldBinder::render(const TextFieldState& state)
@@ -102,6 +115,13 @@ void TextFieldBinder::replaceDifference(const QString& text)
     widget_.setSelection(static_cast<int>(before), shownLength);
     widget_.insert(text.mid(before, newLength));
     widget_.setCursorPosition(caret);
+}
+
+} // namespace
+
+void bind(TextField& field, QLineEdit& widget)
+{
+    new TextFieldBinder(field, widget);
 }
 
 } // namespace sonavel

@@ -1,27 +1,37 @@
-#include "qt/binders/WindowBinder.h"
-
+#include "qt/binders/Binder.h"
+#include "qt/binders/Binders.h"
 #include "qt/kit/TextConversion.h"
 
 #include <QEvent>
+#include <QWidget>
 
 namespace sonavel {
 
+namespace {
+
+class WindowBinder : public Binder<Window, QWidget> {
+public:
+    WindowBinder(Window& window, QWidget& widget);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void render(const WindowState& state);
+
+    QWidget* owner_; ///< the window that a sheet is attached to, with which it goes and comes; null for others
+    unsigned frontRequestsSeen_ = 0;
+    unsigned focusReleasesSeen_ = 0;
+};
+
 WindowBinder::WindowBinder(Window& window, QWidget& widget)
-    : QObject(&widget)
-    , window_(window)
-    , widget_(widget)
+    : Binder(window, widget)
     , owner_(widget.parentWidget())
 {
-    window_.connect(
+    control_.connect(
         {toText(widget.windowTitle()), widget.isVisible()}, [this](const WindowState& state) { render(state); });
     widget.installEventFilter(this);
     if (owner_ != nullptr)
         owner_->installEventFilter(this);
-}
-
-WindowBinder::~WindowBinder()
-{
-    window_.disconnect();
 }
 
 bool WindowBinder::eventFilter(QObject* watched, QEvent* event)
@@ -29,19 +39,19 @@ bool WindowBinder::eventFilter(QObject* watched, QEvent* event)
     if (watched == owner_) {
         if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
             QMetaObject::invokeMethod(
-                this, [this] { render(window_.state()); }, Qt::QueuedConnection);
+                this, [this] { render(control_.state()); }, Qt::QueuedConnection);
         return false;
     }
     switch (event->type()) {
     case QEvent::Close:
         event->ignore();
-        window_.closeRequestedByUser();
+        control_.closeRequestedByUser();
         return true;
     case QEvent::WindowActivate:
-        window_.keyWindowChangedByUser(true);
+        control_.keyWindowChangedByUser(true);
         break;
     case QEvent::WindowDeactivate: // comes ahead of hiding, too
-        window_.keyWindowChangedByUser(false);
+        control_.keyWindowChangedByUser(false);
         break;
     default:
         break;
@@ -65,6 +75,13 @@ void WindowBinder::render(const WindowState& state)
         widget_.setWindowState(widget_.windowState() & ~Qt::WindowMinimized);
     widget_.raise();
     widget_.activateWindow();
+}
+
+} // namespace
+
+void bind(Window& window, QWidget& widget)
+{
+    new WindowBinder(window, widget);
 }
 
 } // namespace sonavel

@@ -126,22 +126,4 @@ QIcon programIcon()
     return icon;
 }
 
-QString wordForImage(const Text& name)
-{
-    if (name == Text("play.png"))
-        return qtTrId("BUTTON_PLAY");
-    if (name == Text("pause.png"))
-        return qtTrId("BUTTON_PAUSE");
-    return {};
-}
-
-QString hintForImage(const Text& name)
-{
-    if (name == Text("play.png"))
-        return qtTrId("HINT_PLAY");
-    if (name == Text("pause.png"))
-        return qtTrId("HINT_PAUSE");
-    return {};
-}
-
 } // namespace sonavel

@@ -19,10 +19,4 @@ namespace sonavel {
 /// The program's own picture.
 [[nodiscard]] QIcon programIcon();
 
-/// What a button says that shows the image: "play.png" is "Play". A null string when the image says nothing.
-[[nodiscard]] QString wordForImage(const Text& name);
-
-/// What a tool tip says of such a button.
-[[nodiscard]] QString hintForImage(const Text& name);
-
 } // namespace sonavel
