@@ -151,7 +151,7 @@ tl::expected<LaunchOptions, EarlyExit> launchOptionsFrom(
         return tl::unexpected(EarlyExit{0, helpText()});
     if (parser.isSet(QStringLiteral("version")))
         return tl::unexpected(EarlyExit{0, QStringLiteral("Sonavel ") + toQString(programBundle().shortVersion)});
-    auto options = optionsOf(LaunchValues(parser, environment, configuration)).map_error(usageError);
+    auto options = optionsOf({parser, environment, configuration}).map_error(usageError);
     if (options && isMirrored) {
         options->isMirrored = true;
         options->arguments << reverse;

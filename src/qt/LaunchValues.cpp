@@ -61,17 +61,17 @@ QMap<QString, QString> readEnvironment()
 std::optional<LaunchValue> LaunchValues::given(const char* name) const
 {
     const QString option = QString::fromLatin1(name);
-    if (!parser_.isSet(option))
+    if (!parser.isSet(option))
         return {};
-    return LaunchValue{parser_.value(option), QStringLiteral("--") + option};
+    return LaunchValue{parser.value(option), QStringLiteral("--") + option};
 }
 
 std::optional<LaunchValue> LaunchValues::variable(const char* name) const
 {
     const QString key = QString::fromLatin1(name);
-    if (environment_.value(key).isEmpty())
+    if (environment.value(key).isEmpty())
         return {};
-    return LaunchValue{environment_.value(key), key};
+    return LaunchValue{environment.value(key), key};
 }
 
 std::optional<LaunchValue> LaunchValues::find(const char* name) const
@@ -82,9 +82,9 @@ std::optional<LaunchValue> LaunchValues::find(const char* name) const
     if (auto found = variable(std::find_if(options.begin(), options.end(), isNamed)->variable))
         return found;
     const QString key = QString::fromLatin1(name);
-    if (configuration_.value(key).isEmpty())
+    if (configuration.value(key).isEmpty())
         return {};
-    return LaunchValue{configuration_.value(key), QStringLiteral("\"%1\" in sonavel.conf").arg(key)};
+    return LaunchValue{configuration.value(key), QStringLiteral("\"%1\" in sonavel.conf").arg(key)};
 }
 
 } // namespace sonavel

@@ -36,16 +36,7 @@ struct LaunchValue {
 };
 
 /// Finds values in the order of their sources. Borrows these.
-class LaunchValues {
-public:
-    LaunchValues(const QCommandLineParser& parser, const QMap<QString, QString>& environment,
-        const QMap<QString, QString>& configuration)
-        : parser_(parser)
-        , environment_(environment)
-        , configuration_(configuration)
-    {
-    }
-
+struct LaunchValues {
     /// The value on the command line alone. An option that is given empty is a value.
     [[nodiscard]] std::optional<LaunchValue> given(const char* name) const;
     /// The value of a variable of the environment. An empty one is none.
@@ -53,10 +44,9 @@ public:
     /// The value from the first source that has one.
     [[nodiscard]] std::optional<LaunchValue> find(const char* name) const;
 
-private:
-    const QCommandLineParser& parser_;
-    const QMap<QString, QString>& environment_;
-    const QMap<QString, QString>& configuration_;
+    const QCommandLineParser& parser;
+    const QMap<QString, QString>& environment;
+    const QMap<QString, QString>& configuration;
 };
 
 } // namespace sonavel

@@ -12,7 +12,6 @@
 #include "platform/NotificationCenter.h"
 #include "qt/LaunchResources.h"
 #include "qt/ProgramWindows.h"
-#include "qt/SaveFailure.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/desktop/ConnectivityMonitor.h"
 #include "qt/desktop/MediaPlayerBus.h"
@@ -20,17 +19,12 @@
 #include "qt/desktop/TerminationSignals.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/ports/AwaitingHttpClient.h"
-#include "qt/ports/QtAlerts.h"
 #include "qt/ports/QtEventLoop.h"
 #include "qt/ports/QtFilePanels.h"
-#include "qt/ports/QtInterfaces.h"
-#include "qt/ports/QtProcess.h"
-#include "qt/ports/QtRunLoop.h"
-#include "qt/ports/QtWebBrowser.h"
+#include "qt/ports/QtPorts.h"
 #include "qt/ports/TranslatedStrings.h"
-#include "qt/windows/main/FirstPaint.h"
+#include "qt/windows/Messages.h"
 #include "qt/windows/main/MainWindow.h"
-#include "qt/windows/main/NowPlayingText.h"
 #include "qt/windows/splash/SplashScreen.h"
 #include "ui/Controls.h"
 
@@ -170,7 +164,7 @@ void Program::start(std::function<void()> whenVisible)
     parts_->windows.connectMainWindow();
     parts_->appDelegate.window = &parts_->controls.main.winSonavel;
     parts_->controller.streamStatus.addObserver([this] { showNowPlaying(); });
-    afterFirstPaint(parts_->windows.mainWindow(), [this, whenVisible = std::move(whenVisible)] {
+    parts_->windows.mainWindow().afterFirstPaint([this, whenVisible = std::move(whenVisible)] {
         parts_->engine.start();
         parts_->windows.buildOtherWindows();
         joinDesktop();

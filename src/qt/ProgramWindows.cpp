@@ -5,10 +5,8 @@
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"
-#include "qt/windows/ProgramDialog.h"
 #include "qt/windows/ProgramMenus.h"
 #include "qt/windows/WindowStateStore.h"
-#include "qt/windows/editsheet/EditSheetDialog.h"
 #include "qt/windows/main/MainWindow.h"
 #include "qt/windows/stationlist/StationListWindow.h"
 #include "ui_AboutWindow.h"
@@ -68,8 +66,7 @@ void ProgramWindows::buildStationListWindow()
     window.whenFileDropped([this](const Text& path) {
         actions_.perform(stationListWindow_.get(), ListUse::Exclusive, [this, path] { importFile_(path); });
     });
-    auto* sheet = new EditSheetDialog(window);
-    connectEditSheet(controls_.editSheet, *sheet);
+    connectEditSheet(controls_.editSheet, *editSheetOf(window).release());
 }
 
 void ProgramWindows::buildPreferences()

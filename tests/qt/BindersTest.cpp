@@ -1,7 +1,8 @@
 // What the core says reaches the widgets and nothing comes back; what the user does reaches the core once.
+#include "qt/binders/Binders.h"
+
 #include "UserInput.h"
 #include "platform/Interfaces.h"
-#include "qt/binders/Binders.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/ApplicationStyle.h"
 #include "qt/kit/Palettes.h"
@@ -9,7 +10,6 @@
 #include "qt/kit/StationComboBox.h"
 #include "qt/windows/ProgramDialog.h"
 #include "qt/windows/ProgramMenus.h"
-#include "qt/windows/editsheet/EditSheetDialog.h"
 #include "qt/windows/main/MainWindow.h"
 #include "qt/windows/splash/SplashScreen.h"
 #include "qt/windows/stationlist/StationListWindow.h"
@@ -386,7 +386,7 @@ TEST(Connecting, EveryControlHasItsWidgetAndBeforeThatItsState)
     MainWindow main(&menus);
     SplashScreen splash;
     StationListWindow list(controls.stationList.tableViewListRadio);
-    EditSheetDialog sheet(list);
+    const auto sheet = editSheetOf(list);
     const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
     const auto about = ProgramDialog::from<Ui::AboutWindow>();
     const auto notice = ProgramDialog::from<Ui::UpdateNotice>();
@@ -400,7 +400,7 @@ TEST(Connecting, EveryControlHasItsWidgetAndBeforeThatItsState)
     connectMainWindow(controls.main, main);
     connectSplashScreen(controls.winSplashScreen, splash);
     connectStationListWindow(controls.stationList, list);
-    connectEditSheet(controls.editSheet, sheet);
+    connectEditSheet(controls.editSheet, *sheet);
     connectPreferences(controls.preferences, *preferences);
     connectAboutWindow(controls.about, *about);
     connectUpdateNotice(controls.updateNotice, *notice);

@@ -5,11 +5,10 @@
 #include "qt/kit/StationComboBox.h"
 #include "qt/kit/StatusLine.h"
 #include "qt/ports/TranslatedStrings.h"
+#include "qt/windows/Messages.h"
 #include "qt/windows/ProgramDialog.h"
 #include "qt/windows/ProgramMenus.h"
-#include "qt/windows/editsheet/EditSheetDialog.h"
 #include "qt/windows/main/MainWindow.h"
-#include "qt/windows/main/NowPlayingText.h"
 #include "qt/windows/splash/SplashScreen.h"
 #include "qt/windows/stationlist/StationListWindow.h"
 #include "ui/Controls.h"
@@ -118,10 +117,10 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
     expectRoomIn(list);
     expectAllShown(list);
 
-    EditSheetDialog sheet(list);
+    const auto sheet = editSheetOf(list);
     for (const char* word : {"BUTTON_ADD", "BUTTON_EDIT"}) {
-        sheet.findChild<QPushButton*>(QStringLiteral("buttonAction"))->setText(qtTrId(word));
-        expectRoomIn(sheet);
+        sheet->findChild<QPushButton*>(QStringLiteral("buttonAction"))->setText(qtTrId(word));
+        expectRoomIn(*sheet);
     }
     SplashScreen splash;
     splash.setWaitingFor(QStringLiteral("data.example"));

@@ -8,7 +8,6 @@
 #include "qt/kit/StatusLine.h"
 #include "qt/windows/ProgramMenus.h"
 #include "qt/windows/WindowStateStore.h"
-#include "qt/windows/editsheet/EditSheetDialog.h"
 #include "qt/windows/stationlist/FindField.h"
 #include "qt/windows/stationlist/StationTable.h"
 #include "ui_AboutWindow.h"
@@ -85,7 +84,7 @@ protected:
     int validations = 0;
     ProgramMenus menus{[this] { ++validations; }};
     StationListWindow window{controls.stationList.tableViewListRadio};
-    EditSheetDialog& sheet = *new EditSheetDialog(window);
+    ProgramDialog& sheet = *editSheetOf(window).release();
 };
 
 TEST_F(StationListWindowTest, AWindowThatIsBuiltLaterShowsWhatWasSaidMeanwhile)

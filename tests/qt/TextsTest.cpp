@@ -1,11 +1,10 @@
 // What the windows say of streams, files and names from outside.
 #include "UserInput.h"
 #include "platform/StreamPlayer.h"
-#include "qt/SaveFailure.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/kit/WrappedText.h"
 #include "qt/ports/TranslatedStrings.h"
-#include "qt/windows/main/NowPlayingText.h"
+#include "qt/windows/Messages.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

@@ -14,35 +14,12 @@ const QString objectPath = QStringLiteral("/org/mpris/MediaPlayer2");
 const QString serviceName = QStringLiteral("org.mpris.MediaPlayer2.sonavel");
 const QString noTrack = QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrack");
 
-QString nameOf(MediaState::Status status)
-{
-    switch (status) {
-    case MediaState::Status::Playing:
-        return QStringLiteral("Playing");
-    case MediaState::Status::Paused:
-        return QStringLiteral("Paused");
-    case MediaState::Status::Stopped:
-        break;
-    }
-    return QStringLiteral("Stopped");
-}
-
 } // namespace
 
 MprisRootAdaptor::MprisRootAdaptor(MediaControls& controls, QObject& object)
     : QDBusAbstractAdaptor(&object)
     , controls_(controls)
 {
-}
-
-QString MprisRootAdaptor::identity()
-{
-    return QStringLiteral("Sonavel");
-}
-
-QString MprisRootAdaptor::desktopEntry()
-{
-    return QStringLiteral("sonavel");
 }
 
 /// Whoever calls it waits for an answer, and must not wait for that of the question.
@@ -93,7 +70,15 @@ QVariantMap MprisPlayerAdaptor::changingProperties() const
 
 QString MprisPlayerAdaptor::playbackStatus() const
 {
-    return nameOf(state_.status);
+    switch (state_.status) {
+    case MediaState::Status::Playing:
+        return QStringLiteral("Playing");
+    case MediaState::Status::Paused:
+        return QStringLiteral("Paused");
+    case MediaState::Status::Stopped:
+        break;
+    }
+    return QStringLiteral("Stopped");
 }
 
 /// Panels show the title large; while the stream has none, the station stands there.

@@ -28,8 +28,8 @@ public:
     [[nodiscard]] static bool canQuit() { return true; }
     [[nodiscard]] static bool canRaise() { return true; }
     [[nodiscard]] static bool hasTrackList() { return false; }
-    [[nodiscard]] static QString identity();
-    [[nodiscard]] static QString desktopEntry();
+    [[nodiscard]] static QString identity() { return QStringLiteral("Sonavel"); }
+    [[nodiscard]] static QString desktopEntry() { return QStringLiteral("sonavel"); }
     [[nodiscard]] static QStringList supportedUriSchemes() { return {}; }
     [[nodiscard]] static QStringList supportedMimeTypes() { return {}; }
 

@@ -18,17 +18,13 @@ QString takeSessionId(QStringList& arguments)
     return at < arguments.size() ? arguments.takeAt(at) : QString();
 }
 
-QStringList restartCommand(const QStringList& command, const QString& session, const QString& key)
-{
-    return command + QStringList{QStringLiteral("-session"), session + u'_' + key};
-}
-
 void restartWithSession(const QStringList& command, Restart restart)
 {
     const auto inform = [command, restart](QSessionManager& manager) {
         manager.setRestartHint(
             restart == Restart::Never ? QSessionManager::RestartNever : QSessionManager::RestartIfRunning);
-        manager.setRestartCommand(restartCommand(command, manager.sessionId(), manager.sessionKey()));
+        manager.setRestartCommand(
+            command + QStringList{QStringLiteral("-session"), manager.sessionId() + u'_' + manager.sessionKey()});
     };
     QObject::connect(qGuiApp, &QGuiApplication::saveStateRequest, qGuiApp, inform, Qt::DirectConnection);
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp, inform, Qt::DirectConnection);

@@ -19,9 +19,6 @@ void restartWithSession(const QStringList& command, Restart restart);
 /// Takes what a session manager adds, "-session ID", out of the arguments. The identifier; a null string without one.
 [[nodiscard]] QString takeSessionId(QStringList& arguments);
 
-/// What a session manager is to start, for the toolkit's names of the session and its state.
-[[nodiscard]] QStringList restartCommand(const QStringList& command, const QString& session, const QString& key);
-
 /// Calls back when the session manager has everything saved, and when it ends the program. The toolkit would ask every
 /// window to close before that end, and the session would wait for the answer to a question.
 class SessionEnd : public QObject {

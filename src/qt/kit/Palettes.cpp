@@ -63,24 +63,6 @@ bool isDark(const QPalette& palette)
     return lightness(palette, QPalette::WindowText) > lightness(palette, QPalette::Window);
 }
 
-QPalette paletteOf(const Colors& colors)
-{
-    QPalette palette(QColor(colors.button), QColor(colors.window));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        palette.setColor(role, QColor(colors.text));
-        palette.setColor(QPalette::Disabled, role, QColor(colors.faded));
-    }
-    palette.setColor(QPalette::PlaceholderText, QColor(colors.quiet));
-    palette.setColor(QPalette::Base, QColor(colors.base));
-    palette.setColor(QPalette::AlternateBase, QColor(colors.window));
-    palette.setColor(QPalette::ToolTipBase, QColor(colors.base));
-    palette.setColor(QPalette::Highlight, QColor(colors.accent));
-    palette.setColor(QPalette::HighlightedText, QColor(colors.accentText));
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colors.faded));
-    palette.setColor(QPalette::Link, QColor(colors.link));
-    return palette;
-}
-
 } // namespace
 
 QString nameOf(Appearance appearance)
@@ -106,7 +88,21 @@ QStringList appearanceNames()
 
 QPalette paletteFor(Appearance appearance)
 {
-    return paletteOf(entryOf(appearance).colors);
+    const Colors& colors = entryOf(appearance).colors;
+    QPalette palette(QColor(colors.button), QColor(colors.window));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, QColor(colors.text));
+        palette.setColor(QPalette::Disabled, role, QColor(colors.faded));
+    }
+    palette.setColor(QPalette::PlaceholderText, QColor(colors.quiet));
+    palette.setColor(QPalette::Base, QColor(colors.base));
+    palette.setColor(QPalette::AlternateBase, QColor(colors.window));
+    palette.setColor(QPalette::ToolTipBase, QColor(colors.base));
+    palette.setColor(QPalette::Highlight, QColor(colors.accent));
+    palette.setColor(QPalette::HighlightedText, QColor(colors.accentText));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colors.faded));
+    palette.setColor(QPalette::Link, QColor(colors.link));
+    return palette;
 }
 
 bool isHighContrast(const QPalette& palette)

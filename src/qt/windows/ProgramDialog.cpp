@@ -36,12 +36,6 @@ void ProgramDialog::growWithTexts()
         setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
 }
 
-void ProgramDialog::updateShape()
-{
-    arrangeButtons();
-    updateProportions();
-}
-
 /// Each desktop has an order of its own in which its users look for buttons.
 void ProgramDialog::arrangeButtons()
 {

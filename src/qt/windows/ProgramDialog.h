@@ -22,7 +22,8 @@ public:
     {
         auto dialog = std::make_unique<ProgramDialog>(owner);
         Description().setupUi(dialog.get());
-        dialog->updateShape();
+        dialog->arrangeButtons();
+        dialog->updateProportions();
         return dialog;
     }
 
@@ -30,8 +31,6 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    /// To be called once the description was set up, before the dialog is resized.
-    void updateShape();
 
 private:
     void arrangeButtons();

@@ -79,12 +79,6 @@ bool takesSpace(const QWidget& widget)
         || qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const QMenuBar*>(&widget) != nullptr;
 }
 
-void closeActiveWindow()
-{
-    if (QWidget* window = QApplication::activeWindow())
-        window->close();
-}
-
 bool isPlainSpace(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier;
@@ -108,8 +102,11 @@ ProgramMenus::ProgramMenus(std::function<void()> validate)
     }
     closing_.setShortcut(Qt::CTRL | Qt::Key_W);
     closing_.setAutoRepeat(false);
-    connect(
-        &closing_, &QAction::triggered, this, [] { closeActiveWindow(); }, Qt::QueuedConnection);
+    const auto closeActiveWindow = [] {
+        if (QWidget* window = QApplication::activeWindow())
+            window->close();
+    };
+    connect(&closing_, &QAction::triggered, this, closeActiveWindow, Qt::QueuedConnection);
     QApplication::instance()->installEventFilter(this);
 }
 

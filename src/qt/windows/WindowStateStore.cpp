@@ -25,11 +25,6 @@ QString columnKey(const QWidget& window, const QTableView& table)
     return window.objectName() + u'/' + table.objectName() + QStringLiteral("FirstColumn");
 }
 
-QTableView* tableIn(const QWidget& window)
-{
-    return window.findChild<QTableView*>();
-}
-
 } // namespace
 
 WindowStateStore::WindowStateStore(const QString& stateFolder)
@@ -46,7 +41,7 @@ QString WindowStateStore::usersStateFolder()
 void WindowStateStore::restore(QWidget& window) const
 {
     window.restoreGeometry(value(geometryKey(window)).toByteArray());
-    if (QTableView* table = tableIn(window)) {
+    if (const auto* table = window.findChild<QTableView*>()) {
         const int width = value(columnKey(window, *table)).toInt();
         if (width > 0)
             table->horizontalHeader()->setDefaultSectionSize(qMin(width, window.width()));
@@ -59,7 +54,7 @@ void WindowStateStore::save(const QWidget& window) const
         return;
     QSettings settings(file_, QSettings::IniFormat);
     settings.setValue(geometryKey(window), window.saveGeometry());
-    if (const QTableView* table = tableIn(window))
+    if (const auto* table = window.findChild<QTableView*>())
         settings.setValue(columnKey(window, *table), table->columnWidth(0));
 }
 

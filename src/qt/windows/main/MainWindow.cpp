@@ -7,6 +7,9 @@
 #include "ui_MainWindow.h"
 
 #include <QEvent>
+#include <QTimer>
+
+#include <utility>
 
 namespace sonavel {
 
@@ -116,6 +119,14 @@ void MainWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         setUpColors();
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    // A timer, unlike a posted event, lets the picture reach the screen first.
+    if (afterFirstPaint_)
+        QTimer::singleShot(0, this, std::exchange(afterFirstPaint_, {}));
 }
 
 } // namespace sonavel

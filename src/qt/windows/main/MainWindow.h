@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -29,9 +30,13 @@ public:
     /// A failure that the user should know of, on a line whose height does not change; it goes away by itself.
     void showNotice(const QString& text);
 
+    /// Calls `action` once, on the loop's turn after the window has been painted for the first time.
+    void afterFirstPaint(std::function<void()> action) { afterFirstPaint_ = std::move(action); }
+
 protected:
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void setUpProportions();
@@ -41,6 +46,7 @@ private:
 
     std::unique_ptr<Ui::MainWindow> description_;
     Emphasis emphasis_ = Emphasis::Faded;
+    std::function<void()> afterFirstPaint_;
 };
 
 } // namespace sonavel

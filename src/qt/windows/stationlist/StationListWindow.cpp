@@ -4,6 +4,7 @@
 #include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"
 #include "qt/windows/stationlist/FindField.h"
+#include "ui_EditSheet.h"
 #include "ui_StationListWindow.h"
 
 #include <QApplication>
@@ -159,6 +160,15 @@ void StationListWindow::dropEvent(QDropEvent* event)
     event->accept();
     QMetaObject::invokeMethod(
         this, [this, path] { whenFileDropped_(toText(path)); }, Qt::QueuedConnection);
+}
+
+std::unique_ptr<ProgramDialog> editSheetOf(QWidget& window)
+{
+    auto sheet = ProgramDialog::from<Ui::EditSheet>(&window);
+    sheet->findChild<PrimaryButton*>(QStringLiteral("buttonAction"))
+        ->reserveRoomFor({qtTrId("BUTTON_ADD"), qtTrId("BUTTON_EDIT")}, PrimaryButton::Picture::None);
+    sheet->resize(sheet->fontMetrics().height() * 30, sheet->sizeHint().height());
+    return sheet;
 }
 
 } // namespace sonavel

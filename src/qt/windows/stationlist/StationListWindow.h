@@ -1,7 +1,8 @@
-// The window of the station list: its table, its tools, its Find field.
+// The window of the station list: its table, its tools, its Find field, and its sheet.
 #pragma once
 
 #include "base/Text.h"
+#include "qt/windows/ProgramDialog.h"
 #include "qt/windows/stationlist/StationFinder.h"
 
 #include <QMainWindow>
@@ -50,5 +51,8 @@ private:
     FindField* findField_;
     std::function<void(const Text& path)> whenFileDropped_;
 };
+
+/// The sheet of that window, in which the user types a station's name and address.
+[[nodiscard]] std::unique_ptr<ProgramDialog> editSheetOf(QWidget& window);
 
 } // namespace sonavel

@@ -1,11 +1,18 @@
-#include "qt/ports/QtAlerts.h"
+#include "qt/ports/QtPorts.h"
 
+#include "qt/binders/OutletConnector.h"
 #include "qt/kit/Images.h"
 #include "qt/kit/TextConversion.h"
+#include "qt/windows/ProgramDialog.h"
+#include "ui_UpdateWindow.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QUrl>
+
+#include <unistd.h>
 
 namespace sonavel {
 
@@ -47,6 +54,35 @@ int QtAlerts::runModal(const Alert& alert)
     if (answer.isValid())
         return answer.toInt();
     return firstButtonAnswer + qMax(0, static_cast<int>(alert.buttonTitles.size()) - 1);
+}
+
+std::shared_ptr<void> QtInterfaces::loadAppUpdater(const UpdaterControls& owner)
+{
+    std::shared_ptr<ProgramDialog> dialog = ProgramDialog::from<Ui::UpdateWindow>();
+    const int line = dialog->fontMetrics().height();
+    dialog->resize(line * 30, line * 22);
+    connectUpdateWindow(owner, *dialog);
+    return dialog;
+}
+
+void QtProcess::exit(int status)
+{
+    if (beforeExit_)
+        beforeExit_();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->hide();
+    QGuiApplication::sync();
+    ::_exit(status);
+}
+
+void QtRunLoop::performOnNextTurn(std::function<void()> action)
+{
+    QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(action), Qt::QueuedConnection);
+}
+
+void QtWebBrowser::openAddress(const Text& address)
+{
+    QDesktopServices::openUrl(QUrl(toQString(address), QUrl::StrictMode));
 }
 
 } // namespace sonavel

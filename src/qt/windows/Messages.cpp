@@ -1,4 +1,4 @@
-#include "qt/windows/main/NowPlayingText.h"
+#include "qt/windows/Messages.h"
 
 #include "platform/StreamPlayer.h"
 #include "qt/kit/TextConversion.h"
@@ -46,6 +46,18 @@ const char* keyOf(PlaybackFailure failure)
     return "FAILURE_UNKNOWN";
 }
 
+const char* keyOf(UserFile::Kind kind)
+{
+    switch (kind) {
+    case UserFile::Kind::StationList:
+        return "NOTICE_STATIONS_NOT_SAVED";
+    case UserFile::Kind::Preferences:
+        return "NOTICE_PREFERENCES_NOT_SAVED";
+    default:
+        return "NOTICE_FILE_NOT_SAVED";
+    }
+}
+
 QString titleOr(const char* key, const Text& title)
 {
     return title.isEmpty() ? qtTrId(key) : onOneLine(toQString(title));
@@ -80,6 +92,11 @@ QString nowPlayingText(const StreamReport& report)
         break;
     }
     return qtTrId("NOW_PLAYING_NOTHING");
+}
+
+QString saveFailureText(const UserFile& file, const std::error_code& why)
+{
+    return filledIn(keyOf(file.kind), onOneLine(QString::fromStdString(why.message())));
 }
 
 } // namespace sonavel
