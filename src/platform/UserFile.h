@@ -13,7 +13,6 @@ struct UserFile {
     enum class Kind : std::uint8_t {
         StationList,
         Preferences,
-        Backup, ///< of one of the above
         Other, ///< where the user wants it
     };
 

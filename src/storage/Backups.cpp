@@ -67,14 +67,13 @@ CopiesByNumber copiesAmong(const std::vector<std::string>& present, const CopyNa
     return copies;
 }
 
-/// `operation` makes the copy at the path that it is given.
+/// `operation` makes the copy, which is to the user what the file is, at the path that it is given. In a folder that
+/// cannot be listed there may be an older copy of that name; then it fails, and reports so.
 FileResult<Text> keep(Files& files, const Text& path, std::string_view mark, auto&& operation)
 {
     const CopyNames names(path.view(), mark);
-    const auto present = files.namesInFolder(names.folder());
-    if (!present)
-        return tl::unexpected(present.error());
-    CopiesByNumber copies = copiesAmong(*present, names);
+    CopiesByNumber copies =
+        copiesAmong(files.namesInFolder(names.folder()).value_or(std::vector<std::string>()), names);
     const std::uint32_t number = copies.empty() ? 1 : copies.rbegin()->first + 1;
     return operation(names.pathOf(number)).map([&] {
         copies.emplace(number, names.pathOf(number));
@@ -86,22 +85,20 @@ FileResult<Text> keep(Files& files, const Text& path, std::string_view mark, aut
 
 } // namespace
 
-FileResult<Text> keepBackup(Files& files, const Text& path, std::string_view mark)
+FileResult<Text> keepBackup(Files& files, const UserFile& file, std::string_view mark)
 {
-    return keep(files, path, mark, [&](const Text& copy) {
-        return files.keepCopy(path, {UserFile::Kind::Backup, copy});
-    });
+    return keep(files, file.path, mark, [&](const Text& copy) { return files.keepCopy(file.path, {file.kind, copy}); });
 }
 
-FileResult<Text> quarantine(Files& files, const Text& path, std::string_view mark)
+FileResult<Text> quarantine(Files& files, const UserFile& file, std::string_view mark)
 {
-    return keep(files, path, mark, [&](const Text& copy) { return files.moveFile(path, copy); });
+    return keep(files, file.path, mark, [&](const Text& copy) { return files.moveFile(file.path, copy); });
 }
 
-FileResult<Text> keepDamaged(Files& files, const Text& path)
+FileResult<Text> keepDamaged(Files& files, const UserFile& file)
 {
-    return keepBackup(files, path, damagedMark).or_else([&](const std::error_code&) {
-        return quarantine(files, path, damagedMark);
+    return keepBackup(files, file, damagedMark).or_else([&](const std::error_code&) {
+        return quarantine(files, file, damagedMark);
     });
 }
 

@@ -37,7 +37,7 @@ public:
 struct CellEdit {
     Text value;
     Text column;
-    long row;
+    long row = -1;
 };
 
 struct TableViewState {

@@ -8,12 +8,13 @@ namespace sonavel {
 namespace {
 
 constexpr const char* path = "/home/list.old.rdb";
+const UserFile file{UserFile::Kind::StationList, path};
 
 std::set<std::string> names(const MemoryFiles& files)
 {
     std::set<std::string> result;
-    for (const auto& [file, content] : files.files)
-        result.insert(file.substr(file.rfind('/') + 1) + "=" + content);
+    for (const auto& [name, content] : files.files)
+        result.insert(name.substr(name.rfind('/') + 1) + "=" + content);
     return result;
 }
 
@@ -22,7 +23,7 @@ TEST(Backups, TheNewestThreeAreKeptUnderRisingNumbers)
     MemoryFiles files;
     for (int turn = 1; turn <= 5; ++turn) {
         files.files[path] = std::to_string(turn);
-        EXPECT_TRUE(keepBackup(files, path, "damaged"));
+        EXPECT_TRUE(keepBackup(files, file, "damaged"));
     }
     EXPECT_EQ(names(files),
         (std::set<std::string>{
@@ -38,7 +39,7 @@ TEST(Backups, OtherFilesAreNotTakenForCopies)
     for (const std::string& other : others)
         files.files["/home/" + other.substr(0, other.size() - 1)] = "";
     files.files[path] = "now";
-    EXPECT_TRUE(quarantine(files, path, "damaged"));
+    EXPECT_TRUE(quarantine(files, file, "damaged"));
     std::set<std::string> expected = others;
     expected.insert("list.old.damaged.rdb=now");
     EXPECT_EQ(names(files), expected);
@@ -52,10 +53,18 @@ TEST(Backups, AFailedCopyRemovesNoOlderOne)
     files.files[path] = "now";
     const auto before = names(files);
     files.failAll("keep");
-    EXPECT_FALSE(keepBackup(files, path, "damaged"));
+    EXPECT_FALSE(keepBackup(files, file, "damaged"));
     files.failAll("list");
-    EXPECT_FALSE(keepBackup(files, path, "damaged"));
+    EXPECT_FALSE(keepBackup(files, file, "damaged"));
     EXPECT_EQ(names(files), before);
+}
+
+TEST(Backups, AFolderThatCannotBeListedIsNoReasonToKeepNothing)
+{
+    MemoryFiles files;
+    files.files[path] = "now";
+    files.failAll("list");
+    EXPECT_TRUE(keepBackup(files, file, "damaged"));
 }
 
 } // namespace

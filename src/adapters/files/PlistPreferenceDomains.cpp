@@ -50,7 +50,7 @@ void PlistPreferenceDomains::synchronize()
 
 void PlistPreferenceDomains::write(const UserFile& file, StoredDomain& domain)
 {
-    if (domain.isFileDamaged && !keepDamaged(files_, file.path))
+    if (domain.isFileDamaged && !keepDamaged(files_, file))
         return;
     domain.isFileDamaged = false;
     domain.isWriteDue = !files_.makeFolderOf(file).and_then(
