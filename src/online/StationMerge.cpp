@@ -2,6 +2,7 @@
 
 #include "model/KVStationWebRadio.h"
 
+#include <memory_resource>
 #include <string_view>
 #include <unordered_map>
 
@@ -9,7 +10,8 @@ namespace sonavel {
 
 bool mergeStations(StationRecords& stored, const StationRecords& downloaded)
 {
-    std::unordered_multimap<std::string_view, std::size_t> byName(stored.size() + downloaded.size());
+    std::pmr::monotonic_buffer_resource memory; // one node after the other, for the processor's caches
+    std::pmr::unordered_multimap<std::string_view, std::size_t> byName(stored.size() + downloaded.size(), &memory);
     for (std::size_t position = 0; position < stored.size(); ++position)
         byName.emplace(stored[position]->radio().view(), position);
     bool changed = false;
