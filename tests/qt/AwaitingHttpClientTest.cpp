@@ -8,8 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <condition_variable>
-#include <mutex>
+#include <semaphore>
 
 namespace sonavel {
 namespace {
@@ -19,56 +18,35 @@ class HeldHttpClient : public HttpClient {
 public:
     HttpResult sendSynchronousRequest(const HttpRequest& request) override
     {
-        std::unique_lock lock(mutex_);
-        released_.wait_for(lock, std::chrono::seconds(10), [this] { return isReleased_; });
+        EXPECT_TRUE(answers.try_acquire_for(std::chrono::seconds(10)));
         return "answer of " + request.address.string();
     }
-    void release()
-    {
-        const std::lock_guard lock(mutex_);
-        isReleased_ = true;
-        released_.notify_all();
-    }
 
-private:
-    std::mutex mutex_;
-    std::condition_variable released_;
-    bool isReleased_ = false;
-};
-
-class PaintCountingButton : public QPushButton {
-public:
-    int paintings = 0;
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        ++paintings;
-        QPushButton::paintEvent(event);
-    }
+    std::counting_semaphore<> answers{0};
 };
 
 TEST(AwaitingHttp, TheWindowPaintsWhileAServerIsSlow)
 {
     HeldHttpClient server;
     AwaitingHttpClient client(server);
-    PaintCountingButton button;
+    QPushButton button;
+    const EventCounter paintings(button, QEvent::Paint);
     button.show();
-    ASSERT_TRUE(handleEventsUntil([&] { return button.paintings > 0; }));
+    ASSERT_TRUE(handleEventsUntil([&] { return paintings.count > 0; }));
 
     int paintingsBefore = 0;
     bool hasBegun = false;
     bool hasEnded = false;
     QTimer::singleShot(0, [&] {
-        paintingsBefore = button.paintings;
+        paintingsBefore = paintings.count;
         button.update();
     });
     client.setSlowRequestObserver(
         [&](const HttpRequest& request) {
             EXPECT_EQ(request.address, Text("http://slow/"));
-            EXPECT_GT(button.paintings, paintingsBefore);
+            EXPECT_GT(paintings.count, paintingsBefore);
             hasBegun = true;
-            server.release();
+            server.answers.release();
         },
         [&] { hasEnded = true; });
     HttpRequest request;
@@ -81,7 +59,7 @@ TEST(AwaitingHttp, TheWindowPaintsWhileAServerIsSlow)
 TEST(AwaitingHttp, AQuickAnswerTellsNobodyOfWaiting)
 {
     HeldHttpClient server;
-    server.release();
+    server.answers.release(20);
     AwaitingHttpClient client(server, std::chrono::hours(1));
     client.setSlowRequestObserver([](const HttpRequest&) { FAIL(); }, [] { FAIL(); });
     for (int request = 0; request < 20; ++request)

@@ -264,9 +264,7 @@ TEST(ButtonBinding, AButtonThatIsDisabledForAMomentKeepsTheKeyboard)
     layout.addWidget(&play);
     layout.addWidget(&stop);
     bind(button, play);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(handleEventsUntil([&] { return window.isActiveWindow(); }));
+    ASSERT_TRUE(activate(window));
     play.setFocus();
 
     button.setEnabled(false);

@@ -20,13 +20,19 @@
 namespace sonavel {
 namespace {
 
-TEST(MainWindow, NothingMovesWhenTextsChange)
-{
+class MainWindowTest : public testing::Test {
+protected:
+    MainWindowTest() { connectMainWindow(controls.main, window); }
+
     Controls controls;
     MainWindow window{nullptr};
-    connectMainWindow(controls.main, window);
+    ElidedLabel& title = *window.findChild<ElidedLabel*>("labelNowPlaying");
+    const QFrame& panel = *window.findChild<QFrame*>("displayPanel");
+};
+
+TEST_F(MainWindowTest, NothingMovesWhenTextsChange)
+{
     window.show();
-    QApplication::processEvents();
     const auto shape = [&] {
         QApplication::processEvents();
         std::vector<QRect> rectangles{window.geometry()};
@@ -44,48 +50,41 @@ TEST(MainWindow, NothingMovesWhenTextsChange)
     EXPECT_EQ(shape(), before);
 }
 
-TEST(MainWindow, AFailureBearsAMarkBesideItsText)
+TEST_F(MainWindowTest, AFailureBearsAMarkBesideItsText)
 {
-    MainWindow window{nullptr};
     window.show();
-    auto* line = window.findChild<ElidedLabel*>("labelNowPlaying");
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         window.setLayoutDirection(direction);
         const auto picture = [&](const QString& text, MainWindow::Emphasis emphasis) {
             window.showNowPlaying(text, emphasis);
-            return line->grab().toImage();
+            return title.grab().toImage();
         };
         const QImage empty = picture({}, MainWindow::Emphasis::Faded);
         const QImage mark = picture({}, MainWindow::Emphasis::Failure);
         EXPECT_NE(mark, empty);
-        const QRect text = line->textArea();
+        const QRect text = title.textArea();
         EXPECT_EQ(mark.copy(text), empty.copy(text)) << "the mark lies on the text";
         EXPECT_NE(picture("No answer", MainWindow::Emphasis::Failure).copy(text), empty.copy(text));
         EXPECT_EQ(picture({}, MainWindow::Emphasis::Usual), empty);
     }
 }
 
-TEST(MainWindow, ItsMarginsAreEven)
+TEST_F(MainWindowTest, ItsMarginsAreEven)
 {
-    MainWindow window{nullptr};
     window.show();
     QApplication::processEvents();
-    const QWidget& content = *window.centralWidget();
-    const QRect panel = window.findChild<QFrame*>("displayPanel")->geometry();
+    const QRect content = window.centralWidget()->rect();
+    const QPoint corner = panel.geometry().topLeft();
     const QRect button = window.findChild<QPushButton*>("buttonEditRadioList")->geometry();
-    EXPECT_EQ(panel.left(), panel.top());
-    EXPECT_EQ(content.rect().right() - button.right(), panel.left());
-    EXPECT_EQ(content.rect().bottom() - button.bottom(), panel.left());
+    EXPECT_EQ(corner.x(), corner.y());
+    EXPECT_EQ(content.bottomRight() - button.bottomRight(), corner);
 }
 
-TEST(MainWindow, ALargeOneHasItsContentInTheMiddleAndGivesItsHeightToTheTitle)
+TEST_F(MainWindowTest, ALargeOneHasItsContentInTheMiddleAndGivesItsHeightToTheTitle)
 {
-    MainWindow window{nullptr};
     window.show();
     const QSize usual = window.size();
-    const auto& title = *window.findChild<ElidedLabel*>("labelNowPlaying");
     const QFont usualFont = title.font();
-    const QFrame& panel = *window.findChild<QFrame*>("displayPanel");
     for (const QSize size : {QSize(940, 1040), QSize(1920, 1080), QSize(3840, 2160)}) {
         window.resize(size);
         QApplication::processEvents();
@@ -99,7 +98,7 @@ TEST(MainWindow, ALargeOneHasItsContentInTheMiddleAndGivesItsHeightToTheTitle)
     EXPECT_EQ(title.font(), usualFont);
 }
 
-TEST(MainWindow, FromRightToLeftTheWordOfAButtonIsAsFarFromItsEdge)
+TEST(PrimaryButton, FromRightToLeftItsWordIsAsFarFromItsEdge)
 {
     PrimaryButton button;
     button.setText("Play");
@@ -122,11 +121,8 @@ TEST(MainWindow, FromRightToLeftTheWordOfAButtonIsAsFarFromItsEdge)
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
-TEST(MainWindow, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)
+TEST_F(MainWindowTest, MutedIsShownByAPressedButtonAndTheIconOfTheSlider)
 {
-    Controls controls;
-    MainWindow window{nullptr};
-    connectMainWindow(controls.main, window);
     auto& button = *window.findChild<QPushButton*>("buttonMute");
     const auto icon = [&] { return window.findChild<QLabel*>("imageVolume")->pixmap().toImage(); };
     const QImage heard = icon();
@@ -175,18 +171,13 @@ TEST(WindowStateStore, AWindowComesBackWhereItWasAndRubbishIsForgotten)
     EXPECT_EQ(again.geometry(), window.geometry());
 }
 
-TEST(MainWindow, TheKeyboardGoesThroughTheControlsInReadingOrder)
+TEST_F(MainWindowTest, TheKeyboardGoesThroughTheControlsInReadingOrder)
 {
-    Controls controls;
-    MainWindow window{nullptr};
-    connectMainWindow(controls.main, window);
     for (Button* button : {&controls.main.buttonPlayPause, &controls.main.buttonStop, &controls.main.buttonMute})
         button->setEnabled(true);
     controls.main.popupbuttonRadioList.setEnabled(true);
     controls.main.sliderVolume.setEnabled(true);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(handleEventsUntil([&] { return window.focusWidget() != nullptr; }));
+    ASSERT_TRUE(activate(window));
     QStringList order;
     for (int step = 0; step < 6; ++step) {
         order << window.focusWidget()->objectName();

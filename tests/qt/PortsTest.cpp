@@ -25,13 +25,13 @@
 namespace sonavel {
 namespace {
 
-/// Does something to the alert as soon as it is open.
-void whenOpen(const std::function<void(QMessageBox&)>& act)
+/// Does something to the dialog as soon as it is open.
+template <class Dialog> void whenOpen(const std::function<void(Dialog&)>& act)
 {
     QTimer::singleShot(0, qApp, [act] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        act(*box);
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
     });
 }
 
@@ -39,14 +39,14 @@ TEST(Alerts, EachButtonAnswersForItselfAndEscapeForTheLast)
 {
     QtAlerts alerts;
     const Alert question{"Quit?", {"Yes", "No"}};
-    whenOpen([](QMessageBox& box) { pressKey(box, Qt::Key_Escape); });
+    whenOpen<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Escape); });
     EXPECT_EQ(alerts.runModal(question), secondButtonAnswer);
-    whenOpen([](QMessageBox& box) { box.defaultButton()->click(); });
+    whenOpen<QMessageBox>([](QMessageBox& box) { box.defaultButton()->click(); });
     EXPECT_EQ(alerts.runModal(question), firstButtonAnswer);
-    whenOpen([](QMessageBox& box) { box.close(); });
+    whenOpen<QMessageBox>([](QMessageBox& box) { box.close(); });
     EXPECT_EQ(alerts.runModal(question), secondButtonAnswer);
     for (const Alert& notice : {Alert{"Full.", {"Continue"}}, Alert{"No network.", {}}}) {
-        whenOpen([](QMessageBox& box) { pressKey(box, Qt::Key_Escape); });
+        whenOpen<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Escape); });
         EXPECT_EQ(alerts.runModal(notice), firstButtonAnswer);
     }
 }
@@ -54,7 +54,7 @@ TEST(Alerts, EachButtonAnswersForItselfAndEscapeForTheLast)
 TEST(Alerts, AStationNamedWithMarkupIsNotTakenAsMarkup)
 {
     QtAlerts alerts;
-    whenOpen([](QMessageBox& box) {
+    whenOpen<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.text(), "Remove “<h1>R & B</h1>”?");
         EXPECT_TRUE(box.informativeText().isEmpty());
@@ -84,29 +84,18 @@ void endWith(QFileDialog& panel, const QString& name)
     static_cast<QDialog&>(panel).done(QDialog::Accepted);
 }
 
-/// Does something to the file panel as soon as it is open.
-void whenPanelIsOpen(const std::function<void(QFileDialog&)>& act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(panel, nullptr);
-        act(*panel);
-    });
-}
-
-/// Types a name into the open file panel and confirms it; what happens next is looked at by `then`.
-void whenPanelIsOpen(const QString& typed, const std::function<void(QFileDialog&)>& then)
-{
-    whenPanelIsOpen([typed, then](QFileDialog& panel) {
-        enter(panel, typed);
-        then(panel);
-    });
-}
-
 void cancelPanelThatComesBack()
 {
-    whenPanelIsOpen([](QFileDialog& panel) {
+    whenOpen<QFileDialog>([](QFileDialog& panel) {
         EXPECT_TRUE(panel.isVisible());
+        panel.reject();
+    });
+}
+
+void cancelPanelThatBeginsIn(const QDir& place)
+{
+    whenOpen<QFileDialog>([place](QFileDialog& panel) {
+        EXPECT_EQ(panel.directory(), place);
         panel.reject();
     });
 }
@@ -130,32 +119,24 @@ TEST_F(FilePanelsTest, AFolderIsEnteredWhateverItsNameAndTheNextPanelBeginsWhere
 {
     ASSERT_TRUE(QDir(folder.path()).mkpath("x.csv/deep"));
     const QString file = make("x.csv/list.csv");
-    whenPanelIsOpen(folder.filePath("x.csv"), [](QFileDialog& panel) {
+    whenOpen<QFileDialog>([&](QFileDialog& panel) {
+        enter(panel, folder.filePath("x.csv"));
         EXPECT_TRUE(panel.isVisible());
         panel.reject();
     });
     EXPECT_TRUE(panels.runModal(OpenPanel{"csv"}).isAbsent());
-    whenPanelIsOpen(file, [](QFileDialog&) {});
+    whenOpen<QFileDialog>([&](QFileDialog& panel) { enter(panel, file); });
     EXPECT_EQ(panels.runModal(OpenPanel{"csv"}), toText(file));
-    whenPanelIsOpen({}, [&](QFileDialog& panel) {
-        EXPECT_EQ(panel.directory().absolutePath(), folder.filePath("x.csv"));
-        panel.reject();
-    });
+    cancelPanelThatBeginsIn(folder.filePath("x.csv"));
     EXPECT_TRUE(panels.runModal(OpenPanel{"csv"}).isAbsent());
-    whenPanelIsOpen({}, [&](QFileDialog& panel) {
-        EXPECT_EQ(panel.directory(), QDir::home());
-        panel.reject();
-    });
+    cancelPanelThatBeginsIn(QDir::home());
     EXPECT_TRUE(QtFilePanels(alerts).runModal(OpenPanel{"csv"}).isAbsent());
 }
 
 TEST_F(FilePanelsTest, NothingIsSavedWhereItWouldGoAwayWithTheProgram)
 {
     QtFilePanels ofDemo(alerts, folder.path());
-    whenPanelIsOpen({}, [](QFileDialog& panel) {
-        EXPECT_EQ(panel.directory(), QDir::home());
-        panel.reject();
-    });
+    cancelPanelThatBeginsIn(QDir::home());
     EXPECT_TRUE(ofDemo.runModal(SavePanel{"Radio List.csv", toText(folder.path())}).isAbsent());
 }
 
@@ -168,7 +149,7 @@ TEST_F(FilePanelsTest, OnlyAFileOfTheOfferedKindIsOpenedHoweverItIsChosen)
             if (!isOpened)
                 alerts.expect("Only files whose names end in “.csv” can be imported.", firstButtonAnswer,
                     cancelPanelThatComesBack);
-            whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, file); });
+            whenOpen<QFileDialog>([&](QFileDialog& panel) { confirm(panel, file); });
             EXPECT_EQ(panels.runModal(OpenPanel{"csv"}), isOpened ? toText(file) : Text()) << name;
         }
     }
@@ -180,8 +161,8 @@ TEST_F(FilePanelsTest, ARefusedChoiceMayBeFollowedByABetterOne)
     make("taken.csv");
     for (const Confirm& confirm : {Confirm(enter), Confirm(endWith)}) {
         alerts.expect("“taken.csv” already exists. Do you want to replace it?", secondButtonAnswer,
-            [&] { whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, "free"); }); });
-        whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, "taken"); });
+            [&] { whenOpen<QFileDialog>([&](QFileDialog& panel) { confirm(panel, "free"); }); });
+        whenOpen<QFileDialog>([&](QFileDialog& panel) { confirm(panel, "taken"); });
         EXPECT_EQ(answerToSavePanel(), toText(folder.filePath("free.csv")));
     }
 }
@@ -215,7 +196,7 @@ TEST_F(FilePanelsTest, AFileIsReplacedOnlyAfterAQuestionAboutItsWholeName)
             if (row.asked)
                 alerts.expect("“" + std::string(row.asked) + "” already exists. Do you want to replace it?", row.answer,
                     row.chosen ? [] {} : cancelPanelThatComesBack);
-            whenPanelIsOpen([&](QFileDialog& panel) { confirm(panel, QString::fromLatin1(row.entered)); });
+            whenOpen<QFileDialog>([&](QFileDialog& panel) { confirm(panel, QString::fromLatin1(row.entered)); });
             EXPECT_EQ(answerToSavePanel(), row.chosen ? toText(folder.filePath(row.chosen)) : Text());
         }
     }

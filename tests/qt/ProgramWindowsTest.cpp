@@ -8,11 +8,8 @@
 #include "qt/windows/stationlist/StationListWindow.h"
 #include "support/ControllerTest.h"
 
-#include <QDropEvent>
 #include <QFile>
-#include <QMimeData>
 #include <QTemporaryDir>
-#include <QUrl>
 
 namespace sonavel {
 namespace {
@@ -23,17 +20,6 @@ protected:
     const WindowStateStore windowState{state.path()};
 };
 
-class Raises : public QObject {
-public:
-    int count = 0;
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
-        return false;
-    }
-};
-
 TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnotherProgram)
 {
     for (const bool isLeft : {false, true}) {
@@ -42,14 +28,9 @@ TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnother
         controls.main.winSonavel.makeKeyAndOrderFront();
         ASSERT_TRUE(handleEventsUntil([&] { return windows.mainWindow().isActiveWindow(); }));
         QWidget another;
-        if (isLeft) {
-            another.show();
-            another.activateWindow();
-            ASSERT_TRUE(handleEventsUntil([&] { return another.isActiveWindow(); }));
-        }
+        ASSERT_TRUE(!isLeft || activate(another));
         controls.stationList.winWebRadioListEdit.setIsVisible(true);
-        Raises raises;
-        windows.mainWindow().installEventFilter(&raises);
+        const EventCounter raises(windows.mainWindow(), QEvent::ZOrderChange);
         windows.buildOtherWindows();
         EXPECT_EQ(raises.count, isLeft ? 0 : 1);
     }
@@ -64,15 +45,9 @@ TEST_F(ProgramWindowsTest, AListThatIsDroppedOnTheListWindowIsImported)
     windows.buildOtherWindows();
     QFile dropped(state.filePath(QStringLiteral("list.csv")));
     ASSERT_TRUE(dropped.open(QFile::WriteOnly));
-    QMimeData dragged;
-    dragged.setUrls({QUrl::fromLocalFile(dropped.fileName())});
-    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-    QDropEvent drop({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (dynamic_cast<StationListWindow*>(window) == nullptr)
-            continue;
-        QApplication::sendEvent(window, &enter);
-        QApplication::sendEvent(window, &drop);
+        if (dynamic_cast<StationListWindow*>(window) != nullptr)
+            dropFiles(*window, {QUrl::fromLocalFile(dropped.fileName())});
     }
     EXPECT_TRUE(handleEventsUntil([&] { return imported == toText(dropped.fileName()); }));
 }

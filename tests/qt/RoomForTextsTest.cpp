@@ -36,7 +36,7 @@ protected:
     static bool mayElide(const QWidget& widget)
     {
         return dynamic_cast<const ElidedLabel*>(&widget) || dynamic_cast<const StatusLine*>(&widget)
-            || dynamic_cast<const StationComboBox*>(&widget) || widget.objectName().startsWith(QStringLiteral("qt_"));
+            || dynamic_cast<const StationComboBox*>(&widget) || widget.objectName().startsWith("qt_");
     }
 
     static void expectNothingOverlaps(const QWidget& parent)
@@ -46,8 +46,7 @@ protected:
             for (const QWidget* other : children)
                 EXPECT_TRUE(other == child || other->isHidden() || child->isHidden() || other->isWindow()
                     || child->isWindow() || !child->geometry().intersects(other->geometry()))
-                    << GetParam() << ", " << child->objectName().toStdString() << " and "
-                    << other->objectName().toStdString();
+                    << child->objectName().toStdString() << " and " << other->objectName().toStdString();
             if (child->layout() != nullptr)
                 expectNothingOverlaps(*child);
         }
@@ -61,30 +60,26 @@ protected:
         QApplication::processEvents();
         expectNothingOverlaps(window);
         for (auto* widget : window.findChildren<QWidget*>()) {
+            SCOPED_TRACE(widget->objectName().toStdString());
             const auto* button = qobject_cast<QAbstractButton*>(widget);
             const bool hasText = qobject_cast<QLabel*>(widget) || (button != nullptr && !button->text().isEmpty());
             if (!hasText || mayElide(*widget) || !widget->isVisible())
                 continue;
             if (widget->hasHeightForWidth()) {
-                EXPECT_GE(widget->height(), widget->heightForWidth(widget->width()))
-                    << GetParam() << ", " << widget->objectName().toStdString();
+                EXPECT_GE(widget->height(), widget->heightForWidth(widget->width()));
                 continue;
             }
-            EXPECT_GE(widget->width(), widget->sizeHint().width())
-                << GetParam() << ", " << widget->objectName().toStdString();
-            EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
-                << GetParam() << ", " << widget->objectName().toStdString();
+            EXPECT_GE(widget->width(), widget->sizeHint().width());
+            EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
         }
-        for (auto* field : window.findChildren<QLineEdit*>()) {
-            const int text = field->fontMetrics().horizontalAdvance(field->placeholderText());
-            EXPECT_GE(field->width(), text) << GetParam() << ", " << field->objectName().toStdString();
-        }
+        for (auto* field : window.findChildren<QLineEdit*>())
+            EXPECT_GE(field->width(), field->fontMetrics().horizontalAdvance(field->placeholderText()));
         const QFontMetrics metrics = window.fontMetrics();
         EXPECT_GE(window.width(), metrics.horizontalAdvance(window.windowTitle()) + 8 * metrics.height())
-            << GetParam() << ", the title and the buttons beside it";
+            << "the title and the buttons beside it";
         for (auto* header : window.findChildren<QHeaderView*>()) {
             for (int column = 0; header->orientation() == Qt::Horizontal && column < header->count(); ++column)
-                EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column)) << GetParam();
+                EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column));
         }
         window.hide();
     }
@@ -93,19 +88,19 @@ protected:
     static void expectAllShown(QMainWindow& window)
     {
         window.show();
-        for (auto* extension : window.findChildren<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
-            EXPECT_FALSE(extension->isVisible()) << GetParam();
-        for (auto* extension : window.findChildren<QToolButton*>(QStringLiteral("qt_menubar_ext_button")))
-            EXPECT_FALSE(extension->isVisible()) << GetParam();
+        for (const char* button : {"qt_toolbar_ext_button", "qt_menubar_ext_button"})
+            for (auto* extension : window.findChildren<QToolButton*>(button))
+                EXPECT_FALSE(extension->isVisible()) << button;
     }
+
+    const TranslatedStrings strings{QLocale(GetParam())};
+    Controls controls;
+    ProgramMenus menus{[] {}};
+    MainWindow main{&menus};
 };
 
 TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
 {
-    const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
-    ProgramMenus menus([] {});
-    Controls controls;
-    MainWindow main(&menus);
     connectMainWindow(controls.main, main);
     controls.main.buttonPlayPause.setImage("play.png");
     expectRoomIn(main);
@@ -119,11 +114,11 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
 
     const auto sheet = editSheetOf(list);
     for (const char* word : {"BUTTON_ADD", "BUTTON_EDIT"}) {
-        sheet->findChild<QPushButton*>(QStringLiteral("buttonAction"))->setText(qtTrId(word));
+        sheet->findChild<QPushButton*>("buttonAction")->setText(qtTrId(word));
         expectRoomIn(*sheet);
     }
     SplashScreen splash;
-    splash.setWaitingFor(QStringLiteral("data.example"));
+    splash.setWaitingFor("data.example");
     expectRoomIn(splash);
     const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
     menus.addTo(*preferences);
@@ -132,18 +127,17 @@ TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
 
 TEST_P(RoomForTextsTest, IsThereForWhatIsFilledInLater)
 {
-    const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
     const auto say = [](ProgramDialog& dialog, const char* label, const QString& text) {
         dialog.findChild<QLabel*>(QString::fromLatin1(label))->setText(text);
     };
     const auto about = ProgramDialog::from<Ui::AboutWindow>();
-    say(*about, "labelAppVersion", qtTrId("ABOUT_VERSION") + QStringLiteral("1.0.0"));
+    say(*about, "labelAppVersion", qtTrId("ABOUT_VERSION") + "1.0.0");
     expectRoomIn(*about);
 
     const auto update = ProgramDialog::from<Ui::UpdateWindow>();
-    say(*update, "textFieldLabelUpdateNameApp", QStringLiteral("Sonavel ") + qtTrId("UPD_NEW_UPDATE_AVIABLE"));
+    say(*update, "textFieldLabelUpdateNameApp", "Sonavel " + qtTrId("UPD_NEW_UPDATE_AVIABLE"));
     say(*update, "textFieldLabelUpdateVersionNote",
-        QStringLiteral("Sonavel 10.11.12 (1314) ") + qtTrId("UPD_INFO") + QStringLiteral(" 10.11.11 (1313)"));
+        "Sonavel 10.11.12 (1314) " + qtTrId("UPD_INFO") + " 10.11.11 (1313)");
     expectRoomIn(*update);
 
     const auto notice = ProgramDialog::from<Ui::UpdateNotice>();
@@ -165,18 +159,14 @@ TEST(MirroredDialogs, BeginTheirTextsAtTheRight)
 
 TEST_P(RoomForTextsTest, IsThereForWhyAStreamCannotBePlayed)
 {
-    const TranslatedStrings strings{QLocale(QString::fromLatin1(GetParam()))};
-    ProgramMenus menus([] {});
-    MainWindow main(&menus);
     main.show();
-    const auto* line = main.findChild<ElidedLabel*>(QStringLiteral("labelNowPlaying"));
+    const auto* line = main.findChild<ElidedLabel*>("labelNowPlaying");
     main.showNowPlaying({}, MainWindow::Emphasis::Failure);
     for (int failure = 0; failure <= static_cast<int>(PlaybackFailure::EngineFailed); ++failure) {
         const QString text = nowPlayingText({StreamReport::State::Reconnecting, Text(),
             static_cast<PlaybackFailure>(failure), std::chrono::seconds(30)});
-        EXPECT_FALSE(text.contains(QStringLiteral("FAILURE_"))) << text.toStdString();
-        EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->textArea().width())
-            << GetParam() << ": " << text.toStdString();
+        EXPECT_FALSE(text.contains("FAILURE_")) << text.toStdString();
+        EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->textArea().width()) << text.toStdString();
     }
 }
 

@@ -12,19 +12,16 @@
 #include "qt/windows/stationlist/StationTable.h"
 #include "ui_AboutWindow.h"
 
-#include <QDropEvent>
 #include <QFile>
 #include <QHeaderView>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
-#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -214,23 +211,13 @@ TEST_F(StationListWindowTest, OnlyOneLocalStationListCanBeDropped)
         {{QUrl::fromLocalFile(folder.filePath("gone.csv"))}, false}};
     std::vector<Text> dropped;
     window.whenFileDropped([&](const Text& path) { dropped.push_back(path); });
-    const auto isAccepted = [&](const QList<QUrl>& urls) {
-        QMimeData dragged;
-        dragged.setUrls(urls);
-        QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-        enter.ignore();
-        QApplication::sendEvent(&window, &enter);
-        QDropEvent drop({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-        QApplication::sendEvent(&window, &drop);
-        return enter.isAccepted();
-    };
     for (const auto& [urls, isWanted] : cases)
-        EXPECT_EQ(isAccepted(urls), isWanted);
+        EXPECT_EQ(dropFiles(window, urls), isWanted);
     EXPECT_TRUE(dropped.empty()) << "the other program waits for the end of the drop";
     QApplication::processEvents();
     EXPECT_EQ(dropped, std::vector<Text>{Text(list.toLocalFile().toStdString())});
     openSheet();
-    EXPECT_FALSE(isAccepted({list}));
+    EXPECT_FALSE(dropFiles(window, {list}));
 }
 
 TEST_F(StationListWindowTest, TheSheetOpensWithTheFocusInNeitherFieldEveryTime)
@@ -333,9 +320,7 @@ TEST_F(StationListWindowTest, AKeyIsHeardOnceInWhicheverWindowIsActive)
     const auto dialog = ProgramDialog::from<Ui::AboutWindow>();
     connectAboutWindow(controls.about, *dialog);
     const auto press = [&](QWidget& active, QWidget& receiver, Qt::Key key) {
-        active.show();
-        active.activateWindow();
-        ASSERT_TRUE(handleEventsUntil([&] { return active.isActiveWindow(); }));
+        ASSERT_TRUE(activate(active));
         QTest::keyClick(&receiver, key, Qt::ControlModifier);
         QApplication::processEvents();
         heard << "|";
@@ -369,9 +354,7 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
     others.menu.menuMute.setEnabled(false);
     QMainWindow main;
     late.addTo(main);
-    main.show();
-    main.activateWindow();
-    ASSERT_TRUE(handleEventsUntil([&] { return main.isActiveWindow(); }));
+    ASSERT_TRUE(activate(main));
     QApplication::processEvents();
     others.menu.menuMute.setEnabled(false);
     QTest::keyClick(&main, Qt::Key_M, Qt::ControlModifier);
@@ -382,26 +365,17 @@ TEST_F(StationListWindowTest, AnItemIsEnabledJustBeforeItsKeyOrMenuIsUsed)
     EXPECT_EQ(validations, before + 1);
 }
 
-TEST_F(StationListWindowTest, EveryItemHasTheTagOfWhatItSaysAndItsKeys)
+TEST_F(StationListWindowTest, ItemsHaveTheirKeys)
 {
-    struct Row {
-        MenuItem MenuControls::*item;
-        int tag;
-        const char* keys;
-    };
-    const std::array items{Row{&MenuControls::menuQuit, 0, "Ctrl+Q"}, Row{&MenuControls::menuRadioAdd, 1000, "Ctrl+N"},
-        Row{&MenuControls::menuRadioEdit, 1001, ""}, Row{&MenuControls::menuRadioRemove, 1002, ""},
-        Row{&MenuControls::menuRadioShowEditRadio, 1003, "Ctrl+E"},
-        Row{&MenuControls::menuPlayPause, 2000, "Ctrl+P; Space"}, Row{&MenuControls::menuStop, 2001, "Ctrl+."},
-        Row{&MenuControls::menuMute, 2002, "Ctrl+M"}, Row{&MenuControls::menuPreviousStation, 2003, "Ctrl+Left"},
-        Row{&MenuControls::menuNextStation, 2004, "Ctrl+Right"}, Row{&MenuControls::menuRadioImport, 3000, "Ctrl+I"},
-        Row{&MenuControls::menuRadioExport, 3001, "Ctrl+Shift+E"}, Row{&MenuControls::menuPreferences, 4000, "Ctrl+,"},
-        Row{&MenuControls::menuCheckUpdates, 4001, ""}, Row{&MenuControls::menuAbout, -1, ""}};
-    for (const auto& [item, tag, keys] : items) {
-        const QAction& shown = action(item);
-        EXPECT_EQ((controls.menu.*item).tag(), tag) << shown.text().toStdString();
-        EXPECT_EQ(QKeySequence::listToString(shown.shortcuts()), keys) << shown.text().toStdString();
-    }
+    using Items = MenuControls;
+    const std::pair<MenuItem Items::*, const char*> cases[] = {{&Items::menuQuit, "Ctrl+Q"},
+        {&Items::menuRadioAdd, "Ctrl+N"}, {&Items::menuRadioShowEditRadio, "Ctrl+E"},
+        {&Items::menuPlayPause, "Ctrl+P; Space"}, {&Items::menuStop, "Ctrl+."}, {&Items::menuMute, "Ctrl+M"},
+        {&Items::menuPreviousStation, "Ctrl+Left"}, {&Items::menuNextStation, "Ctrl+Right"},
+        {&Items::menuRadioImport, "Ctrl+I"}, {&Items::menuRadioExport, "Ctrl+Shift+E"},
+        {&Items::menuPreferences, "Ctrl+,"}};
+    for (const auto& [item, keys] : cases)
+        EXPECT_EQ(QKeySequence::listToString(action(item).shortcuts()), keys);
 }
 
 TEST_F(StationListWindowTest, ACheckMarkIsTheProgramsToSet)
@@ -439,33 +413,26 @@ TEST_F(StationListWindowTest, AnEmptyListSaysWhatToDo)
     EXPECT_NE(hint, before);
 }
 
-TEST_F(StationListWindowTest, TheFindFieldHasTheSameSpaceAroundItInBothDirections)
+TEST_F(StationListWindowTest, FromRightToLeftTheFindFieldIsMirrored)
 {
     const auto* bar = child<QToolBar>(window, "toolBar").layout()->parentWidget();
-    const auto besideField = [&](Qt::LayoutDirection direction) {
-        window.setLayoutDirection(direction);
-        QApplication::processEvents();
-        const QRect field = findField().geometry();
-        EXPECT_NEAR(field.top(), bar->rect().bottom() - field.bottom(), 1);
-        return direction == Qt::LeftToRight ? bar->rect().right() - field.right() : field.left();
-    };
-    const int usual = besideField(Qt::LeftToRight);
-    EXPECT_GE(usual, window.fontMetrics().height() / 2);
-    EXPECT_EQ(besideField(Qt::RightToLeft), usual);
-}
-
-TEST_F(StationListWindowTest, WhatIsLookedForBeginsBesideTheLensInBothDirections)
-{
-    findField().setText(QStringLiteral("ABC"));
-    const auto toTextFromLens = [&](Qt::LayoutDirection direction) {
+    findField().setText("ABC");
+    const auto spaceAndTextFromLens = [&](Qt::LayoutDirection direction) {
         window.setLayoutDirection(direction);
         QApplication::processEvents();
         const bool isMirrored = direction == Qt::RightToLeft;
+        const QRect field = findField().geometry();
+        EXPECT_NEAR(field.top(), bar->rect().bottom() - field.bottom(), 1);
         findField().setCursorPosition(isMirrored ? 3 : 0);
         const int text = findField().inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
-        return isMirrored ? findField().width() - text : text;
+        return isMirrored ? std::pair(field.left(), field.width() - text)
+                          : std::pair(bar->rect().right() - field.right(), text);
     };
-    EXPECT_NEAR(toTextFromLens(Qt::RightToLeft), toTextFromLens(Qt::LeftToRight), 4);
+    const auto [space, text] = spaceAndTextFromLens(Qt::LeftToRight);
+    const auto [mirroredSpace, mirroredText] = spaceAndTextFromLens(Qt::RightToLeft);
+    EXPECT_GE(space, window.fontMetrics().height() / 2);
+    EXPECT_EQ(mirroredSpace, space);
+    EXPECT_NEAR(mirroredText, text, 4);
 }
 
 TEST_F(StationListWindowTest, TheColumnsComeBackAsTheyWere)

@@ -1,9 +1,10 @@
 // The table of the station list: rows and selection of the program, selection and edits of the user.
+#include "qt/windows/stationlist/StationTable.h"
+
 #include "StationRows.h"
 #include "UserInput.h"
 #include "qt/binders/Binders.h"
 #include "qt/windows/stationlist/StationCellDelegate.h"
-#include "qt/windows/stationlist/StationTable.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>

@@ -1,7 +1,6 @@
 // A field whose text the program corrects while the user types.
-#include "qt/binders/Binders.h"
-
 #include "UserInput.h"
+#include "qt/binders/Binders.h"
 #include "qt/kit/TextConversion.h"
 
 #include <QInputMethodEvent>

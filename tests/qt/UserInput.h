@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QMouseEvent>
+#include <QMimeData>
+#include <QUrl>
 #include <QWheelEvent>
 #include <QWidget>
 
@@ -41,5 +43,46 @@ inline bool handleEventsUntil(const std::function<bool()>& done)
     }
     return true;
 }
+
+/// Shows the window and gives it the keyboard; false when it does not get that.
+inline bool activate(QWidget& window)
+{
+    window.show();
+    window.activateWindow();
+    return handleEventsUntil([&] { return window.isActiveWindow(); });
+}
+
+/// Drags files over the window and drops them there; false when it does not take them.
+inline bool dropFiles(QWidget& window, const QList<QUrl>& files)
+{
+    QMimeData dragged;
+    dragged.setUrls(files);
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    enter.ignore();
+    QApplication::sendEvent(&window, &enter);
+    QDropEvent drop({50, 50}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QApplication::sendEvent(&window, &drop);
+    return enter.isAccepted();
+}
+
+/// Counts the events of one kind that a widget gets.
+class EventCounter : public QObject {
+public:
+    EventCounter(QObject& widget, QEvent::Type type)
+        : type_(type)
+    {
+        widget.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == type_ ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+
+private:
+    QEvent::Type type_;
+};
 
 } // namespace sonavel
