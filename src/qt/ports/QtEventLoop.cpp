@@ -10,9 +10,14 @@ namespace {
 /// Silences its source at once and leaves it to the loop, because a callback may destroy its own registration.
 template <class Source> class SourceRegistration : public EventLoop::Registration {
 public:
-    explicit SourceRegistration(Source* source)
+    template <class Signal>
+    SourceRegistration(Source* source, Signal signal, EventLoop::Callback callback)
         : source_(source)
     {
+        QObject::connect(source, signal, source, [callback = std::move(callback)] {
+            const EventLoop::Callback kept = callback;
+            kept();
+        });
     }
     ~SourceRegistration() override
     {
@@ -31,11 +36,8 @@ private:
 std::unique_ptr<EventLoop::Registration> QtEventLoop::whenReadable(int fileDescriptor, Callback callback)
 {
     auto* notifier = new QSocketNotifier(fileDescriptor, QSocketNotifier::Read);
-    QObject::connect(notifier, &QSocketNotifier::activated, notifier, [callback = std::move(callback)] {
-        const Callback kept = callback;
-        kept();
-    });
-    return std::make_unique<SourceRegistration<QSocketNotifier>>(notifier);
+    return std::make_unique<SourceRegistration<QSocketNotifier>>(
+        notifier, &QSocketNotifier::activated, std::move(callback));
 }
 
 std::unique_ptr<EventLoop::Registration> QtEventLoop::after(std::chrono::milliseconds delay, Callback callback)
@@ -43,12 +45,8 @@ std::unique_ptr<EventLoop::Registration> QtEventLoop::after(std::chrono::millise
     auto* timer = new QTimer;
     timer->setSingleShot(true);
     timer->setTimerType(Qt::PreciseTimer);
-    QObject::connect(timer, &QTimer::timeout, timer, [callback = std::move(callback)] {
-        const Callback kept = callback;
-        kept();
-    });
     timer->start(delay);
-    return std::make_unique<SourceRegistration<QTimer>>(timer);
+    return std::make_unique<SourceRegistration<QTimer>>(timer, &QTimer::timeout, std::move(callback));
 }
 
 } // namespace sonavel
