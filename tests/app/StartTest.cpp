@@ -111,17 +111,6 @@ TEST_F(StartTest, APlayerThatIsThereBeforeTheControlsGetsTheVolume)
     EXPECT_EQ(platform.streamPlayers.last().volume, 0.25F);
 }
 
-TEST_F(StartTest, NoDefaultStationSelectsAndPlaysNothing)
-{
-    for (const char* name : {"POP_UP_BUTTON_SELECT_RADIO", "POP_UP_BUTTON_SELECT_RADIO_NULL", "Gone", ""}) {
-        putPreferences({{"defaultStation", name}, {"isAutoPlayOpenApp", "YES"}});
-        startWithStations("POP_UP_BUTTON_SELECT_RADIO;http://a/\rPOP_UP_BUTTON_SELECT_RADIO_NULL;http://b/\r");
-        EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 0) << name;
-        EXPECT_TRUE(platform.streamPlayers.players.empty());
-        EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, Text(name));
-    }
-}
-
 TEST_F(StartTest, OutletsThatAreNotConnectedAreLeftAlone)
 {
     putDatabase("A;http://a/\r");

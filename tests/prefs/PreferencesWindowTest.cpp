@@ -69,19 +69,22 @@ TEST_F(PreferencesWindowTest, ADefaultStationIsKnownByItsNameAlone)
         const char* list;
         int item;
     } cases[] = {
-        {"B", "A;1\rB;2\r", 2},
+        {"B", "A;http://a/\rB;http://b/\r", 2},
         {"B", "A;1\rRenamed;2\r", 0},
         {"B", "A;1\r", 0},
-        {"B", "B;1\rB;2\r", 1},
+        {"", "A;1\r", 0},
+        {"B", "B;http://a/\rB;http://b/\r", 1},
         {"<POP_UP_BUTTON_SELECT_RADIO>", "A;1\r", 0},
         {"POP_UP_BUTTON_SELECT_RADIO", "POP_UP_BUTTON_SELECT_RADIO;1\r", 0},
         {"POP_UP_BUTTON_SELECT_RADIO_NULL", "POP_UP_BUTTON_SELECT_RADIO_NULL;1\r", 0},
     };
     start();
     for (const auto& [name, stations, item] : cases) {
-        putPreferences({{"defaultStation", name}});
+        putPreferences({{"defaultStation", name}, {"isAutoPlayOpenApp", "YES"}});
         putDatabase(stations);
+        platform.streamPlayers.players.clear();
         EXPECT_EQ(itemSelectedAtTheNextStart(), item) << name << " in " << stations;
+        EXPECT_EQ(platform.streamPlayers.players.empty(), item == 0) << name;
     }
 }
 
