@@ -49,7 +49,8 @@ Text StationRefresh::downloadedListText() const
 {
     HttpRequest request;
     request.address = percentEscaped(dataServer_.string().append(listResource));
-    return httpClient_.sendSynchronousRequest(request).map(decodeStationList).value_or(Text());
+    auto content = httpClient_.sendSynchronousRequest(request);
+    return content ? decodeStationList(std::move(*content)) : Text();
 }
 
 } // namespace sonavel

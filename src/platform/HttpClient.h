@@ -4,8 +4,6 @@
 #include "base/NonCopyable.h"
 #include "base/Text.h"
 
-#include <tl/expected.hpp>
-
 #include <chrono>
 #include <optional>
 #include <string>
@@ -29,13 +27,8 @@ struct HttpRequest {
     std::string body;
 };
 
-struct HttpFailure {
-    /// In one line, for logs.
-    std::string reason;
-};
-
-/// The body of an answer.
-using HttpResult = tl::expected<std::string, HttpFailure>;
+/// The body of an answer; nothing when there was none, whose reason is of no use to the program.
+using HttpResult = std::optional<std::string>;
 
 class HttpClient : private NonCopyable {
 public:

@@ -169,9 +169,8 @@ CurlHttpClient::CurlHttpClient(const Text& version, const Limits& limits)
 
 HttpResult CurlHttpClient::sendSynchronousRequest(const HttpRequest& request)
 {
-    const auto failure = [](const char* reason) { return tl::unexpected(HttpFailure{reason}); };
     if (CurlLibrary::shared() == nullptr)
-        return failure("libcurl cannot be loaded");
+        return std::nullopt;
     Answer answer(limits_);
     const Headers headers = headersOf(request);
     Transfer transfer;
@@ -180,11 +179,9 @@ HttpResult CurlHttpClient::sendSynchronousRequest(const HttpRequest& request)
     receiveInto(answer, transfer);
     setContent(transfer, request, headers);
     transfer.set(CURLOPT_USERAGENT, userAgent_.c_str());
-    if (const CURLcode status = transfer.perform(); status != CURLE_OK)
-        return failure(curl().easyStrerror(status));
     // To libcurl, a connection that ends within the headers is an empty body.
-    if (!answer.isHeadWhole)
-        return failure("the answer ended within its head");
+    if (transfer.perform() != CURLE_OK || !answer.isHeadWhole)
+        return std::nullopt;
     return std::move(answer.body);
 }
 

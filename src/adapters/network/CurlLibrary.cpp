@@ -24,7 +24,6 @@ std::optional<CurlLibrary> loaded()
     const bool isComplete = find(library, "curl_global_init", globalInit)
         && find(library, "curl_easy_init", curl.easyInit) && find(library, "curl_easy_cleanup", curl.easyCleanup)
         && find(library, "curl_easy_setopt", curl.easySetopt) && find(library, "curl_easy_perform", curl.easyPerform)
-        && find(library, "curl_easy_strerror", curl.easyStrerror)
         && find(library, "curl_slist_append", curl.slistAppend)
         && find(library, "curl_slist_free_all", curl.slistFreeAll);
     if (!isComplete || globalInit(CURL_GLOBAL_DEFAULT) != CURLE_OK)

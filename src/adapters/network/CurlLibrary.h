@@ -12,7 +12,6 @@ struct CurlLibrary {
     decltype(&curl_easy_cleanup) easyCleanup;
     decltype(&curl_easy_setopt) easySetopt;
     decltype(&curl_easy_perform) easyPerform;
-    decltype(&curl_easy_strerror) easyStrerror;
     decltype(&curl_slist_append) slistAppend;
     decltype(&curl_slist_free_all) slistFreeAll;
 

@@ -1,11 +1,8 @@
 #include "qt/ports/AwaitingHttpClient.h"
 
-#include "qt/kit/TextConversion.h"
-
 #include <QEventLoop>
 #include <QMetaObject>
 #include <QTimer>
-#include <QUrl>
 
 #include <thread>
 
@@ -37,9 +34,6 @@ HttpResult AwaitingHttpClient::sendSynchronousRequest(const HttpRequest& request
     worker.join();
     if (!patience.isActive() && slowRequestEnded_)
         slowRequestEnded_();
-    if (!answer)
-        qWarning("sonavel: no answer from %s: %s", qUtf8Printable(QUrl(toQString(request.address)).host()),
-            answer.error().reason.c_str());
     return answer;
 }
 

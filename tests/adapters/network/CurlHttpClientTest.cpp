@@ -281,9 +281,7 @@ TEST(CurlHttpClient, WithoutALimitNothingIsSent)
     const ScriptedServer server(ScriptedServer::answering("HTTP/1.1 200 OK\r\n\r\n"));
     CurlHttpClient::Limits limits;
     limits.body = std::numeric_limits<std::size_t>::max(); // which libcurl does not take
-    const auto answer = get(server.address(), limits);
-    ASSERT_FALSE(answer);
-    EXPECT_FALSE(answer.error().reason.empty());
+    EXPECT_FALSE(get(server.address(), limits));
     EXPECT_EQ(server.connectionCount(), 0);
 }
 
