@@ -11,15 +11,13 @@ namespace {
 using namespace std::chrono_literals;
 
 /// The time zone of this process, until the end of the object.
-class TimeZone {
+class TimeZone : private NonCopyable {
 public:
     explicit TimeZone(const char* rule)
     {
         ::setenv("TZ", rule, 1);
         ::tzset();
     }
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
     ~TimeZone()
     {
         ::unsetenv("TZ");

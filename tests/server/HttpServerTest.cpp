@@ -6,7 +6,6 @@
 #include "support/ServerHost.h"
 
 #include <gtest/gtest.h>
-#include <netinet/tcp.h>
 
 #include <array>
 #include <chrono>
@@ -74,16 +73,6 @@ TEST(HttpServer, AConnectionServesAsManyRequestsAsItSays)
     for (std::size_t found = 0; (found = responses.find(granted, found)) != std::string::npos; ++found)
         ++count;
     EXPECT_EQ(count, 20);
-}
-
-TEST(HttpConnection, SendsEachPieceOfAResponseAtOnce)
-{
-    const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const HttpConnection connection(socket);
-    int isWithoutDelay = 0;
-    socklen_t size = sizeof isWithoutDelay;
-    ASSERT_EQ(::getsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &isWithoutDelay, &size), 0);
-    EXPECT_NE(isWithoutDelay, 0);
 }
 
 TEST(HttpConnection, ARequestBeyondTheLimitIsDrainedAfterTheEndOfTheResponse)

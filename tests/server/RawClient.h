@@ -1,6 +1,7 @@
 // A client that sends what no library would: half a request, one without an end, or nothing at all.
 #pragma once
 
+#include "base/NonCopyable.h"
 #include "server/DataServer.h"
 
 #include <arpa/inet.h>
@@ -19,7 +20,7 @@
 namespace sonavel::test {
 
 /// Connected to a server on loopback. No wait is longer than 30 s.
-class RawClient {
+class RawClient : private NonCopyable {
 public:
     explicit RawClient(const DataServer& server)
         : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
@@ -32,8 +33,6 @@ public:
         if (connect(socket_, reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0)
             throw std::runtime_error("the server takes no connection");
     }
-    RawClient(const RawClient&) = delete;
-    RawClient& operator=(const RawClient&) = delete;
     ~RawClient() { close(socket_); }
 
     /// False when the server takes no more.

@@ -50,8 +50,6 @@ private:
             : record_(std::move(record))
         {
         }
-        Recorder(const Recorder&) = delete;
-        Recorder& operator=(const Recorder&) = delete;
         ~Recorder() override
         {
             record_->isGone = true;

@@ -1,6 +1,8 @@
 // A TCP server on loopback that does to its clients whatever a test scripts.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <arpa/inet.h>
 #include <netinet/in.h>
 #include <poll.h>
@@ -26,13 +28,11 @@ namespace sonavel::test {
 /// Listens on 127.0.0.1 on a free port from construction to destruction, and calls the handler for each connection on
 /// a thread of the connection's own. The end of the server ends every wait of every handler, so that destruction never
 /// hangs; a handler captures only what outlives the server.
-class ScriptedServer {
+class ScriptedServer : private NonCopyable {
 public:
     /// One client, as the handler sees it. Closed when the handler returns. A wait ends early when the server ends.
-    class Connection {
+    class Connection : private NonCopyable {
     public:
-        Connection(const Connection&) = delete;
-        Connection& operator=(const Connection&) = delete;
         ~Connection() { close(); }
 
         /// Everything up to and with the blank line; shorter when the client closed before.
@@ -158,9 +158,6 @@ public:
         port_ = ntohs(address.sin_port);
         acceptor_ = std::thread([this] { acceptConnections(); });
     }
-
-    ScriptedServer(const ScriptedServer&) = delete;
-    ScriptedServer& operator=(const ScriptedServer&) = delete;
 
     ~ScriptedServer()
     {

@@ -1,6 +1,8 @@
 // A folder of a test's own on the real disk.
 #pragma once
 
+#include "base/NonCopyable.h"
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -13,7 +15,7 @@
 namespace sonavel::test {
 
 /// Made empty, and removed with everything in it at its end.
-class TemporaryFolder {
+class TemporaryFolder : private NonCopyable {
 public:
     TemporaryFolder()
     {
@@ -22,8 +24,6 @@ public:
             throw std::runtime_error("no temporary folder");
         path_ = name;
     }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder()
     {
         std::error_code ignored;

@@ -25,8 +25,6 @@ public:
         , item_(std::move(item))
     {
     }
-    Player(const Player&) = delete;
-    Player& operator=(const Player&) = delete;
     ~Player() override { engine_.detach(*this); }
 
     void play() override

@@ -5,6 +5,7 @@ namespace sonavel {
 namespace {
 
 using StartTest = ControllerTest;
+using EndTest = ControllerTest;
 
 TEST_F(StartTest, TheStepsComeInTheirOrder)
 {
@@ -120,6 +121,35 @@ TEST_F(StartTest, OutletsThatAreNotConnectedAreLeftAlone)
     platform.runLoop.turn();
     EXPECT_EQ(controls.main.popupbuttonRadioList.state(), PopUpButtonState());
     EXPECT_EQ(platform.streamPlayers.last().volume, 0.0F);
+}
+
+TEST_F(EndTest, ThePreferencesAreStoredBeforeTheQuestionWhateverTheAnswer)
+{
+    startWithStations("A;http://a/\r");
+    controller.preferences.PREF_DEFAULT_STATION = "A";
+    platform.preferenceDomains.stored.clear();
+    constexpr const char* question = "<ALLERT_TEXT_MESSAGE_QUIT>";
+    const auto expectStored = [&] { EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A")); };
+    controls.main.winSonavel.setIsVisible(false);
+    platform.alerts.expect(question, secondButtonAnswer, expectStored);
+    EXPECT_EQ(statusOfEnd([&] { controls.main.winSonavel.closeRequestedByUser(); }), std::nullopt);
+    EXPECT_TRUE(controls.main.winSonavel.isVisible());
+    EXPECT_EQ(platform.alerts.shown.front().buttonTitles, (std::vector<Text>{"<BUTTON_YES>", "<BUTTON_NO>"}));
+
+    platform.preferenceDomains.stored.clear();
+    platform.alerts.expect(question, firstButtonAnswer, expectStored);
+    EXPECT_EQ(statusOfEnd([&] { controller.quitApp(); }), 0);
+}
+
+TEST_F(EndTest, ASessionThatEndsKeepsAnOpenCellAndThePreferences)
+{
+    putPreferences({{"defaultStation", "B"}});
+    startWithStations("A;http://a/\r");
+    controller.preferences.PREF_DEFAULT_STATION = "A";
+    const unsigned before = controls.stationList.tableViewListRadio.state().endsOfEditing;
+    controller.keepWhatIsOpen();
+    EXPECT_EQ(controls.stationList.tableViewListRadio.state().endsOfEditing, before + 1);
+    EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A"));
 }
 
 } // namespace
