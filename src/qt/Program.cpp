@@ -12,7 +12,7 @@
 #include "platform/NotificationCenter.h"
 #include "qt/LaunchResources.h"
 #include "qt/ProgramWindows.h"
-#include "qt/binders/OutletConnector.h"
+#include "qt/binders/Binders.h"
 #include "qt/desktop/ConnectivityMonitor.h"
 #include "qt/desktop/MediaPlayerBus.h"
 #include "qt/desktop/Session.h"
@@ -199,7 +199,7 @@ void Program::showWaiting(const QString& host)
         return;
     if (!parts_->splashScreen) {
         parts_->splashScreen = std::make_unique<SplashScreen>();
-        connectSplashScreen(parts_->controls.winSplashScreen, *parts_->splashScreen);
+        bind(parts_->controls.winSplashScreen, *parts_->splashScreen);
     }
     parts_->splashScreen->setWaitingFor(filledIn("SPLASH_WAITING", host));
     parts_->controls.winSplashScreen.setIsVisible(true);

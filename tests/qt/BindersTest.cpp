@@ -11,7 +11,6 @@
 #include "qt/windows/ProgramDialog.h"
 #include "qt/windows/ProgramMenus.h"
 #include "qt/windows/main/MainWindow.h"
-#include "qt/windows/splash/SplashScreen.h"
 #include "qt/windows/stationlist/StationListWindow.h"
 #include "ui/Controls.h"
 #include "ui_AboutWindow.h"
@@ -379,7 +378,6 @@ TEST(Connecting, EveryControlHasItsWidgetAndBeforeThatItsState)
     Controls controls;
     ProgramMenus menus([] {});
     MainWindow main(&menus);
-    SplashScreen splash;
     StationListWindow list(controls.stationList.tableViewListRadio);
     const auto sheet = editSheetOf(list);
     const auto preferences = ProgramDialog::from<Ui::PreferencesSheet>();
@@ -393,7 +391,6 @@ TEST(Connecting, EveryControlHasItsWidgetAndBeforeThatItsState)
     Button remind;
     const auto updater = ProgramDialog::from<Ui::UpdateWindow>();
     connectMainWindow(controls.main, main);
-    connectSplashScreen(controls.winSplashScreen, splash);
     connectStationListWindow(controls.stationList, list);
     connectEditSheet(controls.editSheet, *sheet);
     connectPreferences(controls.preferences, *preferences);
@@ -402,7 +399,6 @@ TEST(Connecting, EveryControlHasItsWidgetAndBeforeThatItsState)
     connectUpdateWindow({window, name, version, notes, update, remind}, *updater);
 
     EXPECT_TRUE(areConnected(controls.main));
-    EXPECT_TRUE(controls.winSplashScreen.isConnected());
     EXPECT_TRUE(areConnected(controls.about));
     EXPECT_TRUE(window.isConnected() && name.isConnected() && version.isConnected());
     EXPECT_TRUE(notes.isConnected() && update.isConnected() && remind.isConnected());

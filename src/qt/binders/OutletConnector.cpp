@@ -69,11 +69,6 @@ private:
 
 } // namespace
 
-void connectSplashScreen(Window& winSplashScreen, QWidget& window)
-{
-    Outlets(window).connect(winSplashScreen, "winSplashScreen");
-}
-
 void connectMainWindow(MainControls& controls, QWidget& window)
 {
     const Outlets outlets(window);

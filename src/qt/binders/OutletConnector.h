@@ -20,7 +20,6 @@ struct UpdaterControls;
 
 /// Each connects every outlet that belongs to the window, a top-level widget, or to the menus. They throw
 /// MissingOutlet.
-void connectSplashScreen(Window& winSplashScreen, QWidget& window);
 void connectMainWindow(MainControls& controls, QWidget& window);
 void connectStationListWindow(StationListControls& controls, QWidget& window);
 void connectEditSheet(EditSheetControls& controls, QWidget& sheet);

@@ -31,11 +31,6 @@ Appearance appearanceOf(bool isDark, bool isHighContrast)
 
 } // namespace
 
-DesktopAppearance::DesktopAppearance(const WindowStateStore& windowState)
-    : windowState_(windowState)
-{
-}
-
 void DesktopAppearance::applySaved()
 {
     const Appearance appearance = windowState_.appearance().value_or(Appearance::Light);

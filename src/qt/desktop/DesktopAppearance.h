@@ -19,7 +19,10 @@ class DesktopAppearance : public QObject {
 
 public:
     /// Borrows the store.
-    explicit DesktopAppearance(const WindowStateStore& windowState);
+    explicit DesktopAppearance(const WindowStateStore& windowState)
+        : windowState_(windowState)
+    {
+    }
 
     /// Gives the application the palette of the saved appearance; light when there is none.
     void applySaved();

@@ -16,12 +16,6 @@ const QString noTrack = QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrac
 
 } // namespace
 
-MprisRootAdaptor::MprisRootAdaptor(MediaControls& controls, QObject& object)
-    : QDBusAbstractAdaptor(&object)
-    , controls_(controls)
-{
-}
-
 /// Whoever calls it waits for an answer, and must not wait for that of the question.
 void MprisRootAdaptor::Quit()
 {

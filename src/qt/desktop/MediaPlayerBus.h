@@ -23,7 +23,11 @@ class MprisRootAdaptor : public QDBusAbstractAdaptor {
     Q_PROPERTY(QStringList SupportedMimeTypes READ supportedMimeTypes)
 
 public:
-    MprisRootAdaptor(MediaControls& controls, QObject& object);
+    MprisRootAdaptor(MediaControls& controls, QObject& object)
+        : QDBusAbstractAdaptor(&object)
+        , controls_(controls)
+    {
+    }
 
     [[nodiscard]] static bool canQuit() { return true; }
     [[nodiscard]] static bool canRaise() { return true; }

@@ -8,12 +8,6 @@
 
 namespace sonavel {
 
-AwaitingHttpClient::AwaitingHttpClient(HttpClient& client, std::chrono::milliseconds patience)
-    : client_(client)
-    , patience_(patience)
-{
-}
-
 HttpResult AwaitingHttpClient::sendSynchronousRequest(const HttpRequest& request)
 {
     HttpResult answer;

@@ -17,8 +17,11 @@ public:
 
     /// `client` is called on another thread, one request at a time. A request is slow when it takes longer than
     /// `patience`.
-    explicit AwaitingHttpClient(
-        HttpClient& client, std::chrono::milliseconds patience = std::chrono::milliseconds(333));
+    explicit AwaitingHttpClient(HttpClient& client, std::chrono::milliseconds patience = std::chrono::milliseconds(333))
+        : client_(client)
+        , patience_(patience)
+    {
+    }
 
     /// `ended` is called when a request that was reported as slow has ended.
     void setSlowRequestObserver(SlowRequestObserver observer, std::function<void()> ended = {})

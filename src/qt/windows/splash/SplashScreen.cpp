@@ -22,7 +22,6 @@ SplashScreen::SplashScreen()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
     , line_(new ElidedLabel(this))
 {
-    setObjectName(QStringLiteral("winSplashScreen"));
     auto* picture = new QLabel(this);
     picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
     auto* name = new QLabel(qtTrId("WIN_SONAVEL"), this);

@@ -22,12 +22,6 @@ QString drawn(const Text& text)
 
 } // namespace
 
-StationTableModel::StationTableModel(TableView& table, QObject* parent)
-    : QAbstractTableModel(parent)
-    , table_(table)
-{
-}
-
 void StationTableModel::rowsReloaded()
 {
     beginResetModel();

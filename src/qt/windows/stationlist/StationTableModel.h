@@ -13,7 +13,10 @@ public:
     enum Column { Name, Address };
 
     /// The table has to outlive the model.
-    explicit StationTableModel(TableView& table, QObject* parent = nullptr);
+    explicit StationTableModel(TableView& table)
+        : table_(table)
+    {
+    }
 
     /// The table was reloaded; all that was known of the rows is void.
     void rowsReloaded();
