@@ -45,7 +45,7 @@ struct Scene {
         : stations(word)
     {
         controls.stationList.tableViewListRadio.setDataSource(&stations);
-        connectStationListWindow(controls.stationList, window);
+        connectWindow(controls.stationList, window);
         controls.stationList.tableViewListRadio.setAllowsMultipleSelection(true);
         controls.stationList.tableViewListRadio.reloadData();
         window.resize(1200, 900);

@@ -40,7 +40,7 @@ void ProgramWindows::connectMainWindow()
 {
     connectMenus(controls_.menu, *menus_);
     connectInitialState(controls_);
-    sonavel::connectMainWindow(controls_.main, *mainWindow_);
+    connectWindow(controls_.main, *mainWindow_);
     isMainWindowConnected_ = true;
 }
 
@@ -59,21 +59,21 @@ void ProgramWindows::buildStationListWindow()
     menus_->addTo(window);
     windowState_.restore(window);
     window.setAttribute(Qt::WA_ShowWithoutActivating);
-    connectStationListWindow(controls_.stationList, window);
+    connectWindow(controls_.stationList, window);
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
     if (window.isVisible() && mainWindow_->isActiveWindow())
         mainWindow_->raise(); // it keeps the keyboard, and is not to be covered
     window.whenFileDropped([this](const Text& path) {
         actions_.perform(stationListWindow_.get(), ListUse::Exclusive, [this, path] { importFile_(path); });
     });
-    connectEditSheet(controls_.editSheet, *editSheetOf(window).release());
+    connectWindow(controls_.editSheet, *editSheetOf(window).release());
 }
 
 void ProgramWindows::buildPreferences()
 {
     ProgramDialog* sheet = ProgramDialog::from<Ui::PreferencesSheet>(mainWindow_.get()).release();
     menus_->addTo(*sheet);
-    connectPreferences(controls_.preferences, *sheet);
+    connectWindow(controls_.preferences, *sheet);
 }
 
 void ProgramWindows::buildAboutWindow()
@@ -83,7 +83,7 @@ void ProgramWindows::buildAboutWindow()
     label("imageAppIcon")->setPixmap(programIcon().pixmap(iconSize));
     label("labelAppName")->setText(QStringLiteral("Sonavel"));
     label("labelAppVersion")->setText(filledIn("ABOUT_VERSION", toQString(programBundle().shortVersion)));
-    connectAboutWindow(controls_.about, window);
+    connectWindow(controls_.about, window);
 }
 
 void ProgramWindows::buildUpdateNotice()
@@ -91,7 +91,7 @@ void ProgramWindows::buildUpdateNotice()
     ProgramDialog& window = *dialogs_.emplace_back(ProgramDialog::from<Ui::UpdateNotice>());
     auto* label = window.findChild<QLabel*>(QStringLiteral("labelUpdateNotification"));
     label->setMinimumWidth(window.fontMetrics().height() * noticeWidth);
-    connectUpdateNotice(controls_.updateNotice, window);
+    connectWindow(controls_.updateNotice, window);
 }
 
 void ProgramWindows::showNotice(const QString& text)

@@ -35,7 +35,6 @@ TEST(AwaitingHttp, TheWindowPaintsWhileAServerIsSlow)
     ASSERT_TRUE(handleEventsUntil([&] { return paintings.count > 0; }));
 
     int paintingsBefore = 0;
-    bool hasBegun = false;
     bool hasEnded = false;
     QTimer::singleShot(0, [&] {
         paintingsBefore = paintings.count;
@@ -45,14 +44,12 @@ TEST(AwaitingHttp, TheWindowPaintsWhileAServerIsSlow)
         [&](const HttpRequest& request) {
             EXPECT_EQ(request.address, Text("http://slow/"));
             EXPECT_GT(paintings.count, paintingsBefore);
-            hasBegun = true;
             server.answers.release();
         },
         [&] { hasEnded = true; });
     HttpRequest request;
     request.address = "http://slow/";
     EXPECT_EQ(client.sendSynchronousRequest(request), "answer of http://slow/");
-    EXPECT_TRUE(hasBegun);
     EXPECT_TRUE(hasEnded);
 }
 

@@ -22,7 +22,7 @@ namespace {
 
 class MainWindowTest : public testing::Test {
 protected:
-    MainWindowTest() { connectMainWindow(controls.main, window); }
+    MainWindowTest() { connectWindow(controls.main, window); }
 
     Controls controls;
     MainWindow window{nullptr};

@@ -227,15 +227,6 @@ TEST(EventLoop, ARegistrationMayEndItselfFromInsideItsCallback)
     ::close(ends[0]);
 }
 
-TEST(RunLoop, TheNextTurnIsNotNow)
-{
-    QtRunLoop loop;
-    bool hasRun = false;
-    loop.performOnNextTurn([&] { hasRun = true; });
-    EXPECT_FALSE(hasRun);
-    EXPECT_TRUE(handleEventsUntil([&] { return hasRun; }));
-}
-
 TEST(SessionManager, EndsTheProgramWithoutAskingItsWindows)
 {
     int saves = 0;

@@ -101,7 +101,7 @@ protected:
 
 TEST_P(RoomForTextsTest, IsThereAtTheSmallestSizeOfEveryWindow)
 {
-    connectMainWindow(controls.main, main);
+    connectWindow(controls.main, main);
     controls.main.buttonPlayPause.setImage("play.png");
     expectRoomIn(main);
     expectAllShown(main);

@@ -37,8 +37,8 @@ protected:
         controls.stationList.tableViewListRadio.setDataSource(&rows);
         menus.addTo(window);
         connectMenus(controls.menu, menus);
-        connectStationListWindow(controls.stationList, window);
-        connectEditSheet(controls.editSheet, sheet);
+        connectWindow(controls.stationList, window);
+        connectWindow(controls.editSheet, sheet);
         rows.names = {"Alpha", "Beta", "Café Olé", "Gamma", "Österreich 1"};
         table().reloadData();
         controls.stationList.winWebRadioListEdit.makeKeyAndOrderFront();
@@ -95,7 +95,7 @@ TEST_F(StationListWindowTest, AWindowThatIsBuiltLaterShowsWhatWasSaidMeanwhile)
     early.stationList.tableViewListRadio.reloadData();
     early.stationList.tableViewListRadio.selectRowIndexes({3}, TableView::Extending::No);
     StationListWindow late(early.stationList.tableViewListRadio);
-    connectStationListWindow(early.stationList, late);
+    connectWindow(early.stationList, late);
     EXPECT_TRUE(late.isVisible());
     EXPECT_EQ(late.windowTitle(), "Station List (5)");
     EXPECT_TRUE(child<QAction>(late, "radioImport").isEnabled());
@@ -318,7 +318,7 @@ TEST_F(StationListWindowTest, AKeyIsHeardOnceInWhicheverWindowIsActive)
     StationComboBox box(&other);
     box.addItem(QStringLiteral("Station"));
     const auto dialog = ProgramDialog::from<Ui::AboutWindow>();
-    connectAboutWindow(controls.about, *dialog);
+    connectWindow(controls.about, *dialog);
     const auto press = [&](QWidget& active, QWidget& receiver, Qt::Key key) {
         ASSERT_TRUE(activate(active));
         QTest::keyClick(&receiver, key, Qt::ControlModifier);
@@ -444,7 +444,7 @@ TEST_F(StationListWindowTest, TheColumnsComeBackAsTheyWere)
     Controls others;
     StationListWindow again(others.stationList.tableViewListRadio);
     store.restore(again);
-    connectStationListWindow(others.stationList, again);
+    connectWindow(others.stationList, again);
     others.stationList.tableViewListRadio.reloadData();
     EXPECT_EQ(child<StationTable>(again, "tableViewListRadio").horizontalHeader()->sectionSize(0), 277);
 }

@@ -1,8 +1,8 @@
 #include "qt/binders/OutletConnector.h"
 
 #include "app/Menus.h"
-#include "platform/Interfaces.h"
 #include "qt/binders/Binders.h"
+#include "qt/binders/ControlNames.h"
 #include "qt/kit/StationComboBox.h"
 #include "qt/kit/StatusLine.h"
 #include "qt/windows/ProgramMenus.h"
@@ -69,87 +69,19 @@ private:
 
 } // namespace
 
-void connectMainWindow(MainControls& controls, QWidget& window)
+template <class WindowControls> void connectWindow(WindowControls& controls, QWidget& window)
 {
     const Outlets outlets(window);
-    outlets.connect(controls.winSonavel, "winSonavel");
-    outlets.connect(controls.popupbuttonRadioList, "popupbuttonRadioList");
-    outlets.connect(controls.buttonPlayPause, "buttonPlayPause");
-    outlets.connect(controls.buttonStop, "buttonStop");
-    outlets.connect(controls.buttonMute, "buttonMute");
-    outlets.connect(controls.buttonEditRadioList, "buttonEditRadioList");
-    outlets.connect(controls.imageVolume, "imageVolume");
-    outlets.connect(controls.sliderVolume, "sliderVolume");
-    outlets.connect(controls.labelVolume, "labelVolume");
+    forEachControl(controls, [&](auto& control, const char* name) { outlets.connect(control, name); });
 }
 
-void connectStationListWindow(StationListControls& controls, QWidget& window)
-{
-    const Outlets outlets(window);
-    outlets.connect(controls.winWebRadioListEdit, "winWebRadioListEdit");
-    outlets.connect(controls.toolBar, "toolBar");
-    outlets.connect(controls.radioAdd, "radioAdd");
-    outlets.connect(controls.radioEdit, "radioEdit");
-    outlets.connect(controls.radioRemove, "radioRemove");
-    outlets.connect(controls.radioImport, "radioImport");
-    outlets.connect(controls.radioExport, "radioExport");
-    outlets.connect(controls.tableViewListRadio, "tableViewListRadio");
-    outlets.connect(controls.labelListStatus, "labelListStatus");
-}
-
-void connectEditSheet(EditSheetControls& controls, QWidget& sheet)
-{
-    const Outlets outlets(sheet);
-    outlets.connect(controls.winEditData, "winEditData");
-    outlets.connect(controls.textFieldRadioName, "textFieldRadioName");
-    outlets.connect(controls.textFieldRadioLink, "textFieldRadioLink");
-    outlets.connect(controls.buttonAction, "buttonAction");
-    outlets.connect(controls.buttonCancel, "buttonCancel");
-}
-
-void connectPreferences(PreferencesControls& controls, QWidget& sheet)
-{
-    const Outlets outlets(sheet);
-    outlets.connect(controls.winPreferences, "winPreferences");
-    outlets.connect(controls.checkBoxDefaultAutoPlayAtStartApp, "checkBoxDefaultAutoPlayAtStartApp");
-    outlets.connect(controls.checkBoxDefaultAutoPlay, "checkBoxDefaultAutoPlay");
-    outlets.connect(controls.labelSetDeaultRadio, "labelSetDeaultRadio");
-    outlets.connect(controls.popupDefaultButtonListRadio, "popupDefaultButtonListRadio");
-    outlets.connect(controls.labelSetDefaultVolume, "labelSetDefaultVolume");
-    outlets.connect(controls.sliderDefaultVolume, "sliderDefaultVolume");
-    outlets.connect(controls.buttonClosePreferences, "buttonClosePreferences");
-}
-
-void connectAboutWindow(AboutControls& controls, QWidget& window)
-{
-    const Outlets outlets(window);
-    outlets.connect(controls.winAbout, "winAbout");
-    outlets.connect(controls.imageAppIcon, "imageAppIcon");
-    outlets.connect(controls.labelAppName, "labelAppName");
-    outlets.connect(controls.labelAppVersion, "labelAppVersion");
-    outlets.connect(controls.labelAppLicense, "labelAppLicense");
-    outlets.connect(controls.labelAppCopytight, "labelAppCopytight");
-    outlets.connect(controls.buttonCloseAbout, "buttonCloseAbout");
-}
-
-void connectUpdateNotice(UpdateNoticeControls& controls, QWidget& window)
-{
-    const Outlets outlets(window);
-    outlets.connect(controls.winUpdateNotification, "winUpdateNotification");
-    outlets.connect(controls.labelUpdateNotification, "labelUpdateNotification");
-    outlets.connect(controls.buttonCloseNotification, "buttonCloseNotification");
-}
-
-void connectUpdateWindow(const UpdaterControls& controls, QWidget& window)
-{
-    const Outlets outlets(window);
-    outlets.connect(controls.windowUpdater, "windowUpdater");
-    outlets.connect(controls.textFieldLabelUpdateNameApp, "textFieldLabelUpdateNameApp");
-    outlets.connect(controls.textFieldLabelUpdateVersionNote, "textFieldLabelUpdateVersionNote");
-    outlets.connect(controls.textViewRelaseNote, "textViewRelaseNote");
-    outlets.connect(controls.buttonUpdate, "buttonUpdate");
-    outlets.connect(controls.buttonRemind, "buttonRemind");
-}
+template void connectWindow(MainControls&, QWidget&);
+template void connectWindow(StationListControls&, QWidget&);
+template void connectWindow(EditSheetControls&, QWidget&);
+template void connectWindow(PreferencesControls&, QWidget&);
+template void connectWindow(AboutControls&, QWidget&);
+template void connectWindow(UpdateNoticeControls&, QWidget&);
+template void connectWindow(const UpdaterControls&, QWidget&);
 
 void connectMenus(MenuControls& controls, const ProgramMenus& menus)
 {

@@ -16,17 +16,11 @@ public:
 };
 
 class ProgramMenus;
-struct UpdaterControls;
 
-/// Each connects every outlet that belongs to the window, a top-level widget, or to the menus. They throw
-/// MissingOutlet.
-void connectMainWindow(MainControls& controls, QWidget& window);
-void connectStationListWindow(StationListControls& controls, QWidget& window);
-void connectEditSheet(EditSheetControls& controls, QWidget& sheet);
-void connectPreferences(PreferencesControls& controls, QWidget& sheet);
-void connectAboutWindow(AboutControls& controls, QWidget& window);
-void connectUpdateNotice(UpdateNoticeControls& controls, QWidget& window);
-void connectUpdateWindow(const UpdaterControls& controls, QWidget& window);
+/// Connects the controls of one window, which those of `ui/Controls.h` and UpdaterControls are, to what bears their
+/// names in `window`, a top-level widget. Throws MissingOutlet.
+template <class WindowControls> void connectWindow(WindowControls& controls, QWidget& window);
+
 void connectMenus(MenuControls& controls, const ProgramMenus& menus);
 
 /// For as long as the windows beside the main window are not built, connects their controls to the state that the

@@ -61,7 +61,7 @@ std::shared_ptr<void> QtInterfaces::loadAppUpdater(const UpdaterControls& owner)
     std::shared_ptr<ProgramDialog> dialog = ProgramDialog::from<Ui::UpdateWindow>();
     const int line = dialog->fontMetrics().height();
     dialog->resize(line * 30, line * 22);
-    connectUpdateWindow(owner, *dialog);
+    connectWindow(owner, *dialog);
     return dialog;
 }
 
