@@ -321,7 +321,7 @@ TEST(Connecting, AMissingOrMistakenWidgetIsNamed)
     }
 }
 
-/// All of them, and named so that none is forgotten.
+/// Each control of the window is connected, and none lacks a name by which it could be.
 template <class WindowControls> void expectConnected(WindowControls& controls)
 {
     std::size_t size = 0;

@@ -25,11 +25,6 @@ void connectText(TextField& field, const char* key)
     field.connect({.stringValue = translated(key)});
 }
 
-void connectEmpty(TextField& field)
-{
-    field.connect({.stringValue = ""});
-}
-
 void connectStationList(StationListControls& controls)
 {
     connectTitled(controls.winWebRadioListEdit, "WIN_EDIT_RADIO_LIST");
@@ -39,14 +34,14 @@ void connectStationList(StationListControls& controls)
         {&controls.radioAdd, &controls.radioEdit, &controls.radioRemove, &controls.radioImport, &controls.radioExport})
         item->connect({.tag = tag++});
     controls.tableViewListRadio.connect({});
-    connectEmpty(controls.labelListStatus);
+    controls.labelListStatus.connect({.stringValue = ""});
 }
 
 void connectEditSheet(EditSheetControls& controls)
 {
     connectTitled(controls.winEditData, "WIN_EDIT_DATA");
-    connectEmpty(controls.textFieldRadioName);
-    connectEmpty(controls.textFieldRadioLink);
+    controls.textFieldRadioName.connect({.stringValue = ""});
+    controls.textFieldRadioLink.connect({.stringValue = ""});
     connectTitled(controls.buttonAction, "BUTTON_ADD");
     connectTitled(controls.buttonCancel, "BUTTON_CANCEL");
 }
@@ -72,7 +67,7 @@ void connectInitialState(Controls& controls)
     connectPreferences(controls.preferences);
     connectTitled(controls.about.winAbout, "WIN_ABOUT");
     connectTitled(controls.updateNotice.winUpdateNotification, "WIN_UPDATE");
-    connectEmpty(controls.updateNotice.labelUpdateNotification);
+    controls.updateNotice.labelUpdateNotification.connect({.stringValue = ""});
     connectTitled(controls.updateNotice.buttonCloseNotification, "BUTTON_CLOSE");
 }
 

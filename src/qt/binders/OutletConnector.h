@@ -17,7 +17,7 @@ public:
 
 class ProgramMenus;
 
-/// Connects the controls of one window, which those of `ui/Controls.h` and UpdaterControls are, to what bears their
+/// Connects the controls of one window (a struct of `ui/Controls.h`, or UpdaterControls) to the objects of the same
 /// names in `window`, a top-level widget. Throws MissingOutlet.
 template <class WindowControls> void connectWindow(WindowControls& controls, QWidget& window);
 

@@ -83,12 +83,12 @@ void StationListWindow::setUpIcons()
 void StationListWindow::setUpFinding()
 {
     using Direction = StationFinder::Direction;
-    FindField::Requests requests;
-    requests.search = [this] { find(From::Selection, Direction::Forward); };
-    requests.next = [this] { find(From::BesideSelection, Direction::Forward); };
-    requests.previous = [this] { find(From::BesideSelection, Direction::Backward); };
-    requests.leave = [this] { description_->tableViewListRadio->setFocus(); };
-    findField_->setRequests(std::move(requests));
+    findField_->setRequests({
+        .search = [this] { find(From::Selection, Direction::Forward); },
+        .next = [this] { find(From::BesideSelection, Direction::Forward); },
+        .previous = [this] { find(From::BesideSelection, Direction::Backward); },
+        .leave = [this] { description_->tableViewListRadio->setFocus(); },
+    });
 }
 
 /// The keys of the table work while it has the focus itself, not a cell that is open in it.
