@@ -4,7 +4,6 @@
 #include <QCommandLineParser>
 #include <QMap>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 #include <span>

@@ -199,12 +199,6 @@ TEST(SplashScreen, StandsInTheMiddleOfTheScreenAndSaysWhatItWaitsFor)
     const auto* line = splash.findChild<ElidedLabel*>();
     EXPECT_EQ(line->text(), longName);
     EXPECT_GE(line->width(), line->fontMetrics().horizontalAdvance(longName));
-    QStringList texts;
-    for (const QLabel* label : splash.findChildren<QLabel*>()) {
-        texts << (label->pixmap().isNull() ? label->text() : "picture");
-        EXPECT_EQ(label->font().pointSizeF() > splash.font().pointSizeF(), label->text() == "Sonavel");
-    }
-    EXPECT_TRUE(texts.contains("picture") && texts.contains("Sonavel")) << texts.join(' ').toStdString();
 }
 
 } // namespace

@@ -12,7 +12,6 @@
 #include "qt/windows/splash/SplashScreen.h"
 #include "qt/windows/stationlist/StationListWindow.h"
 #include "ui/Controls.h"
-#include "ui/TableView.h"
 #include "ui_AboutWindow.h"
 #include "ui_PreferencesSheet.h"
 #include "ui_UpdateNotice.h"
@@ -21,8 +20,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
-#include <QToolBar>
 #include <QToolButton>
 
 #include <gtest/gtest.h>

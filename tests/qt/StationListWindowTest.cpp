@@ -5,7 +5,6 @@
 #include "UserInput.h"
 #include "qt/binders/OutletConnector.h"
 #include "qt/kit/StationComboBox.h"
-#include "qt/kit/StatusLine.h"
 #include "qt/windows/ProgramMenus.h"
 #include "qt/windows/WindowStateStore.h"
 #include "qt/windows/stationlist/FindField.h"

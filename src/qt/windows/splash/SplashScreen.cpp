@@ -4,7 +4,6 @@
 #include "qt/kit/Fonts.h"
 #include "qt/kit/Images.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QScreen>
 
