@@ -1,8 +1,8 @@
 #include "server/DataServer.h"
 
+#include "base/Numbers.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"
-#include "server/DefaultVersion.h"
 #include "server/HttpServer.h"
 #include "server/IcyStream.h"
 #include "server/PublishedFiles.h"
@@ -50,6 +50,29 @@ StationRecords demoRecords(const std::string& baseAddress)
     return records;
 }
 
+std::string numberAfter(const std::string& number)
+{
+    return decimalText(integerValue(number) + 1).string();
+}
+
+/// The version of the settings, or the one that they offer in its place.
+PublishedVersion defaultVersion(const DataServerSettings& settings)
+{
+    PublishedVersion version;
+    version.version = settings.version;
+    version.build = settings.build;
+    version.released = starterStationsChanged;
+    version.listChanged = starterStationsChanged;
+    if (settings.offer == DataServerSettings::Offer::NewerVersion) {
+        version.version = numberAfter(settings.version) + ".0.0";
+        version.build = numberAfter(settings.build);
+        version.notes = {"This version exists in the demo alone.",
+            "The notes of a release stand here, a line for each.",
+            "Download opens the page of the version in the web browser."};
+    }
+    return version;
+}
+
 /// The host in a URL for that address; for a wildcard address, the loopback address.
 std::string hostOf(const std::string& address)
 {
@@ -68,65 +91,78 @@ bool isHostAndPort(std::string_view name)
     return !name.empty() && name.size() <= maxNameLength && name.find_first_not_of(usual) == std::string_view::npos;
 }
 
-} // namespace
+class HttpDataServer final : public DataServer {
+public:
+    HttpDataServer(const DataServerSettings& settings, std::unique_ptr<VersionFile> versionFile);
 
-struct DataServer::Implementation {
-    explicit Implementation(const DataServerSettings& settings)
-        : burstSeconds(settings.burstSeconds)
-        , files(settings.folder)
-    {
-    }
+    /// Listens and publishes. An error is one sentence for the user.
+    [[nodiscard]] tl::expected<void, std::string> start(const DataServerSettings& settings);
 
-    void configure();
-    void publish(const DataServerSettings& settings);
+    [[nodiscard]] Text baseAddress() const override { return baseAddress_; }
+
+private:
+    void publish(DataServerSettings::Content content);
     [[nodiscard]] std::string baseAddressFor(const httplib::Request& request) const;
     void respond(const httplib::Request& request, httplib::Response& response) const;
     void stream(const DemoStation& station, const httplib::Request& request, httplib::Response& response);
 
-    const double burstSeconds;
-    PublishedFiles files;
-    std::unique_ptr<VersionFile> versionFile;
-    std::string baseAddress;
-    std::atomic<int> listeners = 0;
-    HttpServer server; // last: its threads use the other members
+    const double burstSeconds_;
+    PublishedFiles files_;
+    std::unique_ptr<VersionFile> versionFile_;
+    std::string baseAddress_;
+    std::atomic<int> listeners_ = 0;
+    HttpServer server_; // last: its threads use the other members
 };
 
-void DataServer::Implementation::configure()
+HttpDataServer::HttpDataServer(const DataServerSettings& settings, std::unique_ptr<VersionFile> versionFile)
+    : burstSeconds_(settings.burstSeconds)
+    , files_(settings.folder)
+    , versionFile_(std::move(versionFile))
 {
-    server.Get("/", [](const httplib::Request&, httplib::Response& response) {
+    server_.Get("/", [](const httplib::Request&, httplib::Response& response) {
         response.set_content(page, "text/html; charset=utf-8");
     });
-    server.Get(R"(/app_data_files/testget\.php)",
-        [this](const httplib::Request& request, httplib::Response& response) { respond(request, response); });
-    server.Post(R"(/app_data_files/testpost\.php)",
-        [this](const httplib::Request& request, httplib::Response& response) { respond(request, response); });
+    const auto handler = [this](const httplib::Request& request, httplib::Response& response) {
+        respond(request, response);
+    };
+    server_.Get(R"(/app_data_files/testget\.php)", handler);
+    server_.Post(R"(/app_data_files/testpost\.php)", handler);
 }
 
-void DataServer::Implementation::publish(const DataServerSettings& settings)
+tl::expected<void, std::string> HttpDataServer::start(const DataServerSettings& settings)
 {
-    files.addBuiltIn(
-        versionName, [this](const std::string& address) { return versionResponse(versionFile->current(), address); });
-    if (settings.content == DataServerSettings::Content::Starter) {
-        files.addBuiltIn(listName, [list = encryptedList(starterRecords())](const std::string&) { return list; });
+    return server_.listenAt(settings.address, settings.port).map([&](int port) {
+        baseAddress_ = "http://" + hostOf(settings.address) + ':' + std::to_string(port) + '/';
+        publish(settings.content);
+        server_.start();
+    });
+}
+
+void HttpDataServer::publish(DataServerSettings::Content content)
+{
+    files_.addBuiltIn(
+        versionName, [this](const std::string& address) { return versionResponse(versionFile_->current(), address); });
+    if (content == DataServerSettings::Content::Starter) {
+        files_.addBuiltIn(listName, [list = encryptedList(starterRecords())](const std::string&) { return list; });
         return;
     }
-    files.addBuiltIn(listName, [](const std::string& address) { return encryptedList(demoRecords(address)); });
+    files_.addBuiltIn(listName, [](const std::string& address) { return encryptedList(demoRecords(address)); });
     for (const DemoStation& station : demoStations())
-        server.Get(station.path, [this, &station](const httplib::Request& request, httplib::Response& response) {
+        server_.Get(station.path, [this, &station](const httplib::Request& request, httplib::Response& response) {
             stream(station, request, response);
         });
 }
 
 /// By the host that the client named: which of this machine's names and addresses reaches it differs by client.
-std::string DataServer::Implementation::baseAddressFor(const httplib::Request& request) const
+std::string HttpDataServer::baseAddressFor(const httplib::Request& request) const
 {
     const std::string host = request.get_header_value("Host");
-    return isHostAndPort(host) ? "http://" + host + '/' : baseAddress;
+    return isHostAndPort(host) ? "http://" + host + '/' : baseAddress_;
 }
 
-void DataServer::Implementation::respond(const httplib::Request& request, httplib::Response& response) const
+void HttpDataServer::respond(const httplib::Request& request, httplib::Response& response) const
 {
-    if (const auto content = files.contentOf(request.get_param_value("file"), baseAddressFor(request))) {
+    if (const auto content = files_.contentOf(request.get_param_value("file"), baseAddressFor(request))) {
         response.set_content(*content, "text/plain");
         return;
     }
@@ -134,11 +170,10 @@ void DataServer::Implementation::respond(const httplib::Request& request, httpli
     response.set_content("Nothing is published under this name.\n", "text/plain");
 }
 
-void DataServer::Implementation::stream(
-    const DemoStation& station, const httplib::Request& request, httplib::Response& response)
+void HttpDataServer::stream(const DemoStation& station, const httplib::Request& request, httplib::Response& response)
 {
-    const std::shared_ptr<void> slot(nullptr, [this](void*) { --listeners; });
-    if (++listeners > maxListeners) {
+    const std::shared_ptr<void> slot(nullptr, [this](void*) { --listeners_; });
+    if (++listeners_ > maxListeners) {
         response.status = 503;
         response.set_content("There is no room for another listener.\n", "text/plain");
         return;
@@ -155,41 +190,23 @@ void DataServer::Implementation::stream(
     const auto start = std::chrono::steady_clock::now();
     response.set_content_provider("audio/mpeg", [this, slot, music, start](std::size_t, httplib::DataSink& sink) {
         const std::chrono::duration<double> due(
-            static_cast<double>(music->musicSent()) / IcyStream::bytesPerSecond - burstSeconds);
-        if (!server.waitUntil(start + std::chrono::duration_cast<std::chrono::steady_clock::duration>(due)))
+            static_cast<double>(music->musicSent()) / IcyStream::bytesPerSecond - burstSeconds_);
+        if (!server_.waitUntil(start + std::chrono::duration_cast<std::chrono::steady_clock::duration>(due)))
             return false;
         const std::string piece = music->next(maxPieceSize);
         return sink.write(piece.data(), piece.size());
     });
 }
 
+} // namespace
+
 tl::expected<std::unique_ptr<DataServer>, std::string> DataServer::create(const DataServerSettings& settings)
 {
     auto versionFile = VersionFile::create(settings.folder, defaultVersion(settings), settings.report);
     if (!versionFile)
         return tl::unexpected(std::move(versionFile.error()));
-    auto implementation = std::make_unique<Implementation>(settings);
-    implementation->versionFile = *std::move(versionFile);
-    implementation->configure();
-    const auto port = implementation->server.listenAt(settings.address, settings.port);
-    if (!port)
-        return tl::unexpected(port.error());
-    implementation->baseAddress = "http://" + hostOf(settings.address) + ':' + std::to_string(*port) + '/';
-    implementation->publish(settings);
-    implementation->server.start();
-    return std::unique_ptr<DataServer>(new DataServer(std::move(implementation)));
-}
-
-DataServer::DataServer(std::unique_ptr<Implementation> implementation)
-    : implementation_(std::move(implementation))
-{
-}
-
-DataServer::~DataServer() = default;
-
-Text DataServer::baseAddress() const
-{
-    return {implementation_->baseAddress};
+    auto server = std::make_unique<HttpDataServer>(settings, *std::move(versionFile));
+    return server->start(settings).map([&]() -> std::unique_ptr<DataServer> { return std::move(server); });
 }
 
 } // namespace sonavel

@@ -58,18 +58,11 @@ public:
     [[nodiscard]] static tl::expected<std::unique_ptr<DataServer>, std::string> create(
         const DataServerSettings& settings);
 
-    ~DataServer();
+    virtual ~DataServer() = default;
 
     /// Where it is reached on this machine, such as "http://127.0.0.1:8080/". In responses it is replaced by the host
     /// that the client named, if any.
-    [[nodiscard]] Text baseAddress() const;
-
-private:
-    struct Implementation;
-
-    explicit DataServer(std::unique_ptr<Implementation> implementation);
-
-    std::unique_ptr<Implementation> implementation_;
+    [[nodiscard]] virtual Text baseAddress() const = 0;
 };
 
 } // namespace sonavel

@@ -1,14 +1,16 @@
 #include "server/HttpServer.h"
 
+#include "base/NonCopyable.h"
 #include "server/HttpConnection.h"
 
 #include <sys/socket.h>
 
 #include <cerrno>
 #include <csignal>
-#include <cstring>
+#include <deque>
+#include <functional>
 #include <future>
-#include <utility>
+#include <vector>
 
 namespace sonavel {
 
@@ -18,14 +20,55 @@ constexpr std::size_t maxRequestsPerConnection = 20;
 constexpr std::size_t maxFormSize = 65'536;
 constexpr int maxBacklog = 128;
 
-/// The library's interface to the thread pool.
-class TaskQueue final : public httplib::TaskQueue {
+/// Runs each task on a thread of its own as long as there are fewer than `maxConnections`; further tasks wait for an
+/// idle thread. A listener of a stream occupies a thread for hours.
+class ConnectionThreads final : public httplib::TaskQueue, private NonCopyable {
 public:
-    void enqueue(std::function<void()> task) override { threads_.add(std::move(task)); }
-    void shutdown() override { threads_.finish(); }
+    void enqueue(std::function<void()> task) override
+    {
+        const std::lock_guard lock(mutex_);
+        tasks_.push_back(std::move(task));
+        if (tasks_.size() > idle_ && threads_.size() < HttpServer::maxConnections)
+            threads_.emplace_back([this] { work(); });
+        changed_.notify_one();
+    }
+
+    /// Returns when every task has been run.
+    void shutdown() override
+    {
+        {
+            const std::lock_guard lock(mutex_);
+            isFinishing_ = true;
+        }
+        changed_.notify_all();
+        for (std::thread& thread : threads_)
+            thread.join();
+    }
 
 private:
-    ConnectionThreads threads_{HttpServer::maxConnections};
+    void work()
+    {
+        std::unique_lock lock(mutex_);
+        for (;;) {
+            ++idle_;
+            changed_.wait(lock, [this] { return isFinishing_ || !tasks_.empty(); });
+            --idle_;
+            if (tasks_.empty())
+                return;
+            const std::function<void()> task = std::move(tasks_.front());
+            tasks_.pop_front();
+            lock.unlock();
+            task();
+            lock.lock();
+        }
+    }
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<std::function<void()>> tasks_;
+    std::vector<std::thread> threads_;
+    std::size_t idle_ = 0;
+    bool isFinishing_ = false;
 };
 
 /// By default the library lets several servers share a port, and a port in use would not be reported.
@@ -86,7 +129,7 @@ void HttpServer::start()
 {
     std::promise<void> isServing;
     new_task_queue = [&isServing] {
-        auto* queue = new TaskQueue;
+        auto* queue = new ConnectionThreads;
         isServing.set_value();
         return queue;
     };

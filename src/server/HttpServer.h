@@ -1,8 +1,6 @@
 // The HTTP server of the data server: the library's, with limits for connections and a quick shutdown.
 #pragma once
 
-#include "server/ConnectionThreads.h"
-
 #include <httplib.h>
 #include <tl/expected.hpp>
 

@@ -2,8 +2,14 @@
 
 #include "base/Ascii.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
-#include <utility>
+#include <array>
+#include <cerrno>
+#include <string_view>
 
 namespace sonavel {
 
@@ -19,16 +25,36 @@ bool isPlainName(std::string_view name)
             [](char character) { return isAsciiControl(character) || character == '/' || character == '\\'; });
 }
 
-} // namespace
+constexpr auto unusable = tl::unexpected(PublishedFileError::Unusable);
 
-PublishedFiles::PublishedFiles(std::string folder)
-    : folder_(std::move(folder))
+tl::expected<std::string, PublishedFileError> readAll(int file, std::size_t maxSize)
 {
+    struct stat status { };
+    if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode))
+        return unusable;
+    std::string content;
+    std::array<char, 65'536> piece{};
+    while (content.size() <= maxSize) {
+        const ssize_t count = read(file, piece.data(), piece.size());
+        if (count < 0)
+            return unusable;
+        if (count == 0)
+            return content;
+        content.append(piece.data(), static_cast<std::size_t>(count));
+    }
+    return unusable;
 }
 
-void PublishedFiles::addBuiltIn(const std::string& name, BuiltIn content)
+} // namespace
+
+tl::expected<std::string, PublishedFileError> readPublishedFile(const std::string& path, std::size_t maxSize)
 {
-    builtIn_.insert_or_assign(name, std::move(content));
+    const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0)
+        return tl::unexpected(errno == ENOENT ? PublishedFileError::Absent : PublishedFileError::Unusable);
+    auto content = readAll(file, maxSize);
+    close(file);
+    return content;
 }
 
 tl::expected<std::string, PublishedFileError> PublishedFiles::contentOf(

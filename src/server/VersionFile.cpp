@@ -1,7 +1,6 @@
 #include "server/VersionFile.h"
 
-#include "server/PublishedFile.h"
-#include "server/VersionText.h"
+#include "server/PublishedFiles.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/NonCopyable.h"
-#include "server/PublishedVersion.h"
+#include "server/VersionText.h"
 
 #include <tl/expected.hpp>
 

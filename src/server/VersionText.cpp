@@ -188,4 +188,16 @@ tl::expected<PublishedVersion, ParseError> parseVersionText(std::string_view tex
     return reader.finished().map_error(onLine);
 }
 
+std::string versionResponse(const PublishedVersion& published, const std::string& baseAddress)
+{
+    const auto orOwn = [&](const std::string& address) { return address.empty() ? baseAddress : address; };
+    std::string notes;
+    for (const std::string& note : published.notes)
+        notes.append(notes.empty() ? "" : "\\n").append(note);
+    // Players count the values; the words before them are for people.
+    return "name;Sonavel\rversion;" + published.version + "\rbuild;" + published.build + "\rapplication;"
+        + orOwn(published.application) + "\rpage;" + orOwn(published.page) + "\rnotes;" + notes + "\rreleased;"
+        + published.released + "\rlist changed;" + published.listChanged + '\r';
+}
+
 } // namespace sonavel

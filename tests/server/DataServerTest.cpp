@@ -8,7 +8,6 @@
 #include "online/VersionRecord.h"
 #include "online/WebRequests.h"
 #include "platform/Bundle.h"
-#include "server/ConnectionThreads.h"
 #include "server/Stations.h"
 #include "storage/StationListCodec.h"
 #include "support/ServerHost.h"
@@ -18,7 +17,6 @@
 #include <httplib.h>
 
 #include <algorithm>
-#include <atomic>
 
 namespace sonavel {
 namespace {
@@ -136,17 +134,6 @@ TEST_F(DataServerTest, WhatIsNotPublishedGivesAStatusAndNotWithAFile)
         EXPECT_EQ(response ? response->status : 404, 404) << form;
     }
     EXPECT_EQ(get("?file=list.rdb"), "published");
-}
-
-TEST(ConnectionThreads, MoreTasksThanThreadsAreAllRun)
-{
-    std::atomic<int> done = 0;
-    {
-        ConnectionThreads threads(3);
-        for (int task = 0; task < 100; ++task)
-            threads.add([&] { ++done; });
-    }
-    EXPECT_EQ(done, 100);
 }
 
 } // namespace
