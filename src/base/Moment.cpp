@@ -2,65 +2,23 @@
 
 #include "base/Numbers.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <chrono>
 #include <cstdio>
+#include <string_view>
 
 namespace sonavel {
 
 namespace {
 
-/// Consumes a number of `digits` decimal digits at the beginning of `rest`. Nothing when one is missing.
-std::optional<int> takeDigits(std::string_view& rest, std::size_t digits)
+/// Whether the text is of the international form: a digit for each "0", either sign for "+".
+bool hasForm(std::string_view text)
 {
-    if (rest.size() < digits)
-        return std::nullopt;
-    int value = 0;
-    for (const char digit : rest.substr(0, digits)) {
-        if (!isDigit(digit))
-            return std::nullopt;
-        value = value * 10 + (digit - '0');
-    }
-    rest.remove_prefix(digits);
-    return value;
-}
-
-bool takeCharacter(std::string_view& rest, char expected)
-{
-    if (!rest.starts_with(expected))
-        return false;
-    rest.remove_prefix(1);
-    return true;
-}
-
-/// Parses `count` numbers joined by `separator`, the first of `firstDigits` digits, the others of two.
-template <std::size_t count>
-std::optional<std::array<int, count>> takeNumbers(std::string_view& rest, std::size_t firstDigits, char separator)
-{
-    std::array<int, count> numbers{};
-    for (std::size_t index = 0; index < count; ++index) {
-        if (index > 0 && !takeCharacter(rest, separator))
-            return std::nullopt;
-        const auto number = takeDigits(rest, index == 0 ? firstDigits : 2);
-        if (!number)
-            return std::nullopt;
-        numbers.at(index) = *number;
-    }
-    return numbers;
-}
-
-/// Parses "+hhmm" or "-hhmm" up to the end of the text; the offset in seconds.
-std::optional<int> takeOffset(std::string_view& rest)
-{
-    const int sign = rest.starts_with('-') ? -1 : 1;
-    if (!takeCharacter(rest, '-') && !takeCharacter(rest, '+'))
-        return std::nullopt;
-    const auto hours = takeDigits(rest, 2);
-    const auto minutes = takeDigits(rest, 2);
-    if (!hours || !minutes || *hours > 23 || *minutes > 59 || !rest.empty())
-        return std::nullopt;
-    return sign * (*hours * 3600 + *minutes * 60);
+    constexpr std::string_view form = "0000-00-00 00:00:00 +0000";
+    return std::equal(text.begin(), text.end(), form.begin(), form.end(), [](char character, char expected) {
+        return expected == '0' ? isDigit(character) : character == expected || (expected == '+' && character == '-');
+    });
 }
 
 } // namespace
@@ -82,26 +40,21 @@ Text internationalForm(Moment moment)
 
 std::optional<Moment> momentFromInternationalForm(const Text& text)
 {
-    std::string_view rest = text.view();
-    const auto date = takeNumbers<3>(rest, 4, '-');
-    if (!date || !takeCharacter(rest, ' '))
+    using namespace std::chrono;
+    if (!hasForm(text.view()))
         return std::nullopt;
-    const auto time = takeNumbers<3>(rest, 2, ':');
-    if (!time || !takeCharacter(rest, ' '))
+    const auto number = [&](std::size_t place, std::size_t digits) {
+        return static_cast<int>(integerValue(text.view().substr(place, digits)));
+    };
+    const auto date = year(number(0, 4)) / number(5, 2) / number(8, 2);
+    const auto time = hours(number(11, 2)) + minutes(number(14, 2)) + seconds(number(17, 2));
+    const auto offset = hours(number(21, 2)) + minutes(number(23, 2));
+    if (date.year() == year(0) || !date.ok() || number(11, 2) > 23 || number(14, 2) > 59 || number(17, 2) > 59
+        || number(21, 2) > 23 || number(23, 2) > 59)
         return std::nullopt;
-    const auto offset = takeOffset(rest);
-    if (!offset)
-        return std::nullopt;
-
-    const auto [year, month, day] = *date;
-    const auto [hours, minutes, seconds] = *time;
-    const std::chrono::year_month_day calendarDay(std::chrono::year(year),
-        std::chrono::month(static_cast<unsigned>(month)), std::chrono::day(static_cast<unsigned>(day)));
-    if (year == 0 || !calendarDay.ok() || hours > 23 || minutes > 59 || seconds > 59)
-        return std::nullopt;
-    const std::int64_t days = std::chrono::sys_days(calendarDay).time_since_epoch().count();
-    const std::int64_t secondOfDay = (hours * 60 + minutes) * 60 + seconds;
-    return Moment::fromSeconds(days * 86'400 + secondOfDay - *offset);
+    const auto local = sys_days(date) + time;
+    const auto utc = text.view()[20] == '-' ? local + offset : local - offset;
+    return Moment::fromSeconds(utc.time_since_epoch().count());
 }
 
 } // namespace sonavel

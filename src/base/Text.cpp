@@ -1,5 +1,6 @@
 #include "base/Text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -89,6 +90,20 @@ bool isValidUtf8(std::string_view bytes)
         bytes.remove_prefix(length);
     }
     return true;
+}
+
+char32_t takeCharacter(std::string_view& utf8)
+{
+    constexpr char32_t replacementCharacter = 0xFFFD;
+    const std::size_t length = sequenceLength(utf8);
+    const std::string_view following = utf8.substr(1, std::max<std::size_t>(length, 1) - 1);
+    char32_t character = static_cast<unsigned char>(utf8.front());
+    if (length > 1)
+        character &= 0x7FU >> length;
+    for (const char next : following)
+        character = character << 6U | (static_cast<unsigned char>(next) & 0x3FU);
+    utf8.remove_prefix(1 + following.size());
+    return length == 0 ? replacementCharacter : character;
 }
 
 std::string_view utf8Prefix(std::string_view text, std::size_t maxBytes)

@@ -75,6 +75,9 @@ private:
 /// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
 [[nodiscard]] bool isValidUtf8(std::string_view bytes);
 
+/// Removes the first character of a text that is not empty. Invalid UTF-8 is U+FFFD for each byte.
+[[nodiscard]] char32_t takeCharacter(std::string_view& utf8);
+
 /// The beginning of a text in UTF-8, of as many whole characters as fit into `maxBytes`.
 [[nodiscard]] std::string_view utf8Prefix(std::string_view text, std::size_t maxBytes);
 

@@ -118,12 +118,6 @@ void allow(int ruleset, const Rule& rule, std::uint64_t handled)
     close(file);
 }
 
-void refuseCoreDumps()
-{
-    const rlimit none{0, 0};
-    (void)setrlimit(RLIMIT_CORE, &none);
-}
-
 /// A stream that makes a decoder take memory without end takes the engine down, and nothing else.
 void boundMemory()
 {
@@ -141,27 +135,28 @@ void boundMemory()
 
 } // namespace
 
-Confinement enterSandbox()
+bool enterSandbox()
 {
-    refuseCoreDumps();
+    const rlimit noCoreDumps{0, 0};
+    (void)setrlimit(RLIMIT_CORE, &noCoreDumps);
     boundMemory();
     if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
-        return Confinement::NotSupported;
+        return false;
     const long version = syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
-        return Confinement::NotSupported;
+        return false;
 
     RulesetAttributes attributes;
     attributes.handledFileAccess = rightsOfVersion(version);
     attributes.scoped = version >= 6 ? scopeAbstractSockets | scopeSignals : 0;
     const int ruleset = createRuleset(attributes, version);
     if (ruleset < 0)
-        return Confinement::NotSupported;
+        return false;
     for (const Rule& rule : rules())
         allow(ruleset, rule, attributes.handledFileAccess);
     const bool isConfined = syscall(SYS_landlock_restrict_self, ruleset, 0) == 0;
     close(ruleset);
-    return isConfined ? Confinement::Complete : Confinement::NotSupported;
+    return isConfined;
 }
 
 } // namespace sonavel

@@ -4,11 +4,6 @@
 
 namespace sonavel {
 
-void LineReader::append(std::string_view bytes)
-{
-    pending_.append(bytes);
-}
-
 std::optional<std::string> LineReader::nextLine()
 {
     for (;;) {

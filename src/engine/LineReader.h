@@ -16,7 +16,7 @@ public:
     static constexpr std::size_t maxLine = 32768;
 
     /// Takes the bytes over; then `nextLine` gives the lines that they end.
-    void append(std::string_view bytes);
+    void append(std::string_view bytes) { pending_.append(bytes); }
     [[nodiscard]] std::optional<std::string> nextLine();
 
 private:

@@ -1,4 +1,4 @@
-// What the engine reads from libmpv and sets there.
+// libmpv with the options of a radio, and what the engine reads from it and sets there.
 #pragma once
 
 #include "engine/Protocol.h"
@@ -8,6 +8,10 @@
 struct mpv_handle;
 
 namespace sonavel {
+
+/// Only the network is played from, and the output is the one in SONAVEL_AUDIO_OUTPUT where that is set. What the
+/// engine needs to be notified of is subscribed to. The caller destroys it; null when it cannot be set up.
+[[nodiscard]] mpv_handle* createMpv();
 
 /// False for a property that is not available.
 [[nodiscard]] bool flagProperty(mpv_handle* player, const char* name);

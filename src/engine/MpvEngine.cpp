@@ -2,7 +2,6 @@
 
 #include "engine/FailureReason.h"
 #include "engine/MpvAccess.h"
-#include "engine/MpvSetUp.h"
 #include "engine/StreamTitle.h"
 #include "model/StreamAddress.h"
 
@@ -46,14 +45,11 @@ void MpvEngine::perform(const EngineCommand& command)
 {
     if (const auto* loading = std::get_if<LoadCommand>(&command)) {
         load(*loading);
-    } else if (std::holds_alternative<PauseCommand>(command)) {
-        isPaused_ = true;
+    } else if (const auto* bare = std::get_if<BareCommand>(&command)) {
+        if (*bare == BareCommand::Stop)
+            return stop();
+        isPaused_ = *bare == BareCommand::Pause;
         applyPause();
-    } else if (std::holds_alternative<ResumeCommand>(command)) {
-        isPaused_ = false;
-        applyPause();
-    } else if (std::holds_alternative<StopCommand>(command)) {
-        stop();
     } else if (const auto* volume = std::get_if<VolumeCommand>(&command)) {
         volume_ = volume->volume;
         applySound();

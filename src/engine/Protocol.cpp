@@ -1,6 +1,7 @@
 #include "engine/Protocol.h"
 
-#include "engine/Escaping.h"
+#include "base/Ascii.h"
+#include "base/Numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -17,33 +18,39 @@ template <class Value> struct Word {
 template <class Value> Word(const char*, Value) -> Word<Value>;
 
 constexpr std::array stateWords{
-    Word<StreamState>{"connecting", StreamState::Connecting},
-    Word<StreamState>{"answered", StreamState::Answered},
-    Word<StreamState>{"recognised", StreamState::Recognised},
-    Word<StreamState>{"buffering", StreamState::Buffering},
-    Word<StreamState>{"playing", StreamState::Playing},
+    Word{"connecting", StreamState::Connecting},
+    Word{"answered", StreamState::Answered},
+    Word{"recognised", StreamState::Recognised},
+    Word{"buffering", StreamState::Buffering},
+    Word{"playing", StreamState::Playing},
 };
 
 constexpr std::array failureWords{
-    Word<PlaybackFailure>{"unknown", PlaybackFailure::Unknown},
-    Word<PlaybackFailure>{"no-such-host", PlaybackFailure::NoSuchHost},
-    Word<PlaybackFailure>{"refused", PlaybackFailure::Refused},
-    Word<PlaybackFailure>{"unreachable", PlaybackFailure::Unreachable},
-    Word<PlaybackFailure>{"timed-out", PlaybackFailure::TimedOut},
-    Word<PlaybackFailure>{"certificate", PlaybackFailure::Certificate},
-    Word<PlaybackFailure>{"not-found", PlaybackFailure::NotFound},
-    Word<PlaybackFailure>{"not-allowed", PlaybackFailure::NotAllowed},
-    Word<PlaybackFailure>{"rejected", PlaybackFailure::Rejected},
-    Word<PlaybackFailure>{"server-error", PlaybackFailure::ServerError},
-    Word<PlaybackFailure>{"not-a-stream", PlaybackFailure::NotAStream},
-    Word<PlaybackFailure>{"not-usable", PlaybackFailure::NotUsable},
-    Word<PlaybackFailure>{"ended", PlaybackFailure::Ended},
-    Word<PlaybackFailure>{"silent", PlaybackFailure::Silent},
-    Word<PlaybackFailure>{"no-sound-output", PlaybackFailure::NoSoundOutput},
-    Word<PlaybackFailure>{"engine-failed", PlaybackFailure::EngineFailed},
+    Word{"unknown", PlaybackFailure::Unknown},
+    Word{"no-such-host", PlaybackFailure::NoSuchHost},
+    Word{"refused", PlaybackFailure::Refused},
+    Word{"unreachable", PlaybackFailure::Unreachable},
+    Word{"timed-out", PlaybackFailure::TimedOut},
+    Word{"certificate", PlaybackFailure::Certificate},
+    Word{"not-found", PlaybackFailure::NotFound},
+    Word{"not-allowed", PlaybackFailure::NotAllowed},
+    Word{"rejected", PlaybackFailure::Rejected},
+    Word{"server-error", PlaybackFailure::ServerError},
+    Word{"not-a-stream", PlaybackFailure::NotAStream},
+    Word{"not-usable", PlaybackFailure::NotUsable},
+    Word{"ended", PlaybackFailure::Ended},
+    Word{"silent", PlaybackFailure::Silent},
+    Word{"no-sound-output", PlaybackFailure::NoSoundOutput},
+    Word{"engine-failed", PlaybackFailure::EngineFailed},
 };
 
-constexpr std::array flagWords{Word<bool>{"yes", true}, Word<bool>{"no", false}};
+constexpr std::array bareWords{
+    Word{"pause", BareCommand::Pause},
+    Word{"resume", BareCommand::Resume},
+    Word{"stop", BareCommand::Stop},
+};
+
+constexpr std::array flagWords{Word{"yes", true}, Word{"no", false}};
 
 template <class Words, class Value> std::string_view wordOf(const Words& words, Value value)
 {
@@ -60,21 +67,65 @@ auto valueOf(const Words& words, std::string_view word) -> std::optional<decltyp
     return found->value;
 }
 
+/// Whether a text is the last argument of its line, so that it may hold blanks.
+enum class Place { Last, Before };
+
+bool needsEscape(char character, Place place)
+{
+    return isAsciiControl(character) || character == '%' || (character == ' ' && place == Place::Before);
+}
+
+std::string escaped(std::string_view text, Place place)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string result;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (needsEscape(character, place))
+            result.append({'%', digits[byte >> 4U], digits[byte & 0xFU]});
+        else
+            result += character;
+    }
+    return result;
+}
+
+template <class Number> std::optional<Number> numberFrom(std::string_view word, auto... base)
+{
+    Number number{};
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number, base...);
+    if (error != std::errc() || end != word.data() + word.size())
+        return std::nullopt;
+    return number;
+}
+
+/// Nothing when an escape is broken or the result is not valid UTF-8.
+std::optional<Text> unescaped(std::string_view text)
+{
+    std::string result;
+    while (!text.empty()) {
+        if (text.front() != '%') {
+            result += text.front();
+            text.remove_prefix(1);
+            continue;
+        }
+        const std::string_view digits = text.substr(1, 2);
+        const auto byte = numberFrom<unsigned char>(digits, 16);
+        if (digits.size() != 2 || !byte)
+            return std::nullopt;
+        result += static_cast<char>(*byte);
+        text.remove_prefix(3);
+    }
+    if (!isValidUtf8(result))
+        return std::nullopt;
+    return Text(std::move(result));
+}
+
 /// Cuts the word at the head off, and the blank behind it.
 std::string_view takeWord(std::string_view& line)
 {
     const std::string_view word = line.substr(0, line.find(' '));
     line.remove_prefix(std::min(word.size() + 1, line.size()));
     return word;
-}
-
-template <class Number> std::optional<Number> numberFrom(std::string_view word)
-{
-    Number number{};
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size())
-        return std::nullopt;
-    return number;
 }
 
 std::string lineOf(std::initializer_list<std::string_view> words)
@@ -85,26 +136,16 @@ std::string lineOf(std::initializer_list<std::string_view> words)
     return line + '\n';
 }
 
-std::string volumeText(float volume)
-{
-    std::array<char, 64> digits{};
-    const auto result =
-        std::to_chars(digits.data(), digits.data() + digits.size(), volume, std::chars_format::fixed, 6);
-    return {digits.data(), result.ptr};
-}
-
 struct CommandLine {
     std::string operator()(const LoadCommand& command) const
     {
         return lineOf({"load", std::to_string(command.load), escaped(command.address.view(), Place::Before),
             escaped(command.name.view(), Place::Last)});
     }
-    std::string operator()(const PauseCommand&) const { return lineOf({"pause"}); }
-    std::string operator()(const ResumeCommand&) const { return lineOf({"resume"}); }
-    std::string operator()(const StopCommand&) const { return lineOf({"stop"}); }
+    std::string operator()(BareCommand command) const { return lineOf({wordOf(bareWords, command)}); }
     std::string operator()(const VolumeCommand& command) const
     {
-        return lineOf({"volume", volumeText(command.volume)});
+        return lineOf({"volume", sixDecimalsText(command.volume).view()});
     }
     std::string operator()(const MutedCommand& command) const
     {
@@ -127,61 +168,30 @@ struct EventLine {
     }
 };
 
-std::optional<EngineCommand> loadFrom(std::string_view arguments)
+/// The message with that value as its last field; nothing without the value.
+template <class Message, class Value, class... Fields>
+std::optional<Message> messageWith(const std::optional<Value>& value, Fields... before)
+{
+    if (!value)
+        return std::nullopt;
+    return Message{before..., *value};
+}
+
+std::optional<LoadCommand> loadFrom(std::string_view arguments)
 {
     const auto load = numberFrom<std::uint64_t>(takeWord(arguments));
     const auto address = unescaped(takeWord(arguments));
-    const auto name = unescaped(arguments);
-    if (!load || !address || !name)
+    if (!load || !address)
         return std::nullopt;
-    return LoadCommand{*load, *address, *name};
+    return messageWith<LoadCommand>(unescaped(arguments), *load, *address);
 }
 
-std::optional<EngineCommand> volumeFrom(std::string_view arguments)
+std::optional<VolumeCommand> volumeFrom(std::string_view arguments)
 {
     const auto volume = numberFrom<float>(arguments);
     if (!volume || !(*volume >= 0.0F && *volume <= 1.0F))
         return std::nullopt;
     return VolumeCommand{*volume};
-}
-
-std::optional<EngineCommand> mutedFrom(std::string_view arguments)
-{
-    const auto isMuted = valueOf(flagWords, arguments);
-    if (!isMuted)
-        return std::nullopt;
-    return MutedCommand{*isMuted};
-}
-
-template <class Command> std::optional<EngineCommand> bareFrom(std::string_view arguments)
-{
-    if (!arguments.empty())
-        return std::nullopt;
-    return Command{};
-}
-
-std::optional<EngineEvent> stateFrom(std::uint64_t load, std::string_view argument)
-{
-    const auto state = valueOf(stateWords, argument);
-    if (!state)
-        return std::nullopt;
-    return StateEvent{load, *state};
-}
-
-std::optional<EngineEvent> failedFrom(std::uint64_t load, std::string_view argument)
-{
-    const auto failure = valueOf(failureWords, argument);
-    if (!failure)
-        return std::nullopt;
-    return FailedEvent{load, *failure};
-}
-
-std::optional<EngineEvent> titleFrom(std::uint64_t load, std::string_view argument)
-{
-    const auto title = unescaped(argument);
-    if (!title)
-        return std::nullopt;
-    return TitleEvent{load, *title};
 }
 
 } // namespace
@@ -198,28 +208,29 @@ std::string lineFromEvent(const EngineEvent& event)
 
 std::optional<EngineCommand> commandFromLine(std::string_view line)
 {
-    constexpr std::array readers{
-        Word{"load", &loadFrom},
-        Word{"pause", &bareFrom<PauseCommand>},
-        Word{"resume", &bareFrom<ResumeCommand>},
-        Word{"stop", &bareFrom<StopCommand>},
-        Word{"volume", &volumeFrom},
-        Word{"muted", &mutedFrom},
-    };
-    const auto reader = valueOf(readers, takeWord(line));
-    return reader ? (*reader)(line) : std::nullopt;
+    const std::string_view word = takeWord(line);
+    if (word == "load")
+        return loadFrom(line);
+    if (word == "volume")
+        return volumeFrom(line);
+    if (word == "muted")
+        return messageWith<MutedCommand>(valueOf(flagWords, line));
+    return line.empty() ? valueOf(bareWords, word) : std::nullopt;
 }
 
 std::optional<EngineEvent> eventFromLine(std::string_view line)
 {
-    constexpr std::array readers{
-        Word{"state", &stateFrom},
-        Word{"failed", &failedFrom},
-        Word{"title", &titleFrom},
-    };
-    const auto reader = valueOf(readers, takeWord(line));
+    const std::string_view word = takeWord(line);
     const auto load = numberFrom<std::uint64_t>(takeWord(line));
-    return reader && load ? (*reader)(*load, line) : std::nullopt;
+    if (!load)
+        return std::nullopt;
+    if (word == "state")
+        return messageWith<StateEvent>(valueOf(stateWords, line), *load);
+    if (word == "failed")
+        return messageWith<FailedEvent>(valueOf(failureWords, line), *load);
+    if (word == "title")
+        return messageWith<TitleEvent>(unescaped(line), *load);
+    return std::nullopt;
 }
 
 } // namespace sonavel

@@ -45,17 +45,7 @@ struct LoadCommand {
     friend bool operator==(const LoadCommand&, const LoadCommand&) = default;
 };
 
-struct PauseCommand {
-    friend bool operator==(const PauseCommand&, const PauseCommand&) = default;
-};
-
-struct ResumeCommand {
-    friend bool operator==(const ResumeCommand&, const ResumeCommand&) = default;
-};
-
-struct StopCommand {
-    friend bool operator==(const StopCommand&, const StopCommand&) = default;
-};
+enum class BareCommand { Pause, Resume, Stop };
 
 struct VolumeCommand {
     /// 0.0 to 1.0.
@@ -70,7 +60,7 @@ struct MutedCommand {
     friend bool operator==(const MutedCommand&, const MutedCommand&) = default;
 };
 
-using EngineCommand = std::variant<LoadCommand, PauseCommand, ResumeCommand, StopCommand, VolumeCommand, MutedCommand>;
+using EngineCommand = std::variant<LoadCommand, BareCommand, VolumeCommand, MutedCommand>;
 
 /// The first one of a load says that the engine has let go of the former load and begun with this one.
 struct StateEvent {

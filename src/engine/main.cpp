@@ -78,7 +78,7 @@ int main()
     (void)mallopt(M_ARENA_MAX, 1);
     // Otherwise it would rise with the first large buffer that is freed, and large buffers would stay with the process.
     (void)mallopt(M_MMAP_THRESHOLD, 256 * 1024);
-    if (enterSandbox() == Confinement::NotSupported)
+    if (!enterSandbox())
         (void)std::fputs("sonavel-engine: this system cannot confine it, so it plays unconfined\n", stderr);
     (void)std::setlocale(LC_NUMERIC, "C");
     const auto engine = MpvEngine::create(sendEvent);

@@ -98,7 +98,7 @@ void EngineProcess::detach(const Player& player)
         return;
     current_.reset();
     if (engine_)
-        engine_->send(StopCommand{});
+        engine_->send(BareCommand::Stop);
     show();
 }
 
@@ -108,7 +108,7 @@ void EngineProcess::setPaused(const Player& player, bool isPaused)
         return;
     const auto action = current_->stream.setPaused(isPaused, now());
     if (action == ReconnectPolicy::Action::Nothing && engine_)
-        engine_->send(isPaused ? EngineCommand(PauseCommand{}) : EngineCommand(ResumeCommand{}));
+        engine_->send(isPaused ? BareCommand::Pause : BareCommand::Resume);
     apply(action);
 }
 
@@ -127,7 +127,7 @@ void EngineProcess::sendStream()
     sendSound(current_->player);
     engine_->send(LoadCommand{++load_, item.address, streamTitle(item.name.view())});
     if (current_->stream.isPaused())
-        engine_->send(PauseCommand{});
+        engine_->send(BareCommand::Pause);
 }
 
 /// Loads the stream afresh, in a new engine where there is none.
