@@ -12,63 +12,37 @@ namespace sonavel {
 
 namespace {
 
-/// Handles the events of a JSON text, however deep it is nested. Each handler returns whether to continue.
-class MemberReader : public nlohmann::json_sax<nlohmann::json> {
+/// Makes stations of the members of a JSON object, which is never held in memory as a whole.
+class MemberReader {
 public:
-    ParsedList list{"member", {}, {}};
-
-    bool null() override { return otherValue(); }
-    bool boolean(bool /*value*/) override { return otherValue(); }
-    bool number_integer(number_integer_t /*value*/) override { return otherValue(); }
-    bool number_unsigned(number_unsigned_t /*value*/) override { return otherValue(); }
-    bool number_float(number_float_t /*value*/, const string_t& /*text*/) override { return otherValue(); }
-    bool binary(binary_t& /*value*/) override { return otherValue(); }
-    bool start_array(std::size_t /*size*/) override { return otherValue() && enter(); }
-    bool end_array() override { return leave(); }
-    bool start_object(std::size_t /*size*/) override { return (depth_ == 0 || otherValue()) && enter(); }
-    bool end_object() override { return leave(); }
-    bool parse_error(
-        std::size_t /*place*/, const std::string& /*token*/, const nlohmann::detail::exception& /*why*/) override
+    tl::expected<ParsedList, std::string> read(std::string_view bytes)
     {
-        return false;
-    }
-
-    bool key(string_t& value) override
-    {
-        if (depth_ != 1)
-            return true;
-        ++members_;
-        address_ = std::move(value);
-        return true;
-    }
-
-    bool string(string_t& value) override
-    {
-        if (depth_ != 1)
-            return otherValue();
-        addStation(std::move(value));
-        return true;
+        const auto handle = [this](int depth, Event event, Json& value) { return handleEvent(depth, event, value); };
+        if (!Json::parse(bytes, handle, false).is_object())
+            return tl::unexpected<std::string>("it is not a JSON object");
+        return std::move(list_);
     }
 
 private:
-    /// Continues, unless the value is the whole text.
-    bool otherValue()
+    using Json = nlohmann::json;
+    using Event = Json::parse_event_t;
+
+    /// Whether to keep the value, which is so for the outermost object alone.
+    bool handleEvent(int depth, Event event, const Json& value)
     {
-        if (depth_ == 1)
+        if (depth == 0)
+            return event == Event::object_start || event == Event::object_end;
+        if (depth > 1)
+            return false;
+        if (event == Event::key) {
+            ++members_;
+            address_ = value.get<std::string>();
+        } else if (event == Event::value && value.is_string()) {
+            addStation(value.get<std::string>());
+        } else if (event == Event::value || event == Event::object_start || event == Event::array_start) {
             diagnose("left out, as no name stands for " + inQuotes(address_));
-        return depth_ > 0;
-    }
-
-    bool enter()
-    {
-        ++depth_;
-        return true;
-    }
-
-    bool leave()
-    {
-        --depth_;
-        return true;
+        }
+        return false;
     }
 
     void addStation(std::string value)
@@ -87,26 +61,18 @@ private:
                 + inQuotes(given.view()));
         }
         if (!name.isAbsent())
-            list.stations.push_back(std::make_shared<KVStationWebRadio>(members_ - 1, name, link));
+            list_.stations.push_back(std::make_shared<KVStationWebRadio>(members_ - 1, name, link));
     }
 
     void diagnose(std::string what)
     {
-        list.diagnostics.push_back({members_ - 1, std::move(what), Diagnostic::Severity::Loss});
+        list_.diagnostics.push_back({members_ - 1, std::move(what), Diagnostic::Severity::Loss});
     }
 
-    std::size_t depth_ = 0;
+    ParsedList list_{"member", {}, {}};
     std::uint64_t members_ = 0;
     std::string address_;
 };
-
-tl::expected<ParsedList, std::string> parse(std::string_view bytes)
-{
-    MemberReader reader;
-    if (!nlohmann::json::sax_parse(bytes, &reader))
-        return tl::unexpected<std::string>("it is not a JSON object");
-    return std::move(reader.list);
-}
 
 bool looksLikeJson(std::string_view bytes)
 {
@@ -137,6 +103,7 @@ tl::expected<SerializedList, std::string> serialize(const StationRecords& statio
 /// The stations come in the order of the members, repeated addresses too. Members whose value is no text are left out.
 /// ";" and carriage returns are removed from names and addresses, and a name that a list does not keep is replaced by
 /// one from its address, or its station left out; these are diagnosed.
-constinit const ListFormat jsonFormat{{"json"}, looksLikeJson, parse, serialize};
+constinit const ListFormat jsonFormat{
+    {"json"}, looksLikeJson, [](std::string_view bytes) { return MemberReader().read(bytes); }, serialize};
 
 } // namespace sonavel

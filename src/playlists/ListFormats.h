@@ -37,6 +37,9 @@ extern const ListFormat listTextFormat;
 extern const ListFormat m3uFormat;
 extern const ListFormat plsFormat;
 
+/// Parses a list text exactly as the player does. Lines that are skipped and fields that are ignored are diagnosed.
+[[nodiscard]] ParsedList parseListText(const Text& text);
+
 using ListFormats = std::span<const ListFormat* const>;
 
 /// In the order in which bytes of an unknown format are compared with them; the first is that of any other text.

@@ -1,5 +1,3 @@
-#include "playlists/ListTextFormat.h"
-
 #include "base/TextDecoding.h"
 #include "model/KVStationWebRadio.h"
 #include "model/StationListText.h"

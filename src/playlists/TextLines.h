@@ -1,6 +1,7 @@
 // Lines of text from other programs.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -17,7 +18,17 @@ public:
     }
 
     /// The next line without its end; nothing after the last.
-    [[nodiscard]] std::optional<std::string_view> next();
+    [[nodiscard]] std::optional<std::string_view> next()
+    {
+        if (rest_.empty())
+            return std::nullopt;
+        ++count_;
+        const std::size_t end = rest_.find_first_of("\r\n");
+        const std::string_view line = rest_.substr(0, end);
+        rest_.remove_prefix(line.size());
+        rest_.remove_prefix(rest_.starts_with("\r\n") ? 2 : std::min<std::size_t>(rest_.size(), 1));
+        return line;
+    }
 
     /// The number of the line returned last, counted from 0.
     [[nodiscard]] std::uint64_t number() const { return count_ - 1; }

@@ -1,7 +1,6 @@
 #include "tools/DatabaseFormat.h"
 
 #include "model/StationListText.h"
-#include "playlists/ListTextFormat.h"
 #include "storage/StationListCodec.h"
 
 namespace sonavel {

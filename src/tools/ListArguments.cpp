@@ -74,13 +74,8 @@ const ListFormat* formatFrom(std::string_view name)
     return format;
 }
 
-struct Options {
-    const ListFormat* from = nullptr;
-    const ListFormat* to = nullptr;
-    std::vector<std::string> operands;
-};
-
-Options optionsFrom(int argc, char** argv)
+/// Sets the formats that options give; returns the other arguments.
+std::vector<std::string> takeOptions(int argc, char** argv, ListArguments& arguments)
 {
     constexpr std::array known{
         option{"from", required_argument, nullptr, 'f'},
@@ -89,14 +84,13 @@ Options optionsFrom(int argc, char** argv)
         option{"help", no_argument, nullptr, 'h'},
         option{},
     };
-    Options options;
     for (int found = 0; (found = getopt_long(argc, argv, "", known.data(), nullptr)) != -1;) {
         switch (found) {
         case 'f':
-            options.from = formatFrom(optarg);
+            arguments.inputFormat = formatFrom(optarg);
             break;
         case 't':
-            options.to = formatFrom(optarg);
+            arguments.outputFormat = formatFrom(optarg);
             break;
         case 'V':
             std::cout << "sonavel-list " << programBundle().shortVersion.view() << '\n';
@@ -108,25 +102,25 @@ Options optionsFrom(int argc, char** argv)
             std::exit(usageError);
         }
     }
-    options.operands.assign(argv + optind, argv + argc);
-    return options;
+    return {argv + optind, argv + argc};
 }
 
-void setInput(ListArguments& arguments, const Options& options, std::string path)
+void setInput(ListArguments& arguments, const std::string& path)
 {
-    arguments.inputFormat = options.from != nullptr ? options.from : formatOfPath(path, allFormats);
-    arguments.input = std::move(path);
+    arguments.input = path;
+    if (arguments.inputFormat == nullptr)
+        arguments.inputFormat = formatOfPath(path, allFormats);
 }
 
-void setOutput(ListArguments& arguments, const Options& options, std::string path)
+void setOutput(ListArguments& arguments, const std::string& path)
 {
-    const ListFormat* format = options.to != nullptr ? options.to : formatOfPath(path, allFormats);
-    if (format == nullptr)
+    arguments.output = path;
+    if (arguments.outputFormat == nullptr)
+        arguments.outputFormat = formatOfPath(path, allFormats);
+    if (arguments.outputFormat == nullptr)
         refuse("the format of \"" + path + "\" has to be given with --to");
-    if (format->serialize == nullptr)
+    if (arguments.outputFormat->serialize == nullptr)
         refuse("playlists are read and not written");
-    arguments.outputFormat = format;
-    arguments.output = std::move(path);
 }
 
 ListArguments::Command commandNamed(std::string_view name)
@@ -145,24 +139,23 @@ ListArguments::Command commandNamed(std::string_view name)
 
 ListArguments listArgumentsFrom(int argc, char** argv)
 {
-    const Options options = optionsFrom(argc, argv);
-    const auto& operands = options.operands;
+    ListArguments arguments;
+    const auto operands = takeOptions(argc, argv, arguments);
     if (operands.empty())
         refuse("it takes a command: show, check or convert");
-    ListArguments arguments;
     arguments.command = commandNamed(operands[0]);
     if (arguments.command == ListArguments::Command::Convert) {
         if (operands.size() != 3)
             refuse("convert takes two files");
-        setInput(arguments, options, operands[1]);
-        setOutput(arguments, options, operands[2]);
+        setInput(arguments, operands[1]);
+        setOutput(arguments, operands[2]);
         return arguments;
     }
     if (operands.size() > 2)
         refuse(operands[0] + " takes one file");
-    if (options.to != nullptr)
+    if (arguments.outputFormat != nullptr)
         refuse("--to goes with convert alone");
-    setInput(arguments, options, operands.size() == 2 ? operands[1] : pathOfOwnList());
+    setInput(arguments, operands.size() == 2 ? operands[1] : pathOfOwnList());
     return arguments;
 }
 
