@@ -8,7 +8,7 @@ namespace sonavel {
 
 namespace {
 
-/// Room for what encryption appends, so that a text of many megabytes can be encrypted where it lies.
+/// Spare capacity for what encryption appends, so that a text of many megabytes can be encrypted where it lies.
 constexpr std::size_t encryptionPadding = 16;
 
 /// Cuts the part before `separator` off; the whole of `rest` when there is none.

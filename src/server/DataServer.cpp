@@ -175,7 +175,7 @@ void HttpDataServer::stream(const DemoStation& station, const httplib::Request& 
     const std::shared_ptr<void> slot(nullptr, [this](void*) { --listeners_; });
     if (++listeners_ > maxListeners) {
         response.status = 503;
-        response.set_content("There is no room for another listener.\n", "text/plain");
+        response.set_content("No connection is free for another listener.\n", "text/plain");
         return;
     }
     const bool wantsTitles = request.get_header_value("Icy-MetaData") == "1";
