@@ -51,9 +51,9 @@ public:
     /// Never while the file is being written.
     virtual void removeUnfinishedWrite(const Text& path) = 0;
 
-    /// Gives the content of `path` a second name, which keeps it when `path` is replaced. Fails when the name of `copy`
-    /// is taken; after a failure nothing has changed.
-    virtual FileResult<> keepCopy(const Text& path, const UserFile& copy) = 0;
+    /// Gives the content of `path` a second name, which keeps it when `path` is replaced. Fails when `copy` is taken;
+    /// after a failure nothing has changed.
+    virtual FileResult<> keepCopy(const Text& path, const Text& copy) = 0;
 
     /// Renames a file or folder. Fails when `newPath` is taken; after a failure nothing has changed.
     virtual FileResult<> moveFile(const Text& path, const Text& newPath) = 0;
@@ -62,6 +62,9 @@ public:
 
     /// Makes the folder of the file and those above it where they are missing, for the owner alone.
     virtual FileResult<> makeFolderOf(const UserFile& file) = 0;
+
+    /// Tells the user that the file is not saved, as a failed `writeAtomically` or `makeFolderOf` does by itself.
+    virtual void reportUnsaved(const UserFile& file, const std::error_code& why) = 0;
 
     /// The names in a folder, in no order.
     [[nodiscard]] virtual FileResult<std::vector<std::string>> namesInFolder(const Text& path) const = 0;

@@ -67,8 +67,8 @@ CopiesByNumber copiesAmong(const std::vector<std::string>& present, const CopyNa
     return copies;
 }
 
-/// `operation` makes the copy, which is to the user what the file is, at the path that it is given. In a folder that
-/// cannot be listed there may be an older copy of that name; then it fails, and reports so.
+/// `operation` makes the copy at the path that it is given. In a folder that cannot be listed there may be an older
+/// copy of that name; then it fails.
 FileResult<Text> keep(Files& files, const Text& path, std::string_view mark, auto&& operation)
 {
     const CopyNames names(path.view(), mark);
@@ -85,20 +85,20 @@ FileResult<Text> keep(Files& files, const Text& path, std::string_view mark, aut
 
 } // namespace
 
-FileResult<Text> keepBackup(Files& files, const UserFile& file, std::string_view mark)
+FileResult<Text> keepBackup(Files& files, const Text& path, std::string_view mark)
 {
-    return keep(files, file.path, mark, [&](const Text& copy) { return files.keepCopy(file.path, {file.kind, copy}); });
+    return keep(files, path, mark, [&](const Text& copy) { return files.keepCopy(path, copy); });
 }
 
-FileResult<Text> quarantine(Files& files, const UserFile& file, std::string_view mark)
+FileResult<Text> quarantine(Files& files, const Text& path, std::string_view mark)
 {
-    return keep(files, file.path, mark, [&](const Text& copy) { return files.moveFile(file.path, copy); });
+    return keep(files, path, mark, [&](const Text& copy) { return files.moveFile(path, copy); });
 }
 
-FileResult<Text> keepDamaged(Files& files, const UserFile& file)
+FileResult<Text> keepDamaged(Files& files, const Text& path)
 {
-    return keepBackup(files, file, damagedMark).or_else([&](const std::error_code&) {
-        return quarantine(files, file, damagedMark);
+    return keepBackup(files, path, damagedMark).or_else([&](const std::error_code&) {
+        return quarantine(files, path, damagedMark);
     });
 }
 

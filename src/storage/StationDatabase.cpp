@@ -31,7 +31,7 @@ void StationDatabase::fileRadioDBupdate()
 void StationDatabase::quarantineLegacyFile()
 {
     // On failure it stays, and nothing is lost.
-    (void)quarantine(files_, legacyList_, damagedMark);
+    (void)quarantine(files_, legacyList_.path, damagedMark);
 }
 
 Text StationDatabase::keepListBeforeImport()
@@ -58,13 +58,16 @@ bool StationDatabase::keepUnreadDatabase()
     if (!content && isAbsent(content.error()))
         return true;
     const bool isReadable = content && !decodeStationList(*content).isAbsent();
-    databaseMayBeReplaced_ = (isReadable ? keepBeforeImport() : keepDamaged(files_, database_)).has_value();
+    const auto kept = isReadable ? keepBeforeImport() : keepDamaged(files_, database_.path);
+    if (!kept)
+        files_.reportUnsaved(database_, kept.error());
+    databaseMayBeReplaced_ = kept.has_value();
     return databaseMayBeReplaced_;
 }
 
 FileResult<Text> StationDatabase::keepBeforeImport()
 {
-    return keepBackup(files_, database_, beforeImportMark);
+    return keepBackup(files_, database_.path, beforeImportMark);
 }
 
 void StationDatabase::removeLegacyFile()

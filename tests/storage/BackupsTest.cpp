@@ -8,7 +8,6 @@ namespace sonavel {
 namespace {
 
 constexpr const char* path = "/home/list.old.rdb";
-const UserFile file{UserFile::Kind::StationList, path};
 
 std::set<std::string> names(const MemoryFiles& files)
 {
@@ -23,7 +22,7 @@ TEST(Backups, TheNewestThreeAreKeptUnderRisingNumbers)
     MemoryFiles files;
     for (int turn = 1; turn <= 5; ++turn) {
         files.files[path] = std::to_string(turn);
-        EXPECT_TRUE(keepBackup(files, file, "damaged"));
+        EXPECT_TRUE(keepBackup(files, path, "damaged"));
     }
     EXPECT_EQ(names(files),
         (std::set<std::string>{
@@ -39,7 +38,7 @@ TEST(Backups, OtherFilesAreNotTakenForCopies)
     for (const std::string& other : others)
         files.files["/home/" + other.substr(0, other.size() - 1)] = "";
     files.files[path] = "now";
-    EXPECT_TRUE(quarantine(files, file, "damaged"));
+    EXPECT_TRUE(quarantine(files, path, "damaged"));
     std::set<std::string> expected = others;
     expected.insert("list.old.damaged.rdb=now");
     EXPECT_EQ(names(files), expected);
@@ -53,9 +52,9 @@ TEST(Backups, AFailedCopyRemovesNoOlderOne)
     files.files[path] = "now";
     const auto before = names(files);
     files.failAll("keep");
-    EXPECT_FALSE(keepBackup(files, file, "damaged"));
+    EXPECT_FALSE(keepBackup(files, path, "damaged"));
     files.failAll("list");
-    EXPECT_FALSE(keepBackup(files, file, "damaged"));
+    EXPECT_FALSE(keepBackup(files, path, "damaged"));
     EXPECT_EQ(names(files), before);
 }
 
@@ -64,7 +63,7 @@ TEST(Backups, AFolderThatCannotBeListedIsNoReasonToKeepNothing)
     MemoryFiles files;
     files.files[path] = "now";
     files.failAll("list");
-    EXPECT_TRUE(keepBackup(files, file, "damaged"));
+    EXPECT_TRUE(keepBackup(files, path, "damaged"));
 }
 
 } // namespace

@@ -104,6 +104,8 @@ TEST_F(StationDatabaseTest, WhatIsThereAndCannotBeReadIsNeverOverwritten)
     StationDatabase(files, list).fileRadioDBupdate();
     EXPECT_TRUE(files.folders.contains(files.inPreferences("radiolist.damaged.rdb")));
     EXPECT_EQ(reopened(), Text("New;n\r"));
+    const auto reports = [&] { return std::count(files.log.begin(), files.log.end(), "unsaved " + databasePath); };
+    EXPECT_EQ(reports(), 0) << "a folder cannot be copied, but the list is saved";
 
     files.files = {{databasePath, "damaged"}};
     StationDatabase database(files, list);
@@ -113,6 +115,7 @@ TEST_F(StationDatabaseTest, WhatIsThereAndCannotBeReadIsNeverOverwritten)
         database.fileRadioDBupdate();
         EXPECT_TRUE(files.files[databasePath] == "damaged" || copy("radiolist.damaged-2.rdb") == "damaged") << entry;
         EXPECT_EQ(copy("radiolist.damaged.rdb"), "older");
+        EXPECT_EQ(reports(), 1) << "where no copy is possible";
     }
 }
 

@@ -68,10 +68,10 @@ public:
         files.erase(whole.substr(0, name) + "." + whole.substr(name) + ".saving");
     }
 
-    FileResult<> keepCopy(const Text& path, const UserFile& copy) override
+    FileResult<> keepCopy(const Text& path, const Text& copy) override
     {
-        const std::string name = copy.path.string();
-        if (fails("keep " + path.string() + " " + name) || !files.contains(path.string()) || fileExists(copy.path))
+        const std::string name = copy.string();
+        if (fails("keep " + path.string() + " " + name) || !files.contains(path.string()) || fileExists(copy))
             return failure();
         files[name] = files.at(path.string());
         if (unreadable.contains(path.string()))
@@ -106,6 +106,11 @@ public:
             return failure();
         folders.insert(folder);
         return {};
+    }
+
+    void reportUnsaved(const UserFile& file, const std::error_code& /*why*/) override
+    {
+        log.push_back("unsaved " + file.path.string());
     }
 
     [[nodiscard]] FileResult<std::vector<std::string>> namesInFolder(const Text& path) const override

@@ -50,8 +50,9 @@ void PlistPreferenceDomains::synchronize()
 
 void PlistPreferenceDomains::write(const UserFile& file, StoredDomain& domain)
 {
-    if (domain.isFileDamaged && !keepDamaged(files_, file))
-        return;
+    if (domain.isFileDamaged)
+        if (const auto kept = keepDamaged(files_, file.path); !kept)
+            return files_.reportUnsaved(file, kept.error());
     domain.isFileDamaged = false;
     domain.isWriteDue = !files_.makeFolderOf(file).and_then(
         [&] { return files_.writeAtomically(file, propertyListFromDomain(*domain.content)); });

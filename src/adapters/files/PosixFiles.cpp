@@ -104,9 +104,9 @@ FileResult<std::string> PosixFiles::linkTarget(std::string path) const
     return tl::unexpected(std::make_error_code(std::errc::too_many_symbolic_link_levels));
 }
 
-FileResult<> PosixFiles::keepCopy(const Text& path, const UserFile& copy)
+FileResult<> PosixFiles::keepCopy(const Text& path, const Text& copy)
 {
-    const std::string name = copy.path.string();
+    const std::string name = copy.string();
     const auto keep = [&](const std::string& original) {
         FileResult<> kept = linkAs(original, name);
         // File systems without hard links, or a folder on another one.
@@ -116,7 +116,7 @@ FileResult<> PosixFiles::keepCopy(const Text& path, const UserFile& copy)
             return AtomicFileWriter(*calls_, name).create(contents.bytes, contents.mode);
         });
     };
-    return reported(linkTarget(path.string()).and_then(keep), copy);
+    return linkTarget(path.string()).and_then(keep);
 }
 
 FileResult<> PosixFiles::linkAs(const std::string& path, const std::string& copy)
@@ -198,11 +198,17 @@ FileResult<std::vector<std::string>> PosixFiles::namesInFolder(const Text& path)
     return names;
 }
 
-FileResult<> PosixFiles::reported(FileResult<> result, const UserFile& file) const
+FileResult<> PosixFiles::reported(FileResult<> result, const UserFile& file)
 {
-    if (!result && saveFailureObserver_)
-        saveFailureObserver_(file, result.error());
+    if (!result)
+        reportUnsaved(file, result.error());
     return result;
+}
+
+void PosixFiles::reportUnsaved(const UserFile& file, const std::error_code& why)
+{
+    if (saveFailureObserver_)
+        saveFailureObserver_(file, why);
 }
 
 } // namespace sonavel

@@ -21,7 +21,7 @@ public:
     explicit PosixFiles(
         const Text& homeDirectory, std::unique_ptr<SystemCalls> calls = std::make_unique<SystemCalls>());
 
-    /// Observes every failed `writeAtomically`, `makeFolderOf` and `keepCopy`.
+    /// Observes every failed `writeAtomically` and `makeFolderOf`, and every `reportUnsaved`.
     void setSaveFailureObserver(SaveFailureObserver observer) { saveFailureObserver_ = std::move(observer); }
 
     [[nodiscard]] Text homeDirectory() const override { return homeDirectory_; }
@@ -31,10 +31,11 @@ public:
     FileResult<> writeAtomically(
         const UserFile& file, std::string_view bytes, FileAccess access = FileAccess::OwnerOnly) override;
     void removeUnfinishedWrite(const Text& path) override;
-    FileResult<> keepCopy(const Text& path, const UserFile& copy) override;
+    FileResult<> keepCopy(const Text& path, const Text& copy) override;
     FileResult<> moveFile(const Text& path, const Text& newPath) override;
     FileResult<> removeFile(const Text& path) override;
     FileResult<> makeFolderOf(const UserFile& file) override;
+    void reportUnsaved(const UserFile& file, const std::error_code& why) override;
     [[nodiscard]] FileResult<std::vector<std::string>> namesInFolder(const Text& path) const override;
 
 private:
@@ -48,7 +49,7 @@ private:
     [[nodiscard]] FileResult<> linkAs(const std::string& path, const std::string& copy);
     [[nodiscard]] FileResult<> makeFolders(const std::string& path);
     void synchronizeFolderOf(const std::string& path);
-    FileResult<> reported(FileResult<> result, const UserFile& file) const;
+    FileResult<> reported(FileResult<> result, const UserFile& file);
 
     std::unique_ptr<SystemCalls> calls_;
     Text homeDirectory_;

@@ -114,12 +114,10 @@ TEST_F(PosixFilesTest, ACopyOfWhichAnyOneCallFailsIsThereWholeOrNotAtAll)
         calls.areLinksRefused = areLinksRefused;
         for (int call = 1; call == 1 || calls.hasFailed(); ++call) {
             SCOPED_TRACE(call);
-            reported.clear();
             calls.fail(call);
-            const bool isKept = files.keepCopy(folder.path("file"), fileNamed("copy")).has_value();
+            const bool isKept = files.keepCopy(folder.path("file"), folder.path("copy")).has_value();
             EXPECT_EQ(folder.names(), isKept ? (Names{"copy", "file"}) : Names{"file"});
             EXPECT_EQ(folder.read("copy"), isKept ? "content" : "");
-            EXPECT_EQ(reported.size(), isKept ? 0 : 1);
             fs::remove(folder.path("copy"));
         }
     }
@@ -132,15 +130,13 @@ TEST_F(PosixFilesTest, ACopyOutlivesTheReplacementOfItsOriginalAndTakesNoOthersN
         calls.areLinksRefused = areLinksRefused;
         folder.put("file", "first");
         fs::permissions(folder.path("file"), fs::perms(0640));
-        ASSERT_TRUE(files.keepCopy(folder.path("file"), fileNamed("copy")));
+        ASSERT_TRUE(files.keepCopy(folder.path("file"), folder.path("copy")));
         ASSERT_TRUE(write("file", "second"));
         EXPECT_EQ(folder.read("copy"), "first");
         EXPECT_EQ(modeOf("copy"), 0640);
 
-        EXPECT_FALSE(files.keepCopy(folder.path("file"), fileNamed("copy")));
+        EXPECT_FALSE(files.keepCopy(folder.path("file"), folder.path("copy")));
         EXPECT_EQ(folder.read("copy"), "first");
-        EXPECT_EQ(reported.size(), 1U) << "nothing is saved in its place then";
-        reported.clear();
         EXPECT_EQ(folder.names(), (Names{"copy", "file"}));
         fs::remove(folder.path("copy"));
     }
