@@ -27,28 +27,24 @@ TEST(Protocol, NoTextCanSayMoreThanItself)
     }
 }
 
-/// From the line that says it, without its line feed.
-std::optional<EngineEvent> readBack(const EngineEvent& event)
+std::string withoutLineFeed(std::string line)
 {
-    std::string line = lineFromEvent(event);
     line.pop_back();
-    return eventFromLine(line);
+    return line;
 }
 
 TEST(Protocol, EveryVolumeStateAndReasonComesBack)
 {
-    for (const float volume : {0.0F, 0.5F, 1.0F}) {
-        std::string line = lineFromCommand(VolumeCommand{volume});
-        line.pop_back();
-        EXPECT_EQ(commandFromLine(line), EngineCommand(VolumeCommand{volume})) << line;
-    }
+    for (const float volume : {0.0F, 0.5F, 1.0F})
+        EXPECT_EQ(commandFromLine(withoutLineFeed(lineFromCommand(VolumeCommand{volume}))),
+            EngineCommand(VolumeCommand{volume}));
     for (int state = 0; state <= static_cast<int>(StreamState::Playing); ++state) {
-        const StateEvent event{7, static_cast<StreamState>(state)};
-        EXPECT_EQ(readBack(event), EngineEvent(event)) << state;
+        const EngineEvent event = StateEvent{7, static_cast<StreamState>(state)};
+        EXPECT_EQ(eventFromLine(withoutLineFeed(lineFromEvent(event))), event) << state;
     }
     for (int reason = 0; reason <= static_cast<int>(PlaybackFailure::EngineFailed); ++reason) {
-        const FailedEvent event{7, static_cast<PlaybackFailure>(reason)};
-        EXPECT_EQ(readBack(event), EngineEvent(event)) << reason;
+        const EngineEvent event = FailedEvent{7, static_cast<PlaybackFailure>(reason)};
+        EXPECT_EQ(eventFromLine(withoutLineFeed(lineFromEvent(event))), event) << reason;
     }
 }
 
@@ -101,6 +97,32 @@ TEST(Protocol, TheLongestAddressAndNameFitALine)
     const auto line = reader.nextLine();
     ASSERT_TRUE(line.has_value());
     EXPECT_EQ(commandFromLine(*line), EngineCommand(command));
+}
+
+TEST(StreamTitle, WhateverBytesAServerSendsAreOneShortLineOfText)
+{
+    const std::vector<std::pair<std::string, std::string>> rows{
+        {"", ""},
+        {" \t\n ", ""},
+        {"  Title\r\n", "Title"},
+        {"one\ntwo\x7Fthree", "one two three"},
+        {std::string("a\0b", 3), "a b"},
+        {"\x80 5 \x96 M\xFCller\x81", "€ 5 – Müller"},
+        {"a\xE2\x80\xA8z\xE2\x80\xAE", "a z"},
+        {"\xD7\xA9\xE2\x80\x8F!", "\xD7\xA9\xE2\x80\x8F!"},
+    };
+    for (const auto& [bytes, title] : rows)
+        EXPECT_EQ(streamTitle(bytes), Text(title));
+}
+
+TEST(StreamTitle, ALongTitleIsCutAtACharacter)
+{
+    std::string bytes = "x";
+    while (bytes.size() < 4000)
+        bytes += "\xE2\x80\x93";
+    const Text title = streamTitle(bytes);
+    EXPECT_EQ(title.view().size(), 499U);
+    EXPECT_TRUE(isValidUtf8(title.view()));
 }
 
 } // namespace

@@ -10,7 +10,6 @@
 #include "platform/Bundle.h"
 #include "server/Stations.h"
 #include "storage/StationListCodec.h"
-#include "support/ServerHost.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -26,12 +25,15 @@ protected:
     void start(const DataServerSettings& settings)
     {
         server_ = DataServer::create(settings).value();
-        client_ = std::make_unique<httplib::Client>(test::hostOf(*server_));
+        std::string host = server_->baseAddress().string();
+        host.pop_back();
+        client_ = std::make_unique<httplib::Client>(host);
     }
 
-    static DataServerSettings settings()
+    static DataServerSettings settings(const std::string& folder = {})
     {
         DataServerSettings settings;
+        settings.folder = folder;
         settings.version = std::string("3.4.5");
         settings.build = std::string("12");
         return settings;
@@ -85,9 +87,7 @@ TEST_F(DataServerTest, TheStatedVersionIsSentUnlessTheResponseItselfIsPublished)
 {
     const test::TemporaryFolder folder;
     folder.put("version.txt", "version = 1.3.0\nbuild = 8\n");
-    DataServerSettings withFolder = settings();
-    withFolder.folder = folder.path();
-    start(withFolder);
+    start(settings(folder.path()));
     EXPECT_EQ(get("?file=sonavel.ini").find("name;Sonavel\rversion;1.3.0\rbuild;8\r"), 0U);
     folder.put("sonavel.ini", "of the publisher");
     EXPECT_EQ(get("?file=sonavel.ini"), "of the publisher");
@@ -102,19 +102,16 @@ TEST_F(DataServerTest, DemoStationsStreamFromTheHostThatTheClientAsked)
     const std::string own(server_->baseAddress().view());
     EXPECT_EQ(own.find("http://127.0.0.1:"), 0U) << own;
 
-    struct Case {
-        std::string host;
-        std::string expected;
-    };
-    for (const Case& each :
-        {Case{"radio.example.org:8080", "http://radio.example.org:8080/"}, {"[::1]:80", "http://[::1]:80/"}, {"", own},
-            {"a;b", own}, {"a/b", own}, {"user@host", own}, {"a b", own}, {std::string(256, 'a'), own}}) {
-        client_->set_default_headers({{"Host", each.host}});
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"radio.example.org:8080", "http://radio.example.org:8080/"}, {"[::1]:80", "http://[::1]:80/"}, {"", own},
+        {"a;b", own}, {"a/b", own}, {"user@host", own}, {"a b", own}, {std::string(256, 'a'), own}};
+    for (const auto& [host, expected] : cases) {
+        client_->set_default_headers({{"Host", host}});
         const StationRecords records = recordsFromListText(decodeStationList(get("?file=20161001000000_lr.rdb")));
-        ASSERT_EQ(records.size(), 3U) << each.host;
+        ASSERT_EQ(records.size(), 3U) << host;
         for (std::size_t i = 0; i < records.size(); ++i)
-            EXPECT_EQ(records[i]->link(), Text(each.expected + (demoStations()[i].path + 1))) << each.host;
-        EXPECT_NE(get("?file=sonavel.ini").find("page;" + each.expected + '\r'), std::string::npos) << each.host;
+            EXPECT_EQ(records[i]->link(), Text(expected + (demoStations()[i].path + 1))) << host;
+        EXPECT_NE(get("?file=sonavel.ini").find("page;" + expected + '\r'), std::string::npos) << host;
     }
 }
 
@@ -122,9 +119,7 @@ TEST_F(DataServerTest, WhatIsNotPublishedGivesAStatusAndNotWithAFile)
 {
     const test::TemporaryFolder folder;
     folder.put("list.rdb", "published");
-    DataServerSettings withFolder = settings();
-    withFolder.folder = folder.path();
-    start(withFolder);
+    start(settings(folder.path()));
     EXPECT_EQ(get("?file=list.rdb"), "published");
     for (const char* query : {"", "?file=", "?file=none", "?file=..%2f..%2fetc%2fpasswd", "?file=%2fetc%2fpasswd",
              "?file=list.rdb%00", "?file=.%2flist.rdb", "?other=list.rdb"})

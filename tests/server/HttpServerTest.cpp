@@ -2,22 +2,23 @@
 
 #include "server/DataServer.h"
 #include "server/HttpConnection.h"
-#include "server/RawClient.h"
-#include "support/ServerHost.h"
 
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <array>
 #include <chrono>
 #include <deque>
 #include <future>
 #include <stdexcept>
+#include <string_view>
 #include <thread>
 
 namespace sonavel {
 namespace {
-
-using test::RawClient;
 
 constexpr char listen[] = "GET /demo/orchard.mp3 HTTP/1.1\r\nRange: bytes=0-\r\n\r\n";
 constexpr char ask[] = "GET / HTTP/1.1\r\nConnection: close\r\n\r\n";
@@ -29,6 +30,64 @@ std::unique_ptr<DataServer> startedServer()
     settings.content = DataServerSettings::Content::Demo;
     return DataServer::create(settings).value();
 }
+
+int portOf(const DataServer& server)
+{
+    const std::string address = server.baseAddress().string();
+    return std::stoi(address.substr(address.rfind(':') + 1));
+}
+
+/// Connected to a server on loopback, for what no library would send: half a request, one without an end, or nothing at
+/// all. No wait is longer than 30 s.
+class RawClient : private NonCopyable {
+public:
+    explicit RawClient(const DataServer& server)
+        : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_in peer{};
+        peer.sin_family = AF_INET;
+        peer.sin_port = htons(static_cast<std::uint16_t>(portOf(server)));
+        peer.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        if (connect(socket_, reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0)
+            throw std::runtime_error("the server takes no connection");
+    }
+    ~RawClient() { close(socket_); }
+
+    /// False when the server takes no more.
+    bool send(std::string_view bytes) const
+    {
+        while (!bytes.empty() && waitFor(POLLOUT)) {
+            const ssize_t sent = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+            if (sent < 0)
+                return false;
+            bytes.remove_prefix(static_cast<std::size_t>(sent));
+        }
+        return bytes.empty();
+    }
+
+    /// The next `size` bytes; fewer when the server closes before.
+    [[nodiscard]] std::string read(std::size_t size) const
+    {
+        std::string received;
+        std::array<char, 16 * 1024> piece{};
+        while (received.size() < size && waitFor(POLLIN)) {
+            const ssize_t count = recv(socket_, piece.data(), std::min(piece.size(), size - received.size()), 0);
+            if (count <= 0)
+                break;
+            received.append(piece.data(), static_cast<std::size_t>(count));
+        }
+        return received;
+    }
+
+private:
+    [[nodiscard]] bool waitFor(short events) const
+    {
+        pollfd waiting{socket_, events, 0};
+        return poll(&waiting, 1, 30'000) > 0;
+    }
+
+    int socket_;
+};
 
 std::string responseTo(const DataServer& server, std::string_view request)
 {
@@ -127,7 +186,7 @@ TEST(HttpServer, HalfRequestsOnEveryConnectionHoldUpAPlayersProbeForLessThanItWa
     std::deque<RawClient> halfway;
     for (int client = 0; client < HttpServer::maxConnections; ++client)
         EXPECT_TRUE(halfway.emplace_back(*server).send("GET / HT"));
-    httplib::Client probe(test::hostOf(*server));
+    httplib::Client probe("127.0.0.1", portOf(*server));
     probe.set_read_timeout(std::chrono::seconds(5));
     EXPECT_TRUE(probe.Get("/"));
 }
@@ -190,9 +249,8 @@ TEST(HttpServer, ItsEndEndsTheWaitForTheNextPieceOfAStream)
 TEST(HttpServer, APortInUseIsReportedInOneSentence)
 {
     const auto server = startedServer();
-    const std::string address = server->baseAddress().string();
     DataServerSettings same;
-    same.port = std::stoi(address.substr(address.rfind(':') + 1));
+    same.port = portOf(*server);
     for (const std::string host : {"127.0.0.1", "192.0.2.1", "no address"}) {
         same.address = host;
         const auto refused = DataServer::create(same);

@@ -188,6 +188,8 @@ public:
 
     /// How many clients have connected so far.
     [[nodiscard]] int connectionCount() const { return connectionCount_; }
+    /// How many handlers have not returned.
+    [[nodiscard]] int openConnectionCount() const { return openConnectionCount_; }
 
 private:
     void acceptConnections()
@@ -202,9 +204,11 @@ private:
             if (client < 0)
                 continue;
             ++connectionCount_;
+            ++openConnectionCount_;
             connections_.emplace_back([this, client] {
                 Connection connection(client, *this);
                 handler_(connection);
+                --openConnectionCount_;
             });
         }
     }
@@ -214,6 +218,7 @@ private:
     int listener_;
     std::uint16_t port_ = 0;
     std::atomic<int> connectionCount_ = 0;
+    std::atomic<int> openConnectionCount_ = 0;
     std::vector<std::thread> connections_; // the acceptor's alone until it has ended
     std::thread acceptor_;
 };

@@ -89,9 +89,7 @@ TEST_F(EngineFaults, TheTimersOfAPlayerThatIsGoneAreGoneWithIt)
 TEST_F(EngineFaults, AnEngineThatCannotBeStartedOrEndsAtOnceIsAFailureAndNothingWorse)
 {
     for (const char* program : {"/nowhere/sonavel-engine", "/", "/bin/true", "/bin/cat"}) {
-        ReconnectPolicy::Limits limits = shortDelays;
-        limits.connectTimeout = 300ms;
-        use(limits, program);
+        use({.connectTimeout = 300ms}, program);
         engine_->start();
         play("http://127.0.0.1:1/");
         player_->setMuted(true);
@@ -103,16 +101,11 @@ TEST_F(EngineFaults, AnEngineThatCannotBeStartedOrEndsAtOnceIsAFailureAndNothing
 
 TEST_F(EngineFaults, AHundredQuickChangesLeaveNoThreadSocketOrMemoryBehind)
 {
-    std::atomic<int> open = 0;
-    const ScriptedServer server([&](ScriptedServer::Connection& connection) {
-        ++open;
-        playTone(connection);
-        --open;
-    });
+    const ScriptedServer server(playTone);
     const auto settle = [&] {
         play(server.address());
         ASSERT_TRUE(comesTo(State::Playing));
-        ASSERT_TRUE(loop_.runUntil([&] { return open == 1; }));
+        ASSERT_TRUE(loop_.runUntil([&] { return server.openConnectionCount() == 1; }));
     };
     const auto changeAHundredTimes = [&] {
         for (int change = 0; change < 100; ++change) {
@@ -150,12 +143,12 @@ TEST_F(EngineFaults, NoDescriptorGoesToTheEngineOrIsLeftByOne)
     ASSERT_EQ(::dup2(STDERR_FILENO, inheritable), inheritable);
     const std::size_t before = entriesIn("/proc/self/fd");
     for (const char* program : {SONAVEL_ENGINE, "/nowhere/sonavel-engine"}) {
-        use(shortDelays, program);
+        use({}, program);
         engine_->start();
         for (const int engine : children())
             EXPECT_FALSE(std::filesystem::is_symlink(folderOf(engine) + "/fd/" + std::to_string(inheritable)));
     }
-    use(shortDelays);
+    use();
     EXPECT_EQ(entriesIn("/proc/self/fd"), before);
     ::close(inheritable);
 }

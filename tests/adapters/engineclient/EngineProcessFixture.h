@@ -16,10 +16,6 @@
 
 namespace sonavel::test {
 
-/// Delays that a test need not wait for.
-inline constexpr ReconnectPolicy::Limits shortDelays{
-    .initialBackoff = std::chrono::milliseconds(20), .maxBackoff = std::chrono::milliseconds(100)};
-
 class EngineProcessTest : public ::testing::Test {
 protected:
     using State = StreamReport::State;
@@ -29,14 +25,16 @@ protected:
         ::setenv("SONAVEL_AUDIO_OUTPUT", "null", 1);
         notifications_.addObserver([this] { ++stalls_; }, playbackStalledNotification, nullptr);
         notifications_.addObserver([this] { ++errors_; }, newErrorLogEntryNotification, nullptr);
-        use(shortDelays);
+        use();
     }
 
     ~EngineProcessTest() override { player_.reset(); }
 
-    /// Begins anew with another engine.
-    void use(const ReconnectPolicy::Limits& limits, const std::string& program = SONAVEL_ENGINE)
+    /// Begins anew with another engine, and with delays that a test need not wait for.
+    void use(ReconnectPolicy::Limits limits = {}, const std::string& program = SONAVEL_ENGINE)
     {
+        limits.initialBackoff = std::chrono::milliseconds(20);
+        limits.maxBackoff = std::chrono::milliseconds(100);
         player_.reset();
         engine_.emplace(loop_, notifications_, program, limits);
         engine_->setObserver([this](const StreamReport& shown) {

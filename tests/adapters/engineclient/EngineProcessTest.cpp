@@ -23,9 +23,7 @@ TEST_F(EngineProcessTest, AStreamThatEndsIsOpenedAgain)
 
 TEST_F(EngineProcessTest, AStreamThatFallsSilentOnAnOpenConnectionIsOpenedAgain)
 {
-    ReconnectPolicy::Limits limits = shortDelays;
-    limits.stallTimeout = 500ms;
-    use(limits);
+    use({.stallTimeout = 500ms});
     std::atomic<int> count = 0;
     const ScriptedServer server([&](ScriptedServer::Connection& connection) {
         if (++count > 1)
@@ -41,10 +39,7 @@ TEST_F(EngineProcessTest, AStreamThatFallsSilentOnAnOpenConnectionIsOpenedAgain)
 
 TEST_F(EngineProcessTest, AShortHoldGoesOnAndALongOneIsOpenedAgain)
 {
-    ReconnectPolicy::Limits limits = shortDelays;
-    limits.maxPause = 1s;
-    limits.stallTimeout = 1500ms;
-    use(limits);
+    use({.stallTimeout = 1500ms, .maxPause = 1s});
     const ScriptedServer server(playTone);
     play(server.address());
     ASSERT_TRUE(comesTo(State::Playing));
@@ -117,9 +112,7 @@ private:
 TEST_F(EngineProcessTest, AStreamThatIsRecognisedCountsAsConnectingUntilItIsGivenUpAsSilent)
 {
     const ListeningEngine engine("state 1 recognised");
-    ReconnectPolicy::Limits limits = shortDelays;
-    limits.connectTimeout = 1s;
-    use(limits, engine.program());
+    use({.connectTimeout = 1s}, engine.program());
     play("http://radio.example/");
     EXPECT_TRUE(failsWith(PlaybackFailure::Silent));
     EXPECT_EQ(states_, (std::set{State::Connecting, State::Reconnecting}));
@@ -128,7 +121,7 @@ TEST_F(EngineProcessTest, AStreamThatIsRecognisedCountsAsConnectingUntilItIsGive
 TEST_F(EngineProcessTest, TheEngineIsGivenOnlyVolumesThatThereAre)
 {
     const ListeningEngine engine;
-    use(shortDelays, engine.program());
+    use({}, engine.program());
     play("http://radio.example/");
     for (const float volume : {7.0F, -1.0F, 1.0F})
         player_->setVolume(volume);
@@ -139,7 +132,7 @@ TEST_F(EngineProcessTest, TheEngineIsGivenOnlyVolumesThatThereAre)
 TEST_F(EngineProcessTest, TheEngineIsGivenTheNameOfTheStationAsAShortLine)
 {
     const ListeningEngine engine;
-    use(shortDelays, engine.program());
+    use({}, engine.program());
     const std::string name = " a\nstop \xE2\x80\xAE" + std::string(1000, 'b');
     engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{"http://h/", name}))->play();
     EXPECT_TRUE(loop_.runUntil([&] {
@@ -149,24 +142,19 @@ TEST_F(EngineProcessTest, TheEngineIsGivenTheNameOfTheStationAsAShortLine)
 
 TEST_F(EngineProcessTest, OnlyThePlayerThatPlayedLastIsHeardAndLeavesNoConnection)
 {
-    std::atomic<int> open = 0;
-    const ScriptedServer server([&](ScriptedServer::Connection& connection) {
-        ++open;
-        playTone(connection);
-        --open;
-    });
+    const ScriptedServer server(playTone);
     play(server.address("/first"));
     ASSERT_TRUE(comesTo(State::Playing));
     auto second =
         engine_->playerWithPlayerItem(std::make_shared<const PlayerItem>(PlayerItem{server.address("/second"), {}}));
     EXPECT_EQ(shown_.state, State::Playing);
     second->play();
-    ASSERT_TRUE(loop_.runUntil([&] { return server.connectionCount() == 2 && open == 1; }));
+    ASSERT_TRUE(loop_.runUntil([&] { return server.connectionCount() == 2 && server.openConnectionCount() == 1; }));
     player_.reset();
     EXPECT_TRUE(comesTo(State::Playing));
     second.reset();
     EXPECT_EQ(shown_.state, State::Nothing);
-    EXPECT_TRUE(loop_.runUntil([&] { return open == 0; }));
+    EXPECT_TRUE(loop_.runUntil([&] { return server.openConnectionCount() == 0; }));
 }
 
 } // namespace

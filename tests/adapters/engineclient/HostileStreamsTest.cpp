@@ -114,9 +114,7 @@ TEST_F(HostileStreams, APlaylistLeadsToItsStream)
 
 TEST_F(HostileStreams, AStreamThatNeverComesToItsSoundIsGivenUp)
 {
-    ReconnectPolicy::Limits limits = shortDelays;
-    limits.connectTimeout = 500ms;
-    use(limits);
+    use({.connectTimeout = 500ms});
     const ScriptedServer endlessHead([](ScriptedServer::Connection& connection) {
         connection.send("HTTP/1.0 200 OK\r\n");
         while (connection.send("X-Filler: " + std::string(1000, 'x') + "\r\n") && connection.wait(1ms)) { }
@@ -127,8 +125,7 @@ TEST_F(HostileStreams, AStreamThatNeverComesToItsSoundIsGivenUp)
         play(address);
         EXPECT_TRUE(failsWith(PlaybackFailure::TimedOut)) << address;
     }
-    limits.connectTimeout = 3s;
-    use(limits);
+    use({.connectTimeout = 3s});
     const ScriptedServer noise([](ScriptedServer::Connection& connection) {
         connection.readRequestHead();
         connection.send(answer("audio/mpeg", {}));

@@ -14,7 +14,8 @@
 
 namespace {
 
-/// A name server of the test's own: "silent.invalid" gets no answer until the test wants one, other names in "invalid" do not exist.
+/// A name server of the test's own: "silent.invalid" gets no answer until the test wants one, other names in "invalid"
+/// do not exist.
 struct NameServer {
     std::mutex mutex;
     std::condition_variable changed;
@@ -55,10 +56,12 @@ using namespace std::chrono_literals;
 
 constexpr std::size_t mebibyte = std::size_t{1} << 20U;
 
-HttpResult get(const std::string& address, const CurlHttpClient::Limits& limits = {})
+HttpResult get(const std::string& address, const CurlHttpClient::Limits& limits = {},
+    std::optional<std::chrono::milliseconds> timeout = {})
 {
     HttpRequest request;
     request.address = address;
+    request.timeout = timeout;
     return CurlHttpClient("1.2.3", limits).sendSynchronousRequest(request);
 }
 
@@ -149,9 +152,7 @@ std::size_t sentUntilFailure(std::string_view head, std::string_view piece)
         while (connection.send(piece))
             sent += piece.size();
     });
-    CurlHttpClient::Limits limits;
-    limits.body = mebibyte;
-    EXPECT_FALSE(get(server.address(), limits)) << head;
+    EXPECT_FALSE(get(server.address(), {.body = mebibyte})) << head;
     return sent;
 }
 
@@ -185,10 +186,8 @@ TEST(CurlHttpClient, ABodyAnnouncedAsTooLargeIsNotWaitedFor)
     EXPECT_FALSE(get(server.address()));
     EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
 
-    CurlHttpClient::Limits limits;
-    limits.body = 5;
     const ScriptedServer exact(ScriptedServer::answering("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello"));
-    EXPECT_EQ(get(exact.address(), limits), "hello");
+    EXPECT_EQ(get(exact.address(), {.body = 5}), "hello");
 }
 
 TEST(CurlHttpClient, ASilentOrDribblingServerIsLeftInTime)
@@ -202,23 +201,15 @@ TEST(CurlHttpClient, ASilentOrDribblingServerIsLeftInTime)
                 while (connection.send("x") && connection.wait(20ms)) { }
         });
         const auto start = std::chrono::steady_clock::now();
-        HttpRequest request;
-        request.address = server.address();
-        request.timeout = 200ms;
-        EXPECT_FALSE(CurlHttpClient("1").sendSynchronousRequest(request));
-        CurlHttpClient::Limits limits;
-        limits.wholeRequest = 200ms;
-        EXPECT_FALSE(get(server.address(), limits));
+        EXPECT_FALSE(get(server.address(), {}, 200ms));
+        EXPECT_FALSE(get(server.address(), {.wholeRequest = 200ms}));
         EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
     }
 }
 
 TEST(CurlHttpClient, ANameServerThatDoesNotAnswerIsLeftInTime)
 {
-    HttpRequest request;
-    request.address = "http://silent.invalid/";
-    request.timeout = 200ms;
-    EXPECT_FALSE(CurlHttpClient("1").sendSynchronousRequest(request));
+    EXPECT_FALSE(get("http://silent.invalid/", {}, 200ms));
 
     std::unique_lock lock(nameServer.mutex);
     EXPECT_TRUE(nameServer.changed.wait_for(lock, 10s, [] { return nameServer.waiting > 0; })) << "waited to the end";
@@ -279,9 +270,8 @@ TEST(CurlHttpClient, TheProxyOfTheEnvironmentIsUsedForOtherMachinesAlone)
 TEST(CurlHttpClient, WithoutALimitNothingIsSent)
 {
     const ScriptedServer server(ScriptedServer::answering("HTTP/1.1 200 OK\r\n\r\n"));
-    CurlHttpClient::Limits limits;
-    limits.body = std::numeric_limits<std::size_t>::max(); // which libcurl does not take
-    EXPECT_FALSE(get(server.address(), limits));
+    constexpr std::size_t refusedByLibcurl = std::numeric_limits<std::size_t>::max();
+    EXPECT_FALSE(get(server.address(), {.body = refusedByLibcurl}));
     EXPECT_EQ(server.connectionCount(), 0);
 }
 
