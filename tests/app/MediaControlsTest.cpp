@@ -16,7 +16,7 @@ protected:
 
     void choose(int item)
     {
-        controls.main.popupbuttonRadioList.chosenByUser(item);
+        popUp.chosenByUser(item);
         (void)media.state();
     }
 
@@ -133,7 +133,7 @@ TEST_F(MediaControlsTest, WhatCameBeforeAQuestionWasAnsweredIsDroppedButPauseAnd
     });
     media.quit();
     EXPECT_EQ(media.state().status, Status::Stopped);
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
     EXPECT_EQ(media.state().volume, volume);
     EXPECT_EQ(platform.alerts.shown.size(), 1U);
     EXPECT_TRUE(controller.player.isMute) << "a click waits for as long as it takes";
@@ -144,8 +144,8 @@ TEST_F(MediaControlsTest, NothingOvertakesARemoval)
     startWithStations("A;http://a/\r");
     choose(1);
     media.play();
-    controls.stationList.winWebRadioListEdit.setIsVisible(true);
-    controls.stationList.tableViewListRadio.selectedByUser({0}, 0);
+    listWindow.setIsVisible(true);
+    table.selectedByUser({0}, 0);
     actions.validateItems();
     platform.alerts.expect("<REMOVE_RADIO_TO_PLAY>", secondButtonAnswer, [&] {
         media.pause();
@@ -163,12 +163,12 @@ TEST_F(MediaControlsTest, WhatWaitsForAServerIsDoneWithinTwoSeconds)
     startWithStations("A;http://a/\rB;http://b/\r");
     for (const auto& [answered, chosen] : {std::pair{"12:00:02", 1}, {"12:00:03", 0}}) {
         platform.clock.set("2016-10-05 12:00:00 +0000");
-        controls.main.popupbuttonRadioList.selectItemAtIndex(0);
+        popUp.selectItemAtIndex(0);
         doWhileTheServerIsAsked([&, answered = answered] {
             media.next();
             platform.clock.set("2016-10-05 " + std::string(answered) + " +0000");
         });
-        EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), chosen) << answered;
+        EXPECT_EQ(popUp.indexOfSelectedItem(), chosen) << answered;
     }
 }
 
@@ -218,7 +218,7 @@ TEST_F(MediaControlsTest, NothingThatWaitsForAServerUndoesAPauseOrAStopThatCameA
         });
         const auto number = &row - cases;
         EXPECT_EQ(media.state().status, row.after) << number;
-        EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), row.chosen) << number;
+        EXPECT_EQ(popUp.indexOfSelectedItem(), row.chosen) << number;
         EXPECT_EQ(media.state().volume, 0.25) << number;
     }
 }

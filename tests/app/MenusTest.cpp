@@ -18,8 +18,8 @@ protected:
 
     void showEditor(bool hasKeyboard)
     {
-        controls.stationList.winWebRadioListEdit.setIsVisible(true);
-        controls.stationList.winWebRadioListEdit.keyWindowChangedByUser(hasKeyboard);
+        listWindow.setIsVisible(true);
+        listWindow.keyWindowChangedByUser(hasKeyboard);
     }
 };
 
@@ -33,9 +33,9 @@ TEST_F(MenusTest, ItemsOfTheListNeedItsWindowWithTheKeyboard)
     EXPECT_EQ(controls.menu.menuRadioShowEditRadio.state().title, "<CLOSE_EDIT_RADIO_LIST>");
     showEditor(true);
     EXPECT_EQ(enabled(), "0 1000 1003 2002 2003 2004 3000 3001 ");
-    controls.stationList.tableViewListRadio.selectedByUser({0}, 0);
+    table.selectedByUser({0}, 0);
     EXPECT_EQ(enabled(), "0 1000 1001 1002 1003 2002 2003 2004 3000 3001 ");
-    controls.stationList.tableViewListRadio.selectedByUser({0, 1}, 1);
+    table.selectedByUser({0, 1}, 1);
     EXPECT_EQ(enabled(), "0 1000 1002 1003 2002 2003 2004 3000 3001 ");
 }
 
@@ -46,8 +46,8 @@ TEST_F(MenusTest, NothingIsEnabledThatActsOnRowsAndItemsLeftOverFromAnErasedList
         keepStations(0);
         startWithStations("A;http://a/\rB;http://b/\r");
         showEditor(true);
-        controls.main.popupbuttonRadioList.chosenByUser(2);
-        controls.stationList.tableViewListRadio.selectedByUser(rows, 1);
+        popUp.chosenByUser(2);
+        table.selectedByUser(rows, 1);
         const std::string whileThere = enabled();
         EXPECT_NE(whileThere.find("1002 "), std::string::npos);
         EXPECT_NE(whileThere.find("2000 "), std::string::npos);
@@ -65,7 +65,7 @@ TEST_F(MenusTest, NothingIsEnabledThatActsOnRowsAndItemsLeftOverFromAnErasedList
         EXPECT_FALSE(controls.preferences.popupDefaultButtonListRadio.state().isEnabled);
         controller.preferencesWindow.setRadioDefault();
         EXPECT_EQ(controller.preferences.PREF_DEFAULT_STATION, "B");
-        controls.stationList.tableViewListRadio.doubleClickedByUser();
+        table.doubleClickedByUser();
         EXPECT_FALSE(controls.editSheet.winEditData.isVisible());
     }
 }
@@ -73,7 +73,7 @@ TEST_F(MenusTest, NothingIsEnabledThatActsOnRowsAndItemsLeftOverFromAnErasedList
 TEST_F(MenusTest, AStreamOfAnErasedListCanBeHeldAndOnceStoppedNotPlayedAgain)
 {
     startWithStations("A;http://a/\r");
-    controls.main.popupbuttonRadioList.chosenByUser(1);
+    popUp.chosenByUser(1);
     controls.main.buttonPlayPause.pressedByUser();
     keepStations(0);
     actions.validateItems();
@@ -88,7 +88,7 @@ TEST_F(MenusTest, AStreamOfAnErasedListCanBeHeldAndOnceStoppedNotPlayedAgain)
 TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)
 {
     startWithStations("A;http://a/\r");
-    controls.main.popupbuttonRadioList.chosenByUser(1);
+    popUp.chosenByUser(1);
     EXPECT_EQ(enabled(), "0 1003 2000 2002 2003 2004 4000 4001 ");
     controls.menu.menuPlayPause.chosenByUser();
     EXPECT_EQ(enabled(), "0 1003 2000 2001 2002 2003 2004 4000 4001 ");
@@ -102,19 +102,19 @@ TEST_F(MenusTest, PlayFollowsThePopUpAndStopThePlayer)
     controls.menu.menuStop.chosenByUser();
     EXPECT_TRUE(controller.player.isStop);
     controls.menu.menuNextStation.chosenByUser();
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
 }
 
 TEST_F(MenusTest, ItemsDoWhatTheirTagsSay)
 {
     startWithStations("A;http://a/\rB;http://b/\rC;http://c/\r");
     controls.menu.menuPreviousStation.chosenByUser();
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 3);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 3);
     controls.menu.menuNextStation.chosenByUser();
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
 
     showEditor(true);
-    controls.stationList.tableViewListRadio.selectedByUser({1}, 1);
+    table.selectedByUser({1}, 1);
     actions.validateItems();
     controls.menu.menuRadioEdit.chosenByUser();
     EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "B");
@@ -126,24 +126,24 @@ TEST_F(MenusTest, ItemsDoWhatTheirTagsSay)
 TEST_F(MenusTest, APlaybackItemLeavesAnOpenCellAlone)
 {
     startWithStations("A;http://a/\r");
-    const unsigned before = controls.stationList.tableViewListRadio.state().endsOfEditing;
+    const unsigned before = table.state().endsOfEditing;
     for (MenuItem* item : {&controls.menu.menuMute, &controls.menu.menuNextStation, &controls.menu.menuPlayPause,
              &controls.menu.menuStop})
         item->chosenByUser();
-    EXPECT_EQ(controls.stationList.tableViewListRadio.state().endsOfEditing, before);
+    EXPECT_EQ(table.state().endsOfEditing, before);
     controls.menu.menuRadioShowEditRadio.chosenByUser();
     platform.alerts.expect("<ALLERT_TEXT_MESSAGE_QUIT>", secondButtonAnswer);
     controls.menu.menuQuit.chosenByUser();
-    EXPECT_EQ(controls.stationList.tableViewListRadio.state().endsOfEditing, before + 2);
+    EXPECT_EQ(table.state().endsOfEditing, before + 2);
 }
 
 TEST_F(MenusTest, TheListItemTogglesItsWindowAndWaitsForThePreferences)
 {
     start();
     controls.menu.menuRadioShowEditRadio.chosenByUser();
-    EXPECT_TRUE(controls.stationList.winWebRadioListEdit.isVisible());
+    EXPECT_TRUE(listWindow.isVisible());
     controls.menu.menuRadioShowEditRadio.chosenByUser();
-    EXPECT_FALSE(controls.stationList.winWebRadioListEdit.isVisible());
+    EXPECT_FALSE(listWindow.isVisible());
     controls.preferences.winPreferences.setIsVisible(true);
     EXPECT_EQ(enabled(), "0 2002 2003 2004 4000 4001 ");
     EXPECT_EQ(controls.menu.menuRadioShowEditRadio.state().title, "<SHOW_EDIT_RADIO_LIST>");

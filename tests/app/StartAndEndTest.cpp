@@ -22,12 +22,12 @@ TEST_F(StartTest, TheStepsComeInTheirOrder)
     const auto logWhenShown = [&](auto& outlet, const std::string& name) {
         outlet.connect(outlet.state(), [this, name](const auto&) { platform.log.push_back(name); });
     };
-    logWhenShown(controls.main.popupbuttonRadioList, "pop-up");
+    logWhenShown(popUp, "pop-up");
     logWhenShown(controls.main.winSonavel, "main window");
     logWhenShown(controls.preferences.checkBoxDefaultAutoPlay, "check box");
     logWhenShown(controls.preferences.sliderDefaultVolume, "default volume");
-    logWhenShown(controls.stationList.tableViewListRadio, "table");
-    logWhenShown(controls.stationList.winWebRadioListEdit, "station list");
+    logWhenShown(table, "table");
+    logWhenShown(listWindow, "station list");
     logWhenShown(controls.main.sliderVolume, "volume");
     logWhenShown(controls.main.buttonPlayPause, "play/pause");
     platform.log.clear();
@@ -61,10 +61,10 @@ TEST_F(StartTest, TheControlsShowThePreferences)
     startWithStations("A;http://a/\r");
     EXPECT_TRUE(controls.preferences.checkBoxDefaultAutoPlay.state().isOn);
     EXPECT_FALSE(controls.preferences.checkBoxDefaultAutoPlayAtStartApp.state().isOn);
-    EXPECT_TRUE(controls.stationList.winWebRadioListEdit.isVisible());
+    EXPECT_TRUE(listWindow.isVisible());
     EXPECT_EQ(controls.main.sliderVolume.floatValue(), 0.25F);
     EXPECT_EQ(controls.preferences.sliderDefaultVolume.state(), (SliderState{0.0, 1.0, 0.25, false}));
-    EXPECT_FALSE(controls.stationList.tableViewListRadio.state().allowsMultipleSelection);
+    EXPECT_FALSE(table.state().allowsMultipleSelection);
     EXPECT_EQ(controls.main.winSonavel.state().frontRequests, 1U);
 }
 
@@ -73,7 +73,7 @@ TEST_F(StartTest, ARefreshAtTheStartStoresThatTheStationListIsHidden)
     putPreferences({{"isVisibleWinEdit", "YES"}});
     platform.clock.microsecond = 123'456;
     start();
-    EXPECT_FALSE(controls.stationList.winWebRadioListEdit.isVisible());
+    EXPECT_FALSE(listWindow.isVisible());
     EXPECT_EQ(controller.preferences.PREF_DATE_UPDATE_LAST_DATACHECK,
         momentFromInternationalForm("2016-10-05 12:00:00 +0000"));
 }
@@ -82,7 +82,7 @@ TEST_F(StartTest, TheFirstStationOfTheDefaultsNameIsSelectedAndPlayedWhenAskedFo
 {
     putPreferences({{"defaultStation", "Same"}, {"isAutoPlayOpenApp", "YES"}, {"defaultVolume", "0.4"}});
     startWithStations("Other;http://other/\rSame;http://first/\rSame;http://second/\r");
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 2);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 2);
     EXPECT_EQ(controls.preferences.popupDefaultButtonListRadio.indexOfSelectedItem(), 2);
     EXPECT_TRUE(controls.main.buttonPlayPause.state().isEnabled);
     EXPECT_EQ(platform.streamPlayers.last().address, Text("http://first/"));
@@ -93,7 +93,7 @@ TEST_F(StartTest, TheDefaultStationIsReadyAndSilentUnlessItIsToPlayAtTheStart)
 {
     putPreferences({{"defaultStation", "A"}, {"isAutoPlay", "YES"}, {"isAutoPlayOpenApp", "NO"}});
     startWithStations("A;http://a/\r");
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
     EXPECT_EQ(controller.player.playRadioLink, Text("http://a/"));
     EXPECT_TRUE(controls.main.buttonPlayPause.state().isEnabled);
     EXPECT_TRUE(controller.player.isStop);
@@ -119,7 +119,7 @@ TEST_F(StartTest, OutletsThatAreNotConnectedAreLeftAlone)
     controller.init();
     controller.awakeFromNib();
     platform.runLoop.turn();
-    EXPECT_EQ(controls.main.popupbuttonRadioList.state(), PopUpButtonState());
+    EXPECT_EQ(popUp.state(), PopUpButtonState());
     EXPECT_EQ(platform.streamPlayers.last().volume, 0.0F);
 }
 
@@ -146,9 +146,9 @@ TEST_F(EndTest, ASessionThatEndsKeepsAnOpenCellAndThePreferences)
     putPreferences({{"defaultStation", "B"}});
     startWithStations("A;http://a/\r");
     controller.preferences.PREF_DEFAULT_STATION = "A";
-    const unsigned before = controls.stationList.tableViewListRadio.state().endsOfEditing;
+    const unsigned before = table.state().endsOfEditing;
     controller.keepWhatIsOpen();
-    EXPECT_EQ(controls.stationList.tableViewListRadio.state().endsOfEditing, before + 1);
+    EXPECT_EQ(table.state().endsOfEditing, before + 1);
     EXPECT_EQ(storedPreferences().at("defaultStation"), Text("A"));
 }
 

@@ -22,15 +22,6 @@ protected:
     }
 };
 
-TEST_F(StationLoadingTest, AFirstStartTakesTheServersList)
-{
-    publishOnline("radio;link\rBeta;http://b/\rAlpha;http://a/\r");
-    start();
-    EXPECT_EQ(list(), "Alpha;http://a/\rBeta;http://b/\r");
-    EXPECT_EQ(database(), Text(list()));
-    EXPECT_EQ(requestsForList(), 1);
-}
-
 TEST_F(StationLoadingTest, ALegacyFileMovesIntoTheDatabase)
 {
     putDatabase("Old;http://old/\r");

@@ -6,10 +6,7 @@ namespace {
 
 class EditSheetTest : public ControllerTest {
 protected:
-    void select(const IndexSet& rows)
-    {
-        controls.stationList.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
-    }
+    void select(const IndexSet& rows) { table.selectedByUser(rows, static_cast<long>(rows.last())); }
 
     void add(const Text& name, const Text& address)
     {
@@ -25,7 +22,7 @@ protected:
         controls.editSheet.textFieldRadioLink.typedByUser(address);
     }
 
-    [[nodiscard]] Text title() const { return controls.stationList.winWebRadioListEdit.state().title; }
+    [[nodiscard]] Text title() const { return listWindow.state().title; }
 };
 
 TEST_F(EditSheetTest, AStationNeedsANameOrAnAddressOfItsLeastLength)
@@ -45,7 +42,7 @@ TEST_F(EditSheetTest, AStationNeedsANameOrAnAddressOfItsLeastLength)
 TEST_F(EditSheetTest, AnAddedStationIsSortedInAndTheLastRowSelected)
 {
     startWithStations("B;http://b/\rC;http://c/\rD;http://d/\r");
-    controls.main.popupbuttonRadioList.chosenByUser(2);
+    popUp.chosenByUser(2);
     controller.editSheet.radioAddToList();
     EXPECT_EQ(controls.editSheet.buttonAction.title(), "<BUTTON_ADD>");
     EXPECT_TRUE(controls.editSheet.winEditData.state().isSheet);
@@ -55,10 +52,10 @@ TEST_F(EditSheetTest, AnAddedStationIsSortedInAndTheLastRowSelected)
     controls.editSheet.buttonAction.pressedByUser();
     EXPECT_EQ(list(), "Aa;http://a/\rB;http://b/\rC;http://c/\rD;http://d/\r");
     EXPECT_EQ(controller.stationList.listRadio()->front()->idRadio(), 4U);
-    EXPECT_EQ(controls.stationList.tableViewListRadio.selectedRowIndexes(), IndexSet{3});
-    EXPECT_EQ(controls.stationList.tableViewListRadio.state().rowToShow, 3);
-    EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 5);
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 0);
+    EXPECT_EQ(table.selectedRowIndexes(), IndexSet{3});
+    EXPECT_EQ(table.state().rowToShow, 3);
+    EXPECT_EQ(popUp.numberOfItems(), 5);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 0);
     EXPECT_EQ(title(), "<WIN_EDIT_RADIO_LIST> (4)");
     EXPECT_FALSE(controls.editSheet.winEditData.isVisible());
     EXPECT_EQ(controls.editSheet.textFieldRadioName.stringValue(), "");
@@ -69,7 +66,7 @@ TEST_F(EditSheetTest, ChangingTakesWhateverIsTypedAndTheStreamGoesOn)
 {
     putPreferences({{"isAutoPlay", "YES"}});
     startWithStations("A;http://a/\rB;http://b/\r");
-    controls.main.popupbuttonRadioList.chosenByUser(1);
+    popUp.chosenByUser(1);
     select({0});
     controller.editorTable.myDoubleClickAction();
     EXPECT_EQ(controls.editSheet.buttonAction.title(), "<BUTTON_EDIT>");

@@ -6,8 +6,6 @@ namespace {
 
 class EditorTableTest : public ControllerTest {
 protected:
-    TableView& table = controls.stationList.tableViewListRadio;
-
     [[nodiscard]] std::string enabledItems() const
     {
         std::string tags;
@@ -26,7 +24,7 @@ TEST_F(EditorTableTest, ACellTakesWhatIsTypedWithoutSeparatorsAndKeepsItsRow)
     table.editedByUser({"", "link", 1});
     EXPECT_EQ(list(), "Z   ;http://a/\rB;\r");
     EXPECT_EQ(database(), Text(list()));
-    EXPECT_EQ(controls.main.popupbuttonRadioList.state().titles->at(1), "Z   ");
+    EXPECT_EQ(popUp.state().titles->at(1), "Z   ");
     EXPECT_EQ(table.textOfCell("radio", 0), "Z   ");
     EXPECT_EQ(table.state().reloads, 1U);
 }
@@ -34,7 +32,7 @@ TEST_F(EditorTableTest, ACellTakesWhatIsTypedWithoutSeparatorsAndKeepsItsRow)
 TEST_F(EditorTableTest, AnUnchangedCellOrOneOfAGoneRowIsNoEdit)
 {
     startWithStations("A;http://a/\rB;http://b/\r");
-    controls.main.popupbuttonRadioList.chosenByUser(1);
+    popUp.chosenByUser(1);
     platform.log.clear();
     table.editedByUser({"A", "radio", 0});
     table.editedByUser({"A;", "radio", 0});
@@ -42,7 +40,7 @@ TEST_F(EditorTableTest, AnUnchangedCellOrOneOfAGoneRowIsNoEdit)
     table.editedByUser({"Z", "radio", -1});
     table.editedByUser({"Z", "other", 0});
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(controls.main.popupbuttonRadioList.indexOfSelectedItem(), 1);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
     EXPECT_TRUE(table.textOfCell("radio", 2).isAbsent());
 }
 
@@ -84,19 +82,18 @@ TEST_F(EditorTableTest, TheToolbarFollowsSelectionAndRows)
 TEST_F(EditorTableTest, TheButtonShowsTheWindowThenBringsItToTheFront)
 {
     startWithStations("A;http://a/\r");
-    Window& window = controls.stationList.winWebRadioListEdit;
-    EXPECT_EQ(window.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
+    EXPECT_EQ(listWindow.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
     keepStations(0);
     controls.main.buttonEditRadioList.setEnabled(true);
     controls.main.buttonEditRadioList.pressedByUser();
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(window.state().title, "<WIN_EDIT_RADIO_LIST> (0)");
+    EXPECT_TRUE(listWindow.isVisible());
+    EXPECT_EQ(listWindow.state().title, "<WIN_EDIT_RADIO_LIST> (0)");
     controls.main.buttonEditRadioList.pressedByUser();
-    EXPECT_EQ(window.state().frontRequests, 0U);
+    EXPECT_EQ(listWindow.state().frontRequests, 0U);
     platform.runLoop.turn();
-    EXPECT_EQ(window.state().frontRequests, 1U);
-    window.closeRequestedByUser();
-    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(listWindow.state().frontRequests, 1U);
+    listWindow.closeRequestedByUser();
+    EXPECT_FALSE(listWindow.isVisible());
 }
 
 } // namespace

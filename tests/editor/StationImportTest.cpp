@@ -22,7 +22,7 @@ protected:
         platform.alerts.expect(erase, answer);
     }
 
-    [[nodiscard]] int items() const { return controls.main.popupbuttonRadioList.numberOfItems(); }
+    [[nodiscard]] int items() const { return popUp.numberOfItems(); }
     [[nodiscard]] Text status() const { return controls.stationList.labelListStatus.stringValue(); }
     [[nodiscard]] bool hasRescueCopy() const
     {
@@ -42,7 +42,7 @@ TEST_F(StationImportTest, AnEmptyListTakesEveryLineAsItStands)
                   [](const std::string& entry) { return entry.starts_with("write "); }),
         1);
     EXPECT_EQ(items(), 4);
-    EXPECT_EQ(controls.stationList.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (0)") << "keeps its count";
+    EXPECT_EQ(listWindow.state().title, "<WIN_EDIT_RADIO_LIST> (0)") << "keeps its count";
     EXPECT_EQ(platform.filePanels.opened->allowedFileType, "csv");
 }
 
@@ -56,7 +56,7 @@ TEST_F(StationImportTest, AMergingImportNumbersWhatIsTaken)
     });
     import("A;1\ra;2\rC;3\rC;4\rA (3);5\rA;6");
     EXPECT_EQ(list(), "A;http://a/\rB;http://b/\rA (3);1\ra;2\rC;3\rC (6);4\rA (3) (7);5\rA (8);6\r");
-    EXPECT_EQ(controls.stationList.tableViewListRadio.numberOfRows(), 7);
+    EXPECT_EQ(table.numberOfRows(), 7);
     EXPECT_EQ(status(), "Imported: 6.");
 }
 
@@ -89,18 +89,18 @@ TEST_F(StationImportTest, AFileWithoutStationsLeavesOldRowsThatNothingTripsOver)
         putDatabase("A;http://a/\rB;http://b/\r");
         keepStations(0);
         startAnswering("A;http://a/\rB;http://b/\r", firstButtonAnswer);
-        controls.stationList.tableViewListRadio.selectedByUser({1}, 1);
+        table.selectedByUser({1}, 1);
         import(content);
         EXPECT_EQ(list(), "");
         EXPECT_EQ(database(), "");
         EXPECT_TRUE(hasRescueCopy());
-        EXPECT_EQ(controls.stationList.tableViewListRadio.state().numberOfRows, 2U) << "no line, no refresh";
-        EXPECT_EQ(controls.main.popupbuttonRadioList.state().titles->size(), 3U);
+        EXPECT_EQ(table.state().numberOfRows, 2U) << "no line, no refresh";
+        EXPECT_EQ(popUp.state().titles->size(), 3U);
 
         controller.editSheet.radioEditToList();
         controller.stationRemoval.radioRemoveToList();
-        controls.stationList.tableViewListRadio.editedByUser({"Z", "radio", 0});
-        controls.main.popupbuttonRadioList.chosenByUser(2);
+        table.editedByUser({"Z", "radio", 0});
+        popUp.chosenByUser(2);
         EXPECT_EQ(list(), "");
         EXPECT_FALSE(controller.player.isPlay);
         EXPECT_EQ(controls.editSheet.winEditData.isVisible(), false);
@@ -112,17 +112,17 @@ TEST_F(StationImportTest, NewStationsDoNotInheritTheSelectionOfThoseThatTheyRepl
     putPreferences({{"enableMultipleSelection", "YES"}});
     for (const bool leavesOldRows : {false, true}) {
         startAnswering("A;http://a/\rB;http://b/\r", firstButtonAnswer);
-        controls.stationList.tableViewListRadio.selectedByUser({0, 1}, 0);
+        table.selectedByUser({0, 1}, 0);
         if (leavesOldRows)
             import("\xFF");
         import("C;http://c/\rD;http://d/\rE;http://e/\r");
-        EXPECT_EQ(controls.stationList.tableViewListRadio.state().numberOfRows, 3U);
-        EXPECT_TRUE(controls.stationList.tableViewListRadio.state().selectedRowIndexes.isEmpty());
+        EXPECT_EQ(table.state().numberOfRows, 3U);
+        EXPECT_TRUE(table.state().selectedRowIndexes.isEmpty());
     }
     startAnswering("A;http://a/\rB;http://b/\r", secondButtonAnswer);
-    controls.stationList.tableViewListRadio.selectedByUser({1}, 1);
+    table.selectedByUser({1}, 1);
     import("C;http://c/\r");
-    EXPECT_EQ(controls.stationList.tableViewListRadio.selectedRow(), 1) << "stations that stay keep it";
+    EXPECT_EQ(table.selectedRow(), 1) << "stations that stay keep it";
 }
 
 TEST_F(StationImportTest, TheCountLimitStopsBeforeTheNextLineWhateverItIs)

@@ -11,13 +11,13 @@ protected:
     {
         putPreferences({{"isAutoPlay", "YES"}, {"enableMultipleSelection", "YES"}});
         startWithStations(listText);
-        controls.main.popupbuttonRadioList.chosenByUser(1);
+        popUp.chosenByUser(1);
         ASSERT_TRUE(controller.player.isPlay);
     }
 
     void remove(const IndexSet& rows, const Text& question, int answer)
     {
-        controls.stationList.tableViewListRadio.selectedByUser(rows, static_cast<long>(rows.last()));
+        table.selectedByUser(rows, static_cast<long>(rows.last()));
         platform.alerts.expect(question, answer);
         controls.stationList.radioRemove.pressedByUser();
     }
@@ -30,8 +30,8 @@ TEST_F(StationRemovalTest, TheChosenStationIsStoppedBeforeItGoes)
     EXPECT_FALSE(controller.player.isPlay);
     EXPECT_EQ(list(), "B;http://b/\r");
     EXPECT_EQ(database(), Text(list()));
-    EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 2);
-    EXPECT_EQ(controls.stationList.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
+    EXPECT_EQ(popUp.numberOfItems(), 2);
+    EXPECT_EQ(listWindow.state().title, "<WIN_EDIT_RADIO_LIST> (1)");
 }
 
 TEST_F(StationRemovalTest, AnotherOfTheSameNameCountsAsTheChosenOne)
@@ -49,29 +49,29 @@ TEST_F(StationRemovalTest, AmongSeveralThePlayingStationGoesWithoutAStop)
     EXPECT_EQ(list(), "B;http://b/\rD;http://d/\r");
     remove({0, 1}, "<REMOVE_ALL_RADIO_SELECTED>", firstButtonAnswer);
     EXPECT_EQ(database(), "");
-    EXPECT_EQ(controls.stationList.tableViewListRadio.selectedRow(), -1);
-    EXPECT_FALSE(controls.main.popupbuttonRadioList.state().isEnabled);
+    EXPECT_EQ(table.selectedRow(), -1);
+    EXPECT_FALSE(popUp.state().isEnabled);
 }
 
 TEST_F(StationRemovalTest, NoLeavesListAndFileAndRefreshesTheTitle)
 {
     startPlayingFirst("A;http://a/\rB;http://b/\r");
     platform.log.clear();
-    controls.stationList.winWebRadioListEdit.setTitle("old");
+    listWindow.setTitle("old");
     remove({1}, "<REMOVE_RADIO>", secondButtonAnswer);
     EXPECT_EQ(list(), "A;http://a/\rB;http://b/\r");
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(controls.stationList.winWebRadioListEdit.state().title, "<WIN_EDIT_RADIO_LIST> (2)");
+    EXPECT_EQ(listWindow.state().title, "<WIN_EDIT_RADIO_LIST> (2)");
 }
 
 TEST_F(StationRemovalTest, RowsLeftOverFromALongerListAreNotRemoved)
 {
     startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
-    controls.stationList.tableViewListRadio.selectedByUser({2}, 2);
+    table.selectedByUser({2}, 2);
     keepStations(2);
     controller.stationRemoval.radioRemoveToList();
     EXPECT_EQ(controller.stationList.numberOfStations(), 2U);
-    controls.stationList.tableViewListRadio.selectedByUser({1, 2}, 2);
+    table.selectedByUser({1, 2}, 2);
     platform.alerts.expect("<REMOVE_RADIO>", firstButtonAnswer);
     controller.stationRemoval.radioRemoveToList();
     EXPECT_EQ(list(), "A;http://a/\r");
@@ -94,9 +94,9 @@ TEST_F(StationRemovalTest, WhatIsSelectedAtTheAnswerGoesAndDecidesAboutTheStop)
     for (const auto& [asked, question, answered, left, isPlaying] : cases) {
         keepStations(0);
         startPlayingFirst("A;http://a/\rB;http://b/\rC;http://c/\r");
-        controls.stationList.tableViewListRadio.selectedByUser(asked, 0);
-        platform.alerts.expect(question, firstButtonAnswer,
-            [this, rows = answered] { controls.stationList.tableViewListRadio.selectedByUser(rows, -1); });
+        table.selectedByUser(asked, 0);
+        platform.alerts.expect(
+            question, firstButtonAnswer, [this, rows = answered] { table.selectedByUser(rows, -1); });
         controls.stationList.radioRemove.pressedByUser();
         EXPECT_EQ(list(), left);
         EXPECT_EQ(controller.player.isPlay, isPlaying) << left;

@@ -27,7 +27,7 @@ TEST_F(StationRefreshTest, NewStationsAndAddressesAreMergedSortedAndStored)
     EXPECT_EQ(list(), "Alpha;http://a/\rBeta;http://b2/\rZeta;http://z/\ralpha;http://a2/\r");
     EXPECT_EQ(database(), Text(list()));
     EXPECT_EQ(controller.stationList.listRadio()->at(2)->idRadio(), 2U);
-    EXPECT_EQ(controls.main.popupbuttonRadioList.numberOfItems(), 3);
+    EXPECT_EQ(popUp.numberOfItems(), 3);
 
     refresh.chekNewRadioOnLine();
     EXPECT_EQ(databaseWrites(), 1);

@@ -5,7 +5,6 @@ namespace {
 
 class StationSelectionTest : public ControllerTest {
 protected:
-    PopUpButton& popUp = controls.main.popupbuttonRadioList;
     Player& player = controller.player;
     StationSelection& selection = controller.stationSelection;
 

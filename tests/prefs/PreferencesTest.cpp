@@ -66,7 +66,7 @@ TEST_F(PreferencesTest, HugeAndOddValuesAreHarmless)
 TEST_F(PreferencesTest, EveryWriteTakesOverWhetherTheStationListIsVisible)
 {
     startWithStations("A;http://a/\r");
-    controls.stationList.winWebRadioListEdit.setIsVisible(true);
+    listWindow.setIsVisible(true);
     controller.preferences.updatePreference();
     EXPECT_EQ(storedPreferences().at("isVisibleWinEdit"), Text("YES"));
 }

@@ -19,7 +19,7 @@ protected:
     {
         controller.init();
         controller.awakeFromNib();
-        return controls.main.popupbuttonRadioList.indexOfSelectedItem();
+        return popUp.indexOfSelectedItem();
     }
 };
 

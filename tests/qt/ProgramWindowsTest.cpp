@@ -29,7 +29,7 @@ TEST_F(ProgramWindowsTest, TheMainWindowIsKeptAboveTheListButNotPutBeforeAnother
         ASSERT_TRUE(handleEventsUntil([&] { return windows.mainWindow().isActiveWindow(); }));
         QWidget another;
         ASSERT_TRUE(!isLeft || activate(another));
-        controls.stationList.winWebRadioListEdit.setIsVisible(true);
+        listWindow.setIsVisible(true);
         const EventCounter raises(windows.mainWindow(), QEvent::ZOrderChange);
         windows.buildOtherWindows();
         EXPECT_EQ(raises.count, isLeft ? 0 : 1);

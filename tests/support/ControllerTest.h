@@ -24,6 +24,9 @@ protected:
     Controls controls;
     WinSonavelController controller{platform.ports(), platform.configuration, controls};
     Actions& actions = controller.actions;
+    PopUpButton& popUp = controls.main.popupbuttonRadioList;
+    Window& listWindow = controls.stationList.winWebRadioListEdit;
+    TableView& table = controls.stationList.tableViewListRadio;
 
     /// Both phases, and the loop's next turn.
     void start()
