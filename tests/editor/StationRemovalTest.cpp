@@ -4,7 +4,6 @@
 namespace sonavel {
 namespace {
 
-/// Texts with their placeholders.
 class StationRemovalTest : public ControllerTest {
 protected:
     void startPlayingFirst(const Text& listText)
