@@ -11,21 +11,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The time zone of this process, until the end of the object.
-class TimeZone : private NonCopyable {
-public:
-    explicit TimeZone(const char* rule)
-    {
-        ::setenv("TZ", rule, 1);
-        ::tzset();
-    }
-    ~TimeZone()
-    {
-        ::unsetenv("TZ");
-        ::tzset();
-    }
-};
-
 TEST(SystemClock, ADayBeginsAtMidnightOfTheUsersTimeZone)
 {
     constexpr const char* india = "<+0530>-5:30";
@@ -41,7 +26,8 @@ TEST(SystemClock, ADayBeginsAtMidnightOfTheUsersTimeZone)
         {centralEurope, "2016-10-29 21:59:59 +0000", 2016y / 10 / 30},
         {centralEurope, "2016-10-30 22:59:59 +0000", 2016y / 10 / 31}};
     for (const auto& [zone, lastSecond, day] : rows) {
-        const TimeZone timeZone(zone);
+        ::setenv("TZ", zone, 1);
+        ::tzset();
         const SystemClock clock;
         const Moment before = momentFromInternationalForm(lastSecond).value();
         const std::chrono::year_month_day dayBefore = std::chrono::sys_days(day) - std::chrono::days(1);
@@ -49,6 +35,8 @@ TEST(SystemClock, ADayBeginsAtMidnightOfTheUsersTimeZone)
         EXPECT_EQ(clock.calendarDay({before.microseconds + 999'999}), dayBefore) << lastSecond;
         EXPECT_EQ(clock.calendarDay(before.advancedBySeconds(1)), day) << lastSecond;
     }
+    ::unsetenv("TZ");
+    ::tzset();
 }
 
 TEST(SystemClock, NowIsTheTimeOfTheMachineToTheHourAtLeast)

@@ -1,5 +1,6 @@
 #include "server/VersionFile.h"
 
+#include "online/VersionRecord.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,81 @@
 
 namespace sonavel {
 namespace {
+
+const std::string needed = "version = 1.3.0\nbuild = 8\n";
+
+PublishedVersion defaults()
+{
+    return {"0.1.0", "1", "", "", {"default"}, "2026-11-01 00:00:00 +0000", "2026-11-02 00:00:00 +0000"};
+}
+
+TEST(VersionText, EveryValueReachesThePlayerAsItWasStated)
+{
+    const std::string lines = "# For the caf\xC3\xA9\n\nversion=1.3.0\n\tbuild = 8 \nnote = One = two\\\n"
+                              "page = https://radio.example.org/get?a=b#c\nlist changed = 2024-02-29 23:59:59 -0330\n"
+                              "note = next, \"quoted\"\napplication = HTTP://[::1]:8080/\n"
+                              "released = 0001-01-01 00:00:00 +0000";
+    std::string windowsLines = "\xEF\xBB\xBF";
+    for (const char character : lines)
+        windowsLines.append(character == '\n' ? "\r" : "").append(1, character);
+
+    for (const std::string& text : {lines, windowsLines}) {
+        const auto version = parseVersionText(text, defaults());
+        ASSERT_TRUE(version) << version.error().why;
+        const auto record = serverVersionRecord(versionResponse(*version, "http://own/"));
+        ASSERT_TRUE(record);
+        EXPECT_EQ(versionText(*record), "1.3.0 (8)");
+        EXPECT_EQ(record->LinkApp, "HTTP://[::1]:8080/");
+        EXPECT_EQ(record->LinkPage, "https://radio.example.org/get?a=b#c");
+        EXPECT_EQ(releaseNotes(*record), "- One = two\\\n- next, \"quoted\"\n");
+        EXPECT_EQ(record->updateApp, "0001-01-01 00:00:00 +0000");
+        EXPECT_EQ(record->updateData, "2024-02-29 23:59:59 -0330");
+    }
+}
+
+TEST(VersionText, WhatIsNotStatedIsTheDefaultButForTheNotes)
+{
+    const auto version = parseVersionText(needed, defaults());
+    ASSERT_TRUE(version);
+    EXPECT_EQ(versionResponse(*version, "http://own/"),
+        "name;Sonavel\rversion;1.3.0\rbuild;8\rapplication;http://own/\rpage;http://own/\rnotes;\r"
+        "released;2026-11-01 00:00:00 +0000\rlist changed;2026-11-02 00:00:00 +0000\r");
+}
+
+TEST(VersionText, WhatTheResponseCannotCarryIsRefusedWithItsLineAndReason)
+{
+    const struct {
+        std::string text;
+        std::size_t line;
+        std::string named; ///< a part of the reason
+    } errors[] = {{"", 1, "without a \"version\""}, {"# empty\n\n", 2, "without a \"version\""},
+        {"version = 1\n# end", 2, "without a \"build\""}, {needed + "note = a;b", 3, "a \";\""},
+        {needed + "note = a\rb", 3, "control"}, {needed + std::string("note = a\0b", 10), 3, "control"},
+        {needed + "note = \x7F", 3, "control"}, {needed + "note = caf\xC3\xA9", 3, "outside ASCII"},
+        {needed + "note = good\nnote = a\\nb", 4, R"("\n")"}, {needed + "note =\n", 3, "no value"},
+        {needed + "note\n", 3, "no \"=\""}, {needed + "= x\n", 3, "\"\" is none"},
+        {needed + "Note = x\n", 3, "\"Note\" is none"}, {needed + "\x1B[31m\xE9\n = x\n", 3, "\" [31m\xC3\xA9\""},
+        {needed + "build = 9\n", 3, "second time"},
+        {needed + "list changed = 2026-11-01 00:00:00 +0000\nlist changed = 2026-11-01 00:00:00 +0000", 4, "second"},
+        {"version = 1.3.0.1\n", 1, "\"version\" takes"}, {"version = 1..3\n", 1, "\"version\" takes"},
+        {"version = 1.3 beta\n", 1, "\"version\" takes"}, {"build = 8a\n", 1, "\"build\" takes"},
+        {"build = 9223372036854775808\n", 1, "\"build\" takes"},
+        {"released = 2026-02-29 00:00:00 +0000\n", 1, "\"released\" takes"},
+        {"released = 2026-11-01T00:00:00Z\n", 1, "\"released\" takes"},
+        {"list changed = 0000-01-01 00:00:00 +0000\n", 1, "\"list changed\" takes"},
+        {"list changed = 2026-11-01 24:00:00 +0000\n", 1, "\"list changed\" takes"},
+        {"page = radio.example.org\n", 1, "\"page\" takes"}, {"page = http://\n", 1, "\"page\" takes"},
+        {"page = javascript:alert(1)\n", 1, "\"page\" takes"},
+        {"application = file:///sonavel.deb\n", 1, "\"application\" takes"}};
+    for (const auto& [text, line, named] : errors) {
+        const auto version = parseVersionText(text, defaults());
+        ASSERT_FALSE(version) << text;
+        const auto& [errorLine, why] = version.error();
+        EXPECT_EQ(errorLine, line) << text;
+        EXPECT_NE(why.find(named), std::string::npos) << why;
+        EXPECT_EQ(why.find_first_of("\r\n\x1B"), std::string::npos) << why;
+    }
+}
 
 const std::string name(VersionFile::fileName);
 
@@ -20,10 +96,8 @@ class VersionFileTest : public testing::Test {
 protected:
     auto create()
     {
-        PublishedVersion defaultVersion;
-        defaultVersion.version = "0.1.0";
         return VersionFile::create(
-            folder_.path(), defaultVersion, [this](const std::string& sentence) { reports_.push_back(sentence); });
+            folder_.path(), defaults(), [this](const std::string& sentence) { reports_.push_back(sentence); });
     }
 
     const test::TemporaryFolder folder_;

@@ -49,6 +49,7 @@ TEST_F(PlistPreferenceDomainsTest, ADomainIsStoredOnceItIsSynchronized)
     domains.synchronize();
     EXPECT_EQ(storedOnDisk(), some);
     EXPECT_EQ(files.files.size(), 1);
+    EXPECT_TRUE(files.folders.contains("/home/listener/Library/Preferences")) << "a missing folder is made";
 
     store(domains, other);
     EXPECT_EQ(domains.persistentDomainForName(name), other);
@@ -114,13 +115,6 @@ TEST_F(PlistPreferenceDomainsTest, AFailedWriteLeavesTheFormerDomainAndIsTriedAg
     files.log.clear();
     domains.synchronize();
     EXPECT_TRUE(files.log.empty()) << "nothing was set, nothing is written";
-}
-
-TEST_F(PlistPreferenceDomainsTest, AMissingFolderIsMade)
-{
-    PlistPreferenceDomains domains(files);
-    store(domains, some);
-    EXPECT_TRUE(files.folders.contains("/home/listener/Library/Preferences"));
 }
 
 } // namespace
