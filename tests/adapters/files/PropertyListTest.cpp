@@ -96,13 +96,6 @@ TEST(PropertyList, WhatIsNoDictionaryGivesNothing)
         EXPECT_EQ(domainFromPropertyList(bytes), std::nullopt) << testing::PrintToString(bytes);
 }
 
-TEST(PropertyList, NoFileOfTheMachineIsReadForAnEntity)
-{
-    const auto domain = domainFromPropertyList(
-        "<!DOCTYPE plist SYSTEM \"file:///etc/hostname\">" + xml("<dict><key>a</key><string>b</string></dict>"));
-    EXPECT_TRUE(!domain || domain->at("a") == Text("b"));
-}
-
 TEST(PropertyList, AFileBeyondAllMeasureGivesNothingAtOnce)
 {
     std::string deep;
