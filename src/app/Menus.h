@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <span>
+#include <utility>
 
 namespace sonavel {
 
@@ -58,9 +59,9 @@ struct TaggedItem {
 
 class Menus : private NonCopyable {
 public:
-    Menus(MenuControls& controls, const MenuTargets& targets, const LocalizedStrings& localizedStrings)
+    Menus(MenuControls& controls, MenuTargets targets, const LocalizedStrings& localizedStrings)
         : controls_(controls)
-        , targets_(targets)
+        , targets_(std::move(targets))
         , localizedStrings_(localizedStrings)
     {
     }
